@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Base/KivString.h"
+#include "Base/KivUnicodeString.h"
+
+#include <functional>
+
+// One thing that went wrong with what the program was given, said to a person.
+struct KivDiagnostic {
+    enum class Severity { Note, Warning, Error };
+
+    Severity severity = Severity::Warning;
+    KivUnicodeString text; // one sentence without file, line and key
+    KivUnicodeString file; // the file at fault, or empty
+    int line = 0;          // 1-based, or 0 when no line is at fault
+    KivString key;         // the setting at fault, or empty
+
+    // "file:line: key: text", without the parts that are empty.
+    KivUnicodeString Words() const;
+};
+
+using KivDiagnosticSink = std::function<void(const KivDiagnostic&)>;
+
+// Says a diagnostic to the one sink of the process (standard error until another one is set).
+void KivReport(const KivDiagnostic& diagnostic);
+
+// Replaces the sink and answers the one it replaces; an empty one stands for standard error.
+KivDiagnosticSink KivSetDiagnosticSink(KivDiagnosticSink sink);

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "Base/KivListOf.h"
+#include "Base/KivUnicodeString.h"
+
+using KivListOfUnicodeString = KivListOf<KivUnicodeString>;

@@ -1,0 +1,133 @@
+#pragma once
+
+#include "Base/KivResult.h"
+#include "Base/KivUnicodeString.h"
+#include "Settings/KivSettingInfo.h"
+
+#include <functional>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <vector>
+
+class KivSettingStore;
+
+// One named, persistent set of typed settings, resolved over the administrator's layers and the user's own
+// file. One object a name and process, used from the user-interface thread; owned by the framework.
+//
+// A read answers the value in force. A write changes the working state; Commit makes that state the point
+// which Rollback returns to; SaveRepository makes it durable.
+class KivSettingRepository {
+public:
+    // What SaveRepository did. Everything up to Nothing is safe from a power failure.
+    enum class Receipt {
+        Nothing, // nothing had changed; no file was touched
+        Durable, // on disk, file and directory flushed
+        Visible, // in place for every reader, but the directory could not be flushed
+        Refused, // not written; every change is still there and the next save writes it
+    };
+
+    using Keys = std::vector<KivString>;
+    using Listener = std::function<void(const Keys& changed)>;
+    using ListenerId = unsigned int;
+
+    // The repository of a name; created on first use, then the same one for the life of the process. Null for
+    // a name that is no plain file name. The other arguments are the framework's: domain (0), access (1: read
+    // and write) and controller (none).
+    static KivSettingRepository* GetRepository(const char* name, int domain = 0, int access = 1,
+                                               const char* controller = nullptr);
+
+    // Reads one value into the caller's variable. E_FAIL, and the variable untouched, when the key is absent,
+    // of another type, or count is not 1.
+    HRESULT ReadSetting(const char* key, int* value, long count) const;
+    HRESULT ReadSetting(const char* key, unsigned int* value, long count) const;
+    HRESULT ReadSetting(const char* key, float* value, long count) const;
+    HRESULT ReadSetting(const char* key, double* value, long count) const;
+    HRESULT ReadSetting(const char* key, KivUnicodeString* value, long count) const;
+
+    // Writes one value into the working state as the user's; a value of another type is replaced. E_FAIL, and
+    // nothing changed, when the key is locked, is no plain identifier, the value is not finite, or count is
+    // not 1. The last argument is the framework's and has to be 0.
+    HRESULT WriteSetting(const char* key, const int* value, long count, int reserved);
+    HRESULT WriteSetting(const char* key, const unsigned int* value, long count, int reserved);
+    HRESULT WriteSetting(const char* key, const float* value, long count, int reserved);
+    HRESULT WriteSetting(const char* key, const double* value, long count, int reserved);
+    HRESULT WriteSetting(const char* key, const KivUnicodeString* value, long count, int reserved);
+
+    // Fills the record of a key. E_FAIL, and the record left empty but for the names, when no layer knows the
+    // key; the reserved argument is 0.
+    HRESULT GetInfo(const char* key, KivSettingInfo* info, int reserved) const;
+
+    // Delivers the attributes one by one, in the order of the files. Not zero when there is none (left).
+    // name and type: buffers of at least 256 characters; count: receives 1; restart: not zero starts anew.
+    // A repository whose user file exists but could not be read never looks empty: it delivers what it has
+    // and, failing that, one attribute of an empty name, so that nobody takes it for new and writes over it.
+    HRESULT NextAttribute(char* name, char* type, long* count, int restart);
+
+    // Makes the working state the one to return to. Not zero: listeners are told which keys have changed
+    // since the last commit.
+    HRESULT Commit(int notify);
+
+    // Goes back to the state of the last commit; listeners are told which keys that changed.
+    HRESULT Rollback();
+
+    // Makes the working state durable and the point to return to. S_OK unless the receipt is Refused. The
+    // path is the framework's and has to be null: the user's own file, or the layer opened for an
+    // administrator.
+    HRESULT SaveRepository(const char* path);
+    Receipt LastReceipt() const;
+
+    // Drops the user's value of each key, so that the administrator's shows, else the reader's default. Part
+    // of the working state. Keys that are not there are passed over.
+    HRESULT ResetToAdminValues(const char* const* keys, int count);
+
+    // Told after a commit, rollback or refresh which keys show another value. May be removed while it is
+    // called.
+    ListenerId AddListener(Listener listener);
+    void RemoveListener(ListenerId listener);
+
+    // True when the user's file is there but cannot be read: administrator values and defaults are served,
+    // saves are refused and say so.
+    bool IsProtected() const;
+
+    // Takes what another process has saved since; uncommitted changes of this one stay on top.
+    void Refresh();
+
+    // Writes a value as the user's with the mark "initial": present everywhere, but an administrator's
+    // unlocked value wins over it until somebody writes the key again. While a scope is alive every
+    // WriteSetting of the repository marks the keys that had no value of the user's.
+    class InitialScope {
+    public:
+        explicit InitialScope(KivSettingRepository& repository);
+        ~InitialScope();
+        InitialScope(const InitialScope&) = delete;
+        InitialScope& operator=(const InitialScope&) = delete;
+
+    private:
+        KivSettingRepository& _repository;
+        bool _before;
+    };
+
+    // For the programs: opens every repository asked for from now on on this administrator layer instead of
+    // the user's file; the layer must be one of the known ones or any directory of its own. Empty: the user's
+    // file.
+    static void SetEditedLayer(const KivUnicodeString& directory);
+
+    // Administrator mode only: locks or unlocks a key in the edited layer, part of the working state. E_FAIL
+    // for a key that an outer layer locks, and for users.
+    HRESULT SetLock(const char* key, bool locked);
+    bool IsAdministrator() const;
+
+    // For tests and tools: forgets every repository of the process without saving, so that the next
+    // GetRepository reads the files anew. Pointers obtained before are dead.
+    static void ForgetAll();
+
+    KivSettingRepository(const KivSettingRepository&) = delete;
+    KivSettingRepository& operator=(const KivSettingRepository&) = delete;
+    ~KivSettingRepository();
+
+private:
+    explicit KivSettingRepository(std::string_view name);
+
+    std::unique_ptr<KivSettingStore> _store;
+};
