@@ -1,0 +1,72 @@
+#pragma once
+
+#include "Base/KivString.h"
+#include "Command/KivNotification.h"
+#include "Command/KivWeakPtr.h"
+#include "Component/KivClass.h"
+
+#include <vector>
+
+using KivCallback = unsigned int;
+
+// The base of everything that sends and receives notifications. Who subscribes and who is subscribed to may
+// die in any order, also while a notification is under way.
+class KivCommand : public KivClass<KivCommand, KivBaseUnknown> {
+public:
+    static constexpr const char* Name = "KivCommand";
+    using Method = void (KivCommand::*)(KivCommand* from, KivNotification* notification, void* data);
+
+    KivCommand(KivCommand* parent, const KivString& name);
+    ~KivCommand() override;
+
+    // The name by which the user's catalogues and other code know this object.
+    virtual KivString GetName() const { return _name; }
+    KivCommand* GetParent() const { return _parent.Get(); }
+
+    // From now on a notification of `from` calls a method of this object, as method(from, notification,
+    // data). A null publisher or notification subscribes nothing and answers 0.
+    template <class T>
+    KivCallback AddAnalyseNotificationCB(KivCommand* from, KivNotification* notification,
+                                         void (T::*method)(KivCommand*, KivNotification*, void*), void* data)
+    {
+        return Subscribe(from, notification, static_cast<Method>(method), data);
+    }
+    void RemoveAnalyseNotificationCB(KivCommand* from, KivCallback callback);
+
+    // Calls every subscriber, in the order of subscription. Nothing is sent by or to what waits for its
+    // destruction.
+    void SendNotification(KivNotification* notification);
+
+    // Destroys this object once the current event is over (DrainDelayedDestruction); at once it stops sending
+    // and receiving.
+    void RequestDelayedDestruction();
+    // True when the destruction of this object or of one of its parents was asked for.
+    bool IsCondemned() const;
+    // Called by hosts between events: destroys what asked for it. Inside a notification it does nothing, so
+    // that no object dies while a callback of its own runs.
+    static void DrainDelayedDestruction();
+
+protected:
+    void SetName(const KivString& name) { _name = name; }
+    void SetParent(KivCommand* parent) { _parent = parent; }
+
+private:
+    friend class KivWeakLink;
+
+    struct Subscription {
+        KivCallback id;
+        KivNotification* notification;
+        KivWeakPtr<KivCommand> subscriber;
+        Method method;
+        void* data;
+    };
+    KivCallback Subscribe(KivCommand* from, KivNotification* notification, Method method, void* data);
+    bool Deliver(const Subscription& subscription, KivNotification* notification);
+
+    KivString _name;
+    KivWeakPtr<KivCommand> _parent; // not owned
+    KivWeakLink* _watchers = nullptr;
+    std::vector<Subscription> _subscriptions; // to this object's notifications
+    KivCallback _lastCallback = 0;
+    bool _condemned = false;
+};
