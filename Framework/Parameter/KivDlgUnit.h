@@ -1,0 +1,28 @@
+#pragma once
+
+// What a control's value is a measure of. The numbers are kept by controls and passed as they are; 11 is what
+// a control answers that has no magnitude of its own to answer.
+enum KivDlgMagnitude : int {
+    KivDlgMagnitudeNone = 0,    // a plain number
+    KivDlgMagnitudeLength = 11, // stored in metres
+    KivDlgMagnitudeAngle = 12,  // stored in radians
+    KivDlgMagnitudeTime = 13,   // stored in seconds
+};
+
+// The unit in which a control shows its value and takes what is typed.
+enum KivDlgUnit : int {
+    KivDlgUnitNone = 0, // a plain number, shown as it is stored
+    KivDlgUnitRadian = 11,
+    KivDlgUnitDegree = 12,
+    KivDlgUnitGrade = 13,
+    KivDlgUnitMetre = 41,
+    KivDlgUnitMillimetre = 42,
+    KivDlgUnitCentimetre = 43,
+    KivDlgUnitKilometre = 44,
+    KivDlgUnitInch = 45,
+    KivDlgUnitFoot = 46,
+    KivDlgUnitFeetInchOver64 = 47,
+    KivDlgUnitFeetInchOver16 = 48,
+    KivDlgUnitFeetDecimalInch = 49,
+    KivDlgUnitSecond = 97,
+};

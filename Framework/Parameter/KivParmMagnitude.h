@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Parameter/KivDlgUnit.h"
+#include "Parameter/KivParmUnit.h"
+
+#include <optional>
+
+// A magnitude of the parameter engine, and the unit that the user has chosen for it.
+class KivParmMagnitude {
+public:
+    KivParmMagnitude(const KivString& type, KivDlgMagnitude kind, const KivString& unit)
+        : _type(type), _kind(kind), _unit(KivParmUnit(unit))
+    {}
+
+    const KivString& Type() const { return _type; }
+    KivDlgMagnitude Kind() const { return _kind; }
+
+    // The current unit, or null when there is none. It belongs to the magnitude and lives until the unit
+    // changes.
+    const KivParmUnit* CurrentUnit() const { return _unit ? &*_unit : nullptr; }
+
+private:
+    friend class KivParmEngine; // changes are made there, where listeners are told
+
+    KivString _type;
+    KivDlgMagnitude _kind;
+    std::optional<KivParmUnit> _unit;
+};

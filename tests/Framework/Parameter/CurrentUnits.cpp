@@ -1,0 +1,111 @@
+#include "Parameter/KivControlUnit.h"
+#include "Parameter/KivParmDictionary.h"
+#include "Parameter/KivParmEngine.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+
+namespace {
+
+class CurrentUnits : public testing::Test {
+protected:
+    ~CurrentUnits() override
+    {
+        _engine.Withhold(kLength, false);
+        _engine.SetCurrentUnit(kLength, "mm");
+        _engine.SetCurrentUnit(kAngle, "deg");
+    }
+
+    std::string Unit(const char* type) const
+    {
+        const KivParmMagnitude* const magnitude = _engine.Magnitude(type);
+        if (!magnitude) return "no magnitude";
+        const KivParmUnit* const unit = magnitude->CurrentUnit();
+        return unit ? std::string(unit->Name().View()) : "no unit";
+    }
+
+    static constexpr const char* kLength = KivParmDictionary::LengthType;
+    static constexpr const char* kAngle = KivParmDictionary::AngleType;
+    KivParmEngine& _engine = KivParmEngine::Instance();
+};
+
+TEST_F(CurrentUnits, EveryNameSelectsItsNumber)
+{
+    const std::map<std::string, int> lengths{{"METER", 41},   {"MM", 42},      {"CM", 43},
+                                             {"KM", 44},      {"INCH", 45},    {"FOOT", 46},
+                                             {"F_I_F64", 47}, {"F_I_F16", 48}, {"F_I_DEC", 49}};
+    const std::map<std::string, int> angles{{"RADIAN", 11}, {"DEGREE", 12}, {"GRADE", 13}};
+    for (const auto& [name, number] : lengths) {
+        EXPECT_TRUE(_engine.SetCurrentUnit(kLength, name));
+        EXPECT_EQ(Unit(kLength), name);
+        EXPECT_EQ(KivControlUnit::Named(name, KivDlgMagnitudeLength)->number, number);
+        EXPECT_EQ(KivControlUnit::Named(name, KivDlgMagnitudeAngle), nullptr);
+    }
+    for (const auto& [name, number] : angles)
+        EXPECT_EQ(KivControlUnit::Named(name, KivDlgMagnitudeAngle)->number, number);
+    EXPECT_EQ(KivControlUnit::Named("mm", KivDlgMagnitudeLength), nullptr);
+}
+
+TEST_F(CurrentUnits, PeopleCallThemInTheirWay)
+{
+    for (const char* word : {"inch", "IN", "Inches", "\""}) {
+        EXPECT_TRUE(_engine.SetCurrentUnit(kLength, "m"));
+        EXPECT_TRUE(_engine.SetCurrentUnit(kLength, word)) << word;
+        EXPECT_EQ(Unit(kLength), "INCH");
+    }
+    for (const char* word : {"", "deg", "parsec", "mm ", "f i dec"})
+        EXPECT_FALSE(_engine.SetCurrentUnit(kLength, word)) << word;
+    EXPECT_FALSE(_engine.SetCurrentUnit("MASS", "mm"));
+    EXPECT_EQ(Unit(kLength), "INCH");
+    EXPECT_TRUE(_engine.SetCurrentUnit(kAngle, "gon"));
+    EXPECT_EQ(Unit(kAngle), "GRADE");
+}
+
+TEST_F(CurrentUnits, MagnitudeUnitOrBothMayBeMissing)
+{
+    EXPECT_EQ(Unit("MASS"), "no magnitude");
+    EXPECT_TRUE(_engine.SetForeignUnit(kLength, "FURLONG"));
+    EXPECT_EQ(Unit(kLength), "FURLONG");
+    EXPECT_TRUE(_engine.SetForeignUnit(kLength, nullptr));
+    EXPECT_EQ(Unit(kLength), "no unit");
+    _engine.Withhold(kLength, true);
+    EXPECT_EQ(Unit(kLength), "no magnitude");
+    EXPECT_EQ(Unit(kAngle), "DEGREE");
+    _engine.Withhold(kLength, false);
+    EXPECT_TRUE(_engine.SetCurrentUnit(kLength, "km"));
+    EXPECT_EQ(Unit(kLength), "KM");
+}
+
+TEST_F(CurrentUnits, ListenersHearOfChangesAlone)
+{
+    std::string heard;
+    int once = 0;
+    int late = 0;
+    const auto hear = [&heard](const char* who) {
+        return [&heard, who](const KivParmMagnitude& m) {
+            heard += std::string(who) + ":" + m.CurrentUnit()->Name().ConvertToChar() + " ";
+        };
+    };
+    once = _engine.AddListener([&](const KivParmMagnitude&) {
+        heard += "once ";
+        _engine.RemoveListener(once);
+        late = _engine.AddListener(hear("late"));
+    });
+    const int always = _engine.AddListener(hear("always"));
+    EXPECT_EQ(_engine.AddListener({}), 0);
+
+    _engine.SetCurrentUnit(kLength, "mm");
+    EXPECT_EQ(heard, "");
+    _engine.SetCurrentUnit(kLength, "cm");
+    EXPECT_EQ(heard, "once always:CM ");
+    _engine.SetCurrentUnit(kAngle, "rad");
+    EXPECT_EQ(heard, "once always:CM always:RADIAN late:RADIAN ");
+    _engine.RemoveListener(always);
+    _engine.RemoveListener(late);
+    _engine.SetCurrentUnit(kLength, "m");
+    EXPECT_EQ(heard, "once always:CM always:RADIAN late:RADIAN ");
+}
+
+} // namespace

@@ -1,0 +1,171 @@
+#include "Parameter/KivControlUnit.h"
+#include "Parameter/KivMeasure.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <random>
+#include <string>
+
+namespace {
+
+constexpr double kUntouched = 77.0;
+
+double Typed(const std::string& text, KivDlgUnit unit)
+{
+    double stored = kUntouched;
+    EXPECT_TRUE(KivMeasure::Read(KivUnicodeString(text), unit, stored)) << text;
+    return stored;
+}
+
+TEST(TypedMeasures, EveryWayToWriteALength)
+{
+    struct Case {
+        const char* text;
+        KivDlgUnit unit;
+        double metres;
+    };
+    const Case cases[] = {
+        {"20", KivDlgUnitMillimetre, 0.02},
+        {"20mm", KivDlgUnitInch, 0.02},
+        {"0.02 m", KivDlgUnitMillimetre, 0.02},
+        {"2 cm", KivDlgUnitMillimetre, 0.02},
+        {"0,00002 KM", KivDlgUnitMillimetre, 0.02},
+        {"1in", KivDlgUnitMillimetre, 0.0254},
+        {"1 Inch", KivDlgUnitMillimetre, 0.0254},
+        {"3 in.", KivDlgUnitMillimetre, 0.0762},
+        {"25.4 mm", KivDlgUnitMillimetre, 0.0254},
+        {"25,4", KivDlgUnitMillimetre, 0.0254},
+        {" \t+ 25.4\u00A0mm ", KivDlgUnitMetre, 0.0254},
+        {"2.54e1\u202Fmm", KivDlgUnitMetre, 0.0254},
+        {"\u22125 mm", KivDlgUnitMetre, -0.005},
+        {".5", KivDlgUnitMetre, 0.5},
+        {"5.", KivDlgUnitMetre, 5.0},
+        {"3 1/2", KivDlgUnitMillimetre, 0.0035},
+        {"3 1/2\"", KivDlgUnitMillimetre, 0.0889},
+        {"3\u00BD", KivDlgUnitInch, 0.0889},
+        {"1 / 2 in", KivDlgUnitMillimetre, 0.0127},
+        {"2'", KivDlgUnitMillimetre, 0.6096},
+        {"2", KivDlgUnitFoot, 0.6096},
+        {"2.5 feet", KivDlgUnitMillimetre, 0.762},
+        {"2", KivDlgUnitFeetInchOver64, 0.0508},
+        {"2", KivDlgUnitFeetDecimalInch, 0.0508},
+        {"2' 3 1/2\"", KivDlgUnitMillimetre, 0.6985},
+        {"2'-3 1/2\"", KivDlgUnitMillimetre, 0.6985},
+        {"2' - 3 1/2", KivDlgUnitFeetInchOver16, 0.6985},
+        {"-2'3.5''", KivDlgUnitMillimetre, -0.6985},
+        {"2 ft 3,5 in", KivDlgUnitMillimetre, 0.6985},
+        {"2\u2032 3\u215C\u2033", KivDlgUnitMillimetre, 27.375 * 0.0254},
+        {"2\u2019 14\u201D", KivDlgUnitMillimetre, 38 * 0.0254},
+    };
+    for (const Case& c : cases) EXPECT_DOUBLE_EQ(Typed(c.text, c.unit), c.metres) << c.text;
+    EXPECT_FALSE(std::signbit(Typed("-0", KivDlgUnitMillimetre)));
+}
+
+TEST(TypedMeasures, NothingElseIsTakenAndTheValueStays)
+{
+    const char* const texts[] = {
+        "",          " ",       "-",          "abc",       "mm",       "1.234,5", "1,234.5",
+        "1.2.3",     "1 234",   "1\u00A0234", "1'234",     "1'1'",     "2''3'",   "2' mm",
+        "2' 3mm",    "2'-",     "2' --3",     "2' -3'",    "--5",      "+-5",     "5-",
+        "5 mm mm",   "5 mm 3",  "5 mm 3 in",  "5 in 3 ft", "1/0",      "3 1/0\"", "1/2/3",
+        "3.5 1/2",   "1e3 1/2", "1\u00BD2",   "1/",        "3 1/",     "/2",      "0x10",
+        "1e",        "1e+",     "1e400",      "1e308 km",  "nan",      "inf",     "-infinity mm",
+        "1 rad",     "1\u00B0", "1 gr",       "1 s",       "5 parsec", "5 mm2",   "5\xC2",
+        "5 F_I_F64", ".",       ",",          "'",         "\"",       "5..",     "5e5e5",
+    };
+    for (const char* text : texts) {
+        double stored = kUntouched;
+        EXPECT_FALSE(KivMeasure::Read(text, KivDlgUnitMillimetre, stored)) << text;
+        EXPECT_EQ(stored, kUntouched) << text;
+    }
+    double stored = kUntouched;
+    for (const char* text : {"5 mm", "1/2", "2'", "5\u00B0", "1e999"})
+        EXPECT_FALSE(KivMeasure::Read(text, KivDlgUnitNone, stored)) << text;
+    for (const char* text : {"5 mm", "2'", "3\"", "5 s"})
+        EXPECT_FALSE(KivMeasure::Read(text, KivDlgUnitDegree, stored)) << text;
+    EXPECT_FALSE(KivMeasure::Read("2 1", KivDlgUnitFoot, stored));
+    EXPECT_FALSE(KivMeasure::Read(KivUnicodeString(std::string("5\0mm", 4)), KivDlgUnitMetre, stored));
+    EXPECT_FALSE(KivMeasure::Read(KivUnicodeString(std::string(1000000, '1')), KivDlgUnitMetre, stored));
+    EXPECT_EQ(stored, kUntouched);
+}
+
+// Settings hold millimetres, taken as 1000.0 times the metres of a spinner.
+TEST(TypedMeasures, MillimetresComeBackExactly)
+{
+    for (int n = 0; n <= 1000; ++n)
+        ASSERT_EQ(Typed(std::to_string(n), KivDlgUnitMillimetre) * 1000.0, static_cast<double>(n));
+    EXPECT_EQ(Typed("1", KivDlgUnitInch) * 1000.0, 25.4);
+    for (const char* text : {"20", "2 cm", "0.02 m", "20mm"})
+        EXPECT_EQ(Typed(text, KivDlgUnitMillimetre) * 1000.0, 20.0) << text;
+
+    // Above, some numbers have no double that gives them back; no neighbour of the answer would do better.
+    for (int n = 1001; n <= 20000; ++n) {
+        const double metres = Typed(std::to_string(n), KivDlgUnitMillimetre);
+        const double error = std::abs(metres * 1000.0 - n);
+        ASSERT_LE(error, std::abs(std::nextafter(metres, 1e9) * 1000.0 - n)) << n;
+        ASSERT_LE(error, std::abs(std::nextafter(metres, 0.0) * 1000.0 - n)) << n;
+    }
+}
+
+TEST(TypedMeasures, Angles)
+{
+    for (int degrees = -720; degrees <= 720; ++degrees) {
+        const double radians = Typed(std::to_string(degrees), KivDlgUnitDegree);
+        ASSERT_DOUBLE_EQ(radians, static_cast<double>(degrees * std::numbers::pi_v<long double> / 180.0L));
+        ASSERT_NEAR(radians * 57.295779513082, degrees, std::abs(degrees) * 6e-15);
+    }
+    EXPECT_EQ(Typed("180\u00B0", KivDlgUnitRadian), std::numbers::pi);
+    EXPECT_EQ(Typed("180\u00BA", KivDlgUnitRadian), std::numbers::pi);
+    EXPECT_EQ(Typed("200 gon", KivDlgUnitDegree), std::numbers::pi);
+    EXPECT_EQ(Typed("1,5 rad", KivDlgUnitDegree), 1.5);
+    EXPECT_EQ(Typed("90 Deg", KivDlgUnitGrade), std::numbers::pi / 2);
+    EXPECT_EQ(Typed("2", KivDlgUnitSecond), 2.0);
+}
+
+// What is shown and taken again as it stands moves the value by no more than the rounding of the text.
+TEST(TypedMeasures, WhatIsShownIsUnderstood)
+{
+    const double values[] = {0.0,        0.02,      0.0254,     0.3048,     0.304799999, 1.0 / 3, 1.0,
+                             12.3456789, 0.9999999, 1e-7,       1e-12,      1e-300,      5e-324,  1234567.891,
+                             1e9,        1e12,      2.0e11 / 7, 98765.4321, 1e15,        3.0e20,  1e300};
+    for (const KivControlUnit& unit : KivControlUnit::All())
+        for (const int precision : {-1, 0, 3, 6, 17, 99})
+            for (const double value : values)
+                for (const double sign : {1.0, -1.0}) {
+                    const double stored = sign * value;
+                    const KivUnicodeString text = KivMeasure::Print(stored, unit.number, precision);
+                    const int decimals =
+                        unit.notation == KivNotation::FeetInchFraction ? 0 : std::clamp(precision, 0, 17);
+                    const double step = unit.denominator ? 1.0 / unit.denominator : std::pow(10.0, -decimals);
+                    double read = kUntouched;
+                    ASSERT_TRUE(KivMeasure::Read(text, unit.number, read)) << text.View();
+                    ASSERT_NEAR(read, stored, unit.ToStored(step) * 0.500001 + value * 1e-15) << text.View();
+                }
+}
+
+TEST(TypedMeasures, AnyTextIsBorne)
+{
+    const std::string alphabet[] = {
+        "1",   "0",      "12",     ".",    ",",    "/",      "'",
+        "\"",  "-",      "+",      " ",    "e",    "mm",     "in",
+        "ft",  "\u00B0", "\u00BD", "\xE2", "\x80", "\u2032", "9999999999999999999",
+        "e308"};
+    std::mt19937 random(4711);
+    int taken = 0;
+    for (int i = 0; i < 100000; ++i) {
+        std::string text;
+        for (auto parts = random() % 8; parts > 0; --parts) text += alphabet[random() % std::size(alphabet)];
+        double stored = kUntouched;
+        if (KivMeasure::Read(KivUnicodeString(text), KivDlgUnitFeetInchOver64, stored))
+            ++taken;
+        else
+            ASSERT_EQ(stored, kUntouched) << text;
+        ASSERT_TRUE(std::isfinite(stored)) << text;
+    }
+    EXPECT_GT(taken, 1000);
+}
+
+} // namespace
