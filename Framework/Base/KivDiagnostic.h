@@ -10,10 +10,10 @@ struct KivDiagnostic {
     enum class Severity { Note, Warning, Error };
 
     Severity severity = Severity::Warning;
-    KivUnicodeString text; // one sentence without file, line and key
-    KivUnicodeString file; // the file at fault, or empty
-    int line = 0;          // 1-based, or 0 when no line is at fault
-    KivString key;         // the setting at fault, or empty
+    KivUnicodeString text = {}; // one sentence without file, line and key
+    KivUnicodeString file = {}; // the file at fault, or empty
+    int line = 0;               // 1-based, or 0 when no line is at fault
+    KivString key = {};         // the setting at fault, or empty
 
     // "file:line: key: text", without the parts that are empty.
     KivUnicodeString Words() const;

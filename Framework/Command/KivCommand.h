@@ -46,10 +46,6 @@ public:
     // that no object dies while a callback of its own runs.
     static void DrainDelayedDestruction();
 
-protected:
-    void SetName(const KivString& name) { _name = name; }
-    void SetParent(KivCommand* parent) { _parent = parent; }
-
 private:
     friend class KivWeakLink;
 

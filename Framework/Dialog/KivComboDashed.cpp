@@ -1,0 +1,25 @@
+#include "Dialog/KivComboDashed.h"
+
+#include "Dialog/KivTextCatalogue.h"
+
+#include <string>
+
+KivComboDashed::KivComboDashed(KivDialog* parent, const KivString& name, unsigned long style, unsigned int,
+                               int)
+    : KivClass(parent, name, style)
+{
+    for (unsigned int type = 1; type <= kStandardTypes; ++type)
+        SetLine(KivTextCatalogue::FrameworkText(("LineType" + std::to_string(type)).c_str()));
+    SetSelect(1);
+}
+
+void KivComboDashed::AddOtherType(const KivString& type, int count)
+{
+    for (int i = 0; i < count; ++i) SetLine(KivTextCatalogue::FrameworkText(type.ConvertToChar()));
+}
+
+void KivComboDashed::SetSelect(unsigned int type)
+{
+    if (type >= 1 && type <= static_cast<unsigned int>(GetLineCount()))
+        KivDlgCombo::SetSelect(static_cast<int>(type) - 1);
+}

@@ -1,0 +1,153 @@
+#include "Dialog/KivDialog.h"
+
+#include "Dialog/KivDlgLabel.h"
+#include "Dialog/KivDlgLock.h"
+#include "Dialog/KivDlgView.h"
+#include "Dialog/KivTextCatalogue.h"
+
+#include <algorithm>
+
+KivDialog::KivDialog(KivDialog* parent, const KivString& name, unsigned long style)
+    : KivClass(parent, name), _style(style), _catalogue(parent ? parent->_catalogue : nullptr)
+{
+    if (parent) parent->_children.push_back(this);
+}
+
+KivDialog::~KivDialog()
+{
+    if (_view) _view->NodeDestroyed(*this);
+    _view = nullptr;
+    // Last child first; each takes itself out of the list.
+    while (!_children.empty()) delete _children.back();
+    if (KivDialog* parent = GetParentDialog()) std::erase(parent->_children, this);
+}
+
+KivDialog* KivDialog::FindDialog(const KivString& name)
+{
+    // By its own name: a lock-aware control answers GetName with that of the control it wraps.
+    if (KivCommand::GetName() == name) return this;
+    for (KivDialog* child : _children) {
+        if (KivDialog* found = child->FindDialog(name)) return found;
+    }
+    return nullptr;
+}
+
+void KivDialog::SetGridConstraints(short row, short column, short rows, short columns,
+                                   unsigned int attachment)
+{
+    _grid = {row, column, rows, columns, attachment};
+}
+
+KivUnicodeString KivDialog::CatalogueText(const char* kind) const
+{
+    return _catalogue ? _catalogue->Find(KivCommand::GetName() + "." + kind) : KivUnicodeString();
+}
+
+KivUnicodeString KivDialog::TextOf(const Text& text, const char* kind) const
+{
+    return text ? *text : CatalogueText(kind);
+}
+
+KivUnicodeString KivDialog::GetTitle() const
+{
+    KivUnicodeString title = TextOf(_title, "Title");
+    return title.IsEmpty() && !_title ? KivUnicodeString(KivCommand::GetName()) : title;
+}
+
+KivUnicodeString KivDialog::GetSpokenTitle() const
+{
+    const KivUnicodeString title = GetTitle();
+    std::string spoken;
+    bool marked = false;
+    for (const char c : title.View()) {
+        // A doubled mark stands for the character itself.
+        marked = c == '&' && !marked;
+        if (!marked) spoken += c;
+    }
+    return KivUnicodeString(std::move(spoken));
+}
+
+void KivDialog::Set(Text& text, const KivUnicodeString& value)
+{
+    text = value;
+    Changed();
+}
+
+void KivDialog::SetIconName(const KivString& normal, const KivString&, const KivString&, const KivString&,
+                            short)
+{
+    // One drawing serves all states: native views derive the others from it.
+    _icon = normal;
+    Changed();
+}
+
+void KivDialog::SetSensitivity(unsigned long sensitivity)
+{
+    if (sensitivity == _sensitivity) return;
+    _sensitivity = sensitivity;
+    EnablingChanged();
+}
+
+unsigned long KivDialog::GetSensitivity() const
+{
+    const KivDlgLock* lock = GetLock();
+    return lock && lock->IsLocked() ? KivDlgDisabled : _sensitivity;
+}
+
+void KivDialog::SetVisibility(unsigned long visibility)
+{
+    if (visibility == _visibility) return;
+    _visibility = visibility;
+    Changed();
+}
+
+bool KivDialog::IsEnabled() const
+{
+    const KivDialog* parent = GetParentDialog();
+    return GetSensitivity() != KivDlgDisabled && (!parent || parent->IsEnabled());
+}
+
+bool KivDialog::IsShown() const
+{
+    const KivDialog* parent = GetParentDialog();
+    return _visibility == KivDlgShown && (!parent || parent->IsShown());
+}
+
+KivUnicodeString KivDialog::WhyDisabled() const
+{
+    if (IsEnabled()) return {};
+    const KivDlgLock* lock = GetLock();
+    if (lock && lock->IsLocked()) return lock->GetReason();
+    if (_sensitivity == KivDlgDisabled) return GetUnavailableHelp();
+    const KivDialog* parent = GetParentDialog();
+    return parent ? parent->WhyDisabled() : KivUnicodeString();
+}
+
+KivDlgLock* KivDialog::GetLock() const
+{
+    return static_cast<KivDlgLock*>(_lock.Get());
+}
+
+KivDlgLabel* KivDialog::GetLabel() const
+{
+    return static_cast<KivDlgLabel*>(_label.Get());
+}
+
+void KivDialog::SetTextCatalogue(const KivString& catalogue)
+{
+    _catalogue = &KivTextCatalogue::Open(catalogue);
+    for (KivDialog* child : _children) child->SetTextCatalogue(catalogue);
+    Changed();
+}
+
+void KivDialog::Changed()
+{
+    if (_view) _view->NodeChanged(*this);
+}
+
+void KivDialog::EnablingChanged()
+{
+    Changed();
+    if (KivDlgLabel* label = GetLabel()) label->Changed();
+    for (KivDialog* child : _children) child->EnablingChanged();
+}

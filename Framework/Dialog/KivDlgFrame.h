@@ -1,0 +1,12 @@
+#pragma once
+
+#include "Dialog/KivDialog.h"
+
+// A frame without border or title: a part of its parent's surface that places its own children.
+class KivDlgFrame : public KivClass<KivDlgFrame, KivDialog> {
+public:
+    static constexpr const char* Name = "KivDlgFrame";
+    KivDlgFrame(KivDialog* parent, const KivString& name, unsigned long style = KivDlgGridLayout)
+        : KivClass(parent, name, style)
+    {}
+};

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Dialog/KivDialog.h"
+
+// A line of text, usually the name of the control beside it.
+class KivDlgLabel : public KivClass<KivDlgLabel, KivDialog> {
+public:
+    static constexpr const char* Name = "KivDlgLabel";
+    using KivClass::KivClass;
+
+    // Ties the label to the control that it names: it greys with it, and its keyboard letter leads there.
+    void SetLabelledControl(KivDialog* control);
+    KivDialog* GetLabelledControl() const { return _control.Get(); }
+
+    bool IsEnabled() const override;
+
+private:
+    KivWeakPtr<KivDialog> _control;
+};

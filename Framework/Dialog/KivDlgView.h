@@ -1,0 +1,16 @@
+#pragma once
+
+class KivDialog;
+
+// Who shows a node of the tree natively. One a node; it takes itself off (SetView(nullptr)) when it goes
+// first. It holds no state of its own: after each call it asks the node for what it shows.
+class KivDlgView {
+public:
+    // Something that is shown has changed: text, value, sensitivity, visibility, lock.
+    virtual void NodeChanged(KivDialog& node) = 0;
+    // The node is being destroyed: only its address may be used.
+    virtual void NodeDestroyed(KivDialog& node) = 0;
+
+protected:
+    ~KivDlgView() = default;
+};

@@ -1,0 +1,164 @@
+#include "Dialog/KivTextCatalogue.h"
+
+#include "Base/KivDiagnostic.h"
+#include "Base/KivEnvironment.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* kEnglish = "English";
+
+struct Shelf {
+    KivString language = kEnglish;
+    fs::path root;
+    std::map<KivString, KivTextCatalogue> open;
+};
+
+Shelf& TheShelf()
+{
+    static auto& shelf = *new Shelf;
+    if (shelf.root.empty()) shelf.root = fs::path(KivInstallRoot().View()) / "share" / "kiv";
+    return shelf;
+}
+
+// The modules' directories, in the order of their names.
+std::vector<fs::path> Modules()
+{
+    std::vector<fs::path> modules;
+    std::error_code failed;
+    for (fs::directory_iterator entry(TheShelf().root, failed), end; !failed && entry != end;
+         entry.increment(failed))
+        modules.push_back(entry->path());
+    std::sort(modules.begin(), modules.end());
+    return modules;
+}
+
+std::string_view Trimmed(std::string_view text)
+{
+    constexpr std::string_view kSpace = " \t\r";
+    const std::size_t first = text.find_first_not_of(kSpace);
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(kSpace) - first + 1);
+}
+
+// The text between quotation marks, its escapes resolved; none when the quotation is damaged.
+std::optional<std::string> Unquoted(std::string_view quoted)
+{
+    if (quoted.size() < 2 || quoted.front() != '"' || quoted.back() != '"') return std::nullopt;
+    quoted = quoted.substr(1, quoted.size() - 2);
+    std::string text;
+    for (std::size_t i = 0; i < quoted.size(); ++i) {
+        if (quoted[i] == '"') return std::nullopt;
+        if (quoted[i] != '\\') {
+            text += quoted[i];
+            continue;
+        }
+        if (++i == quoted.size()) return std::nullopt;
+        text += quoted[i] == 'n' ? '\n' : quoted[i];
+    }
+    return text;
+}
+
+} // namespace
+
+const KivTextCatalogue& KivTextCatalogue::Open(const KivString& name)
+{
+    Shelf& shelf = TheShelf();
+    const auto [place, isNew] = shelf.open.try_emplace(name);
+    if (isNew) {
+        // The user's language first: what it says, English does not replace.
+        place->second.Load(shelf.language, name);
+        if (shelf.language != kEnglish) place->second.Load(kEnglish, name);
+        if (place->second._texts.empty())
+            KivReport({.text = "there are no texts of this name; controls show their object names",
+                       .file = KivUnicodeString(name) + ".texts"});
+    }
+    return place->second;
+}
+
+KivUnicodeString KivTextCatalogue::FrameworkText(const char* key)
+{
+    const KivUnicodeString text = Open("KivFramework").Find(key);
+    return text.IsEmpty() ? KivUnicodeString(key) : text;
+}
+
+void KivTextCatalogue::SetLanguage(const KivString& language)
+{
+    TheShelf().language = language;
+}
+
+const KivString& KivTextCatalogue::GetLanguage()
+{
+    return TheShelf().language;
+}
+
+std::set<std::string> KivTextCatalogue::KnownLanguages()
+{
+    std::set<std::string> languages;
+    for (const fs::path& module : Modules()) {
+        std::error_code failed;
+        for (fs::directory_iterator entry(module / "texts", failed), end; !failed && entry != end;
+             entry.increment(failed)) {
+            if (entry->is_directory(failed)) languages.insert(entry->path().filename().string());
+        }
+    }
+    return languages;
+}
+
+void KivTextCatalogue::SetResourceRoot(const KivUnicodeString& directory)
+{
+    TheShelf().root = directory.View();
+    TheShelf().open.clear();
+}
+
+KivUnicodeString KivTextCatalogue::FindResource(const KivUnicodeString& relative)
+{
+    std::error_code failed;
+    for (const fs::path& module : Modules()) {
+        if (fs::path file = module / relative.View(); fs::is_regular_file(file, failed))
+            return KivUnicodeString(file.string());
+    }
+    return {};
+}
+
+KivUnicodeString KivTextCatalogue::Find(const KivString& key) const
+{
+    const auto found = _texts.find(std::string(key.View()));
+    return found == _texts.end() ? KivUnicodeString() : found->second;
+}
+
+void KivTextCatalogue::Load(const KivString& language, const KivString& name)
+{
+    const KivUnicodeString file = FindResource(KivUnicodeString("texts/") + KivUnicodeString(language) + "/" +
+                                               KivUnicodeString(name) + ".texts");
+    if (!file.IsEmpty()) LoadFile(file);
+}
+
+void KivTextCatalogue::LoadFile(const KivUnicodeString& file)
+{
+    std::ifstream stream{std::string(file.View())};
+    std::string line;
+    for (int number = 1; std::getline(stream, line); ++number) {
+        const std::string_view content = Trimmed(line);
+        if (content.empty() || content.front() == '#') continue;
+        const std::size_t sign = content.find('=');
+        const std::string_view key = Trimmed(content.substr(0, sign));
+        const auto text =
+            sign == std::string_view::npos ? std::nullopt : Unquoted(Trimmed(content.substr(sign + 1)));
+        if (key.empty() || !text) {
+            KivReport({.text = "this line is no text; it should read: key = \"text\"",
+                       .file = file,
+                       .line = number});
+            continue;
+        }
+        _texts.emplace(key, KivUnicodeString(*text));
+    }
+}

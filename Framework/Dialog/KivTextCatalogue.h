@@ -1,0 +1,46 @@
+#pragma once
+
+#include "Base/KivString.h"
+#include "Base/KivUnicodeString.h"
+
+#include <set>
+#include <string>
+#include <unordered_map>
+
+// The texts of one file name in the user's language, then in English: lines `key = "text"`, UTF-8, in
+// share/kiv/<module>/texts/<language>/<catalogue>.texts of any module. Loaded once and kept.
+//
+// Lines that start with # and empty ones are comments. In a text, \n is a new line, \" a quotation mark and
+// \\ a backslash. A line that is none of these is reported and passed over; a catalogue without a file is
+// reported once and knows no text.
+class KivTextCatalogue {
+public:
+    static const KivTextCatalogue& Open(const KivString& name);
+
+    // A text of the framework's own catalogue; the key itself when it is missing.
+    static KivUnicodeString FrameworkText(const char* key);
+
+    // The user's language, a directory name such as "English"; catalogues opened before it is set keep
+    // theirs.
+    static void SetLanguage(const KivString& language);
+    static const KivString& GetLanguage();
+    // The languages that some module has texts in, sorted.
+    static std::set<std::string> KnownLanguages();
+
+    // Where the modules' resources lie: share/kiv of the installation until a test names another directory.
+    static void SetResourceRoot(const KivUnicodeString& directory);
+    // The file of a resource below any module's directory ("icons/I_Grid.svg"); empty when no module has it.
+    static KivUnicodeString FindResource(const KivUnicodeString& relative);
+
+    // The text of a key; empty when it is missing.
+    KivUnicodeString Find(const KivString& key) const;
+
+    // For tests: every key that the files hold.
+    const std::unordered_map<std::string, KivUnicodeString>& Texts() const { return _texts; }
+
+private:
+    void Load(const KivString& language, const KivString& name);
+    void LoadFile(const KivUnicodeString& file);
+
+    std::unordered_map<std::string, KivUnicodeString> _texts;
+};

@@ -1,0 +1,104 @@
+#include "Dialog/KivUserHand.h"
+
+#include "Dialog/KivComboColor.h"
+#include "Dialog/KivDlgCheckButton.h"
+#include "Dialog/KivDlgEditor.h"
+#include "Dialog/KivDlgSpinner.h"
+#include "Dialog/KivTextCatalogue.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+const KivHandAnswer kDone{true, {}};
+
+KivHandAnswer Refused(const KivUnicodeString& why)
+{
+    return {false, why};
+}
+
+// Whether a user could reach the control at all.
+KivHandAnswer Reach(const KivDialog& control)
+{
+    if (control.IsCondemned() || !control.IsShown())
+        return Refused(KivTextCatalogue::FrameworkText("HandNotShown"));
+    if (!control.IsEnabled()) return Refused(control.WhyDisabled());
+    return kDone;
+}
+
+KivHandAnswer Enter(KivDlgSpinner& spinner, double value)
+{
+    if (value != spinner.GetValue()) spinner.SetValue(value, 1);
+    return kDone;
+}
+
+} // namespace
+
+KivHandAnswer KivUserHand::Tick(KivDlgCheckButton& button)
+{
+    const KivHandAnswer reach = Reach(button);
+    if (reach) button.SetState(button.GetState() == KivDlgChecked ? KivDlgUnchecked : KivDlgChecked, 1);
+    return reach;
+}
+
+KivHandAnswer KivUserHand::Choose(KivDlgCombo& combo, int line)
+{
+    const KivHandAnswer reach = Reach(combo);
+    if (!reach) return reach;
+    if (line < 0 || line >= combo.GetLineCount())
+        return Refused(KivTextCatalogue::FrameworkText("HandNoSuchLine"));
+    if (line != combo.GetSelect()) combo.SetSelect(line, 1);
+    return kDone;
+}
+
+KivHandAnswer KivUserHand::ChooseColour(KivComboColor& combo, unsigned int red, unsigned int green,
+                                        unsigned int blue)
+{
+    const KivHandAnswer reach = Reach(combo);
+    if (!reach) return reach;
+    if (red > 255 || green > 255 || blue > 255)
+        return Refused(KivTextCatalogue::FrameworkText("HandNoSuchLine"));
+    KivColour before;
+    combo.GetSelectedColor(&before.red, &before.green, &before.blue);
+    if (before == KivColour{red, green, blue}) return kDone;
+    combo.SetSelectedColor(red, green, blue);
+    combo.SetSelect(combo.GetSelect(), 1);
+    return kDone;
+}
+
+KivHandAnswer KivUserHand::Type(KivDlgEditor& editor, const KivUnicodeString& text)
+{
+    const KivHandAnswer reach = Reach(editor);
+    if (reach && text != editor.GetText()) editor.SetText(text, 1);
+    return reach;
+}
+
+KivHandAnswer KivUserHand::Type(KivDlgSpinner& spinner, const KivUnicodeString& text)
+{
+    const KivHandAnswer reach = Reach(spinner);
+    if (!reach) return reach;
+    // The shown text rounds: committing it untouched must not change the value behind it.
+    if (text == spinner.Print(spinner.GetValue())) return kDone;
+    double value = 0.0;
+    if (!spinner.Read(text, value))
+        return Refused("“" + text + "” " + KivTextCatalogue::FrameworkText("HandMeansNothing"));
+    double minimum = 0.0, maximum = 0.0, step = 0.0;
+    spinner.GetMinMaxStep(minimum, maximum, step);
+    // What shows like a limit is meant as that limit: nobody can type all its digits.
+    if (value < minimum && spinner.Print(value) == spinner.Print(minimum)) value = minimum;
+    if (value > maximum && spinner.Print(value) == spinner.Print(maximum)) value = maximum;
+    if (value < minimum || value > maximum)
+        return Refused(KivTextCatalogue::FrameworkText("HandOutOfRange") + " " + spinner.Print(minimum) +
+                       " – " + spinner.Print(maximum));
+    return Enter(spinner, value);
+}
+
+KivHandAnswer KivUserHand::Turn(KivDlgSpinner& spinner, int steps)
+{
+    const KivHandAnswer reach = Reach(spinner);
+    if (!reach) return reach;
+    double minimum = 0.0, maximum = 0.0, step = 0.0;
+    spinner.GetMinMaxStep(minimum, maximum, step);
+    return Enter(spinner, std::clamp(spinner.GetValue() + steps * step, minimum, maximum));
+}

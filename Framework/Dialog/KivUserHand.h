@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Base/KivUnicodeString.h"
+
+class KivComboColor;
+class KivDialog;
+class KivDlgCheckButton;
+class KivDlgCombo;
+class KivDlgEditor;
+class KivDlgSpinner;
+
+// What came of a user's action: done, or refused with the reason to show him.
+struct KivHandAnswer {
+    bool done = false;
+    KivUnicodeString why; // empty when it was done
+    explicit operator bool() const { return done; }
+};
+
+// The only door by which a user's actions enter the tree, from a native window or from a test. Each refuses
+// what a user could not do (control disabled, hidden or condemned; no such line; a text that means nothing; a
+// value out of range) and changes nothing then; otherwise it changes the state and sends the control's
+// notification. An action that changes nothing (the same value again) is done, without a notification.
+namespace KivUserHand {
+
+KivHandAnswer Tick(KivDlgCheckButton& button);
+KivHandAnswer Choose(KivDlgCombo& combo, int line);
+KivHandAnswer ChooseColour(KivComboColor& combo, unsigned int red, unsigned int green, unsigned int blue);
+KivHandAnswer Type(KivDlgEditor& editor, const KivUnicodeString& text);
+// Text typed into a spinner and committed.
+KivHandAnswer Type(KivDlgSpinner& spinner, const KivUnicodeString& text);
+// The arrows of a spinner: so many steps up, or down if negative; ends at the limits of its range.
+KivHandAnswer Turn(KivDlgSpinner& spinner, int steps);
+
+} // namespace KivUserHand

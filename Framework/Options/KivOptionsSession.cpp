@@ -1,0 +1,94 @@
+#include "Options/KivOptionsSession.h"
+
+#include "Dialog/KivTextCatalogue.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace {
+
+// What the editors do not use: each fetches the repository that it edits.
+constexpr KivSettingRepository* kNoRepository = nullptr;
+
+int PositionFrom(const KivUnicodeString& text)
+{
+    int position = 1000; // a tab that says nothing stands at the end
+    std::from_chars(text.View().data(), text.View().data() + text.View().size(), position);
+    return position;
+}
+
+} // namespace
+
+KivOptionsSession::KivOptionsSession(KivUserSettingsManager& manager)
+    : _root(std::make_unique<KivDlgFrame>(nullptr, "OptionsDialog"))
+{
+    for (const KivUserSettingsManager::Editor& editor : manager.CreateEditors()) Add(editor);
+    std::stable_sort(_pages.begin(), _pages.end(),
+                     [](const Page& a, const Page& b) { return a.position < b.position; });
+}
+
+KivOptionsSession::~KivOptionsSession()
+{
+    for (const Page& page : _pages) page.settings->CloseWindowFromEditor();
+    _pages.clear();
+    KivCommand::DrainDelayedDestruction();
+}
+
+void KivOptionsSession::Add(const KivUserSettingsManager::Editor& editor)
+{
+    auto frame = std::make_unique<KivEditorPage>(_root.get(), editor.name);
+    editor.settings->BuildEditor(frame.get());
+    if (frame->Children().empty()) return;
+    editor.settings->SetUserSettingsValue(kNoRepository);
+
+    // The texts of a tab are those of the library that its editor is part of.
+    const KivMetaClass* meta = KivMetaClass::Find(editor.name.ConvertToChar());
+    const KivTextCatalogue& texts = KivTextCatalogue::Open(meta->Framework());
+    const KivUnicodeString title = texts.Find(editor.name + ".Title");
+    _pages.push_back({.editor = editor.name,
+                      .title = title.IsEmpty() ? KivUnicodeString(editor.name) : title,
+                      .icon = KivString(texts.Find(editor.name + ".Icon").View()),
+                      .help = texts.Find(editor.name + ".Help"),
+                      .frame = frame.get(),
+                      .settings = editor.settings,
+                      .position = PositionFrom(texts.Find(editor.name + ".Position"))});
+    frame.release(); // the tree owns it from here on
+}
+
+const KivOptionsSession::Page* KivOptionsSession::FindPage(const KivUnicodeString& name) const
+{
+    KivUnicodeString wanted = name;
+    wanted.ToLower();
+    for (const Page& page : _pages) {
+        KivUnicodeString title = page.title, editor = KivUnicodeString(page.editor);
+        title.ToLower();
+        editor.ToLower();
+        if (wanted == title || wanted == editor) return &page;
+    }
+    return nullptr;
+}
+
+std::vector<KivDiagnostic> KivOptionsSession::Commit()
+{
+    // The editors are silent by contract; what they meet reaches the framework's sink, where it is heard
+    // here.
+    std::vector<KivDiagnostic> errors;
+    KivDiagnosticSink before = KivSetDiagnosticSink([&](const KivDiagnostic& diagnostic) {
+        if (diagnostic.severity == KivDiagnostic::Severity::Error) errors.push_back(diagnostic);
+    });
+    for (const Page& page : _pages) page.settings->CommitModification(kNoRepository);
+    KivSetDiagnosticSink(before);
+    return errors;
+}
+
+void KivOptionsSession::Cancel()
+{
+    for (const Page& page : _pages) page.settings->CancelModification(kNoRepository);
+    for (const Page& page : _pages) page.settings->SetUserSettingsValue(kNoRepository);
+}
+
+void KivOptionsSession::Reset(const Page& page)
+{
+    page.settings->ResetUserSettingsValue();
+    page.settings->SetUserSettingsValue(kNoRepository);
+}

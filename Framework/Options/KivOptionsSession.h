@@ -1,0 +1,50 @@
+#pragma once
+
+#include "Base/KivDiagnostic.h"
+#include "Options/KivEditorPage.h"
+#include "Options/KivUserSettingsManager.h"
+
+#include <memory>
+#include <vector>
+
+// One opening of the options dialog: an editor and a built, filled page for each tab, from the opening to OK
+// or Cancel. A tab whose editor builds nothing is not offered.
+class KivOptionsSession {
+public:
+    struct Page {
+        KivString editor;       // class of its editor
+        KivUnicodeString title; // in the user's language
+        KivString icon;         // name, or empty
+        KivUnicodeString help;  // one sentence
+        KivWeakPtr<KivEditorPage> frame;
+        KivVar<KivIUserSettings> settings;
+        int position = 0; // among the tabs
+    };
+
+    explicit KivOptionsSession(KivUserSettingsManager& manager);
+    ~KivOptionsSession();
+    KivOptionsSession(const KivOptionsSession&) = delete;
+    KivOptionsSession& operator=(const KivOptionsSession&) = delete;
+
+    // The tabs, in the order of their positions.
+    const std::vector<Page>& Pages() const { return _pages; }
+    // The tab that a person calls so: its title or the class of its editor, in any case; null when there is
+    // none.
+    const Page* FindPage(const KivUnicodeString& name) const;
+    // The tree that holds all pages.
+    KivDialog& Root() { return *_root; }
+
+    // OK: every editor commits. The errors that were met on the way, empty when all is safe; after an error
+    // nothing is lost and the session goes on.
+    std::vector<KivDiagnostic> Commit();
+    // Cancel: every editor takes its changes back, and every page shows so.
+    void Cancel();
+    // Reset: this tab returns to the administrator's values and shows them.
+    void Reset(const Page& page);
+
+private:
+    void Add(const KivUserSettingsManager::Editor& editor);
+
+    std::unique_ptr<KivDlgFrame> _root;
+    std::vector<Page> _pages;
+};

@@ -1,0 +1,139 @@
+#include "Dialog/KivComboColor.h"
+#include "Dialog/KivComboDashed.h"
+#include "Dialog/KivDlgCheckButton.h"
+#include "Dialog/KivDlgFrame.h"
+#include "Dialog/KivDlgLabel.h"
+#include "Dialog/KivDlgLock.h"
+#include "Dialog/KivDlgSpinner.h"
+#include "Dialog/KivUserHand.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class Listener : public KivCommand {
+public:
+    Listener() : KivCommand(nullptr, "listener") {}
+    void Hear(KivCommand*, KivNotification*, void*) { ++heard; }
+    int heard = 0;
+};
+
+class UserHand : public testing::Test {
+protected:
+    KivDlgFrame page{nullptr, "page"};
+    Listener listener;
+
+    KivSettingInfo Locked()
+    {
+        KivSettingInfo info;
+        info.locked = true;
+        info.lockLayer = "site";
+        return info;
+    }
+};
+
+TEST_F(UserHand, ReachesOnlyWhatAUserCould)
+{
+    auto* button = new KivDlgCheckButton(&page, "check", 0);
+    auto* lock = new KivDlgLock(&page, "checkLock", KivSettingInfo(), 0);
+    lock->AddAssociatedDialog(button);
+    listener.AddAnalyseNotificationCB(button, button->GetChkBModifyNotification(), &Listener::Hear, nullptr);
+    EXPECT_TRUE(KivUserHand::Tick(*button));
+    EXPECT_EQ(button->GetState(), KivDlgChecked);
+
+    button->SetSensitivity(KivDlgDisabled);
+    button->SetUnavailableHelp("Available when x is on");
+    EXPECT_EQ(KivUserHand::Tick(*button).why, "Available when x is on");
+    button->SetSensitivity(KivDlgEnabled);
+    lock->SetInfo(Locked());
+    button->SetSensitivity(KivDlgEnabled);
+    EXPECT_EQ(KivUserHand::Tick(*button).why, lock->GetReason());
+    lock->SetInfo(KivSettingInfo());
+    page.SetVisibility(KivDlgHidden);
+    EXPECT_FALSE(KivUserHand::Tick(*button));
+    page.SetVisibility(KivDlgShown);
+    page.SetSensitivity(KivDlgDisabled);
+    EXPECT_FALSE(KivUserHand::Tick(*button));
+    page.SetSensitivity(KivDlgEnabled);
+    EXPECT_EQ(button->GetState(), KivDlgChecked);
+    EXPECT_EQ(listener.heard, 1);
+
+    delete lock; // the padlock dies first: nothing locks any more
+    EXPECT_TRUE(KivUserHand::Tick(*button));
+}
+
+TEST_F(UserHand, TypesInAnyUnitAndIsToldWhatIsWrong)
+{
+    auto* spinner = new KivDlgSpinner(&page, "spinner", 0);
+    spinner->SetUnit(KivDlgUnitMillimetre);
+    spinner->SetMinMaxStep(0.0, 1.0e12, 0.005, 1);
+    listener.AddAnalyseNotificationCB(spinner, spinner->GetSpinnerModifyNotification(), &Listener::Hear,
+                                      nullptr);
+    EXPECT_TRUE(KivUserHand::Type(*spinner, "1 in"));
+    EXPECT_EQ(spinner->GetValue(), 0.0254);
+    EXPECT_TRUE(KivUserHand::Turn(*spinner, 1));
+    EXPECT_DOUBLE_EQ(spinner->GetValue(), 0.0304);
+    EXPECT_TRUE(KivUserHand::Turn(*spinner, -100));
+    EXPECT_EQ(spinner->GetValue(), 0.0);
+    EXPECT_TRUE(KivUserHand::Turn(*spinner, -1));
+    EXPECT_EQ(listener.heard, 3);
+    EXPECT_FALSE(KivUserHand::Type(*spinner, "wide").why.IsEmpty());
+    EXPECT_FALSE(KivUserHand::Type(*spinner, "-1").why.IsEmpty());
+    EXPECT_EQ(spinner->GetValue(), 0.0);
+
+    // Committing what is shown changes nothing, although fewer digits are shown than kept.
+    spinner->SetValue(0.02000049, 0);
+    EXPECT_TRUE(KivUserHand::Type(*spinner, spinner->Print(spinner->GetValue())));
+    EXPECT_EQ(spinner->GetValue(), 0.02000049);
+    spinner->SetUnit(KivDlgUnitDegree);
+    spinner->SetMinMaxStep(0.017453292519943393, 6.1959188445799045, 0.017453292519943393, 1);
+    for (const char* inside : {"1", "355", "90°", "100 gr"})
+        EXPECT_TRUE(KivUserHand::Type(*spinner, inside)) << inside;
+    for (const char* outside : {"0.99", "355.01", "-90"})
+        EXPECT_FALSE(KivUserHand::Type(*spinner, outside)) << outside;
+    EXPECT_EQ(listener.heard, 7);
+}
+
+TEST_F(UserHand, ChoosesAnyColourAndNamesIt)
+{
+    auto* combo = new KivComboColor(&page, "combo", 0, 255, 255, 255, 0, 0, 0);
+    listener.AddAnalyseNotificationCB(combo, combo->GetComboSelectNotification(), &Listener::Hear, nullptr);
+    EXPECT_TRUE(KivUserHand::ChooseColour(*combo, 12, 34, 56));
+    EXPECT_TRUE(KivUserHand::ChooseColour(*combo, 12, 34, 56));
+    unsigned int r = 0, g = 0, b = 0;
+    KivUnicodeString name;
+    EXPECT_EQ(combo->GetSelectedColor(&r, &g, &b, &name), 1);
+    EXPECT_EQ(name, "Custom (12, 34, 56)");
+    const int lines = combo->GetLineCount();
+    EXPECT_TRUE(KivUserHand::ChooseColour(*combo, 1, 2, 3));
+    EXPECT_EQ(combo->GetLineCount(), lines) << "colours of one's own pile up";
+    EXPECT_TRUE(KivUserHand::Choose(*combo, 6));
+    EXPECT_EQ(combo->GetSelectedColor(&r, &g, &b), 1);
+    EXPECT_EQ((KivColour{r, g, b}), (KivColour{255, 0, 0}));
+    EXPECT_FALSE(KivUserHand::Choose(*combo, lines));
+    EXPECT_FALSE(KivUserHand::ChooseColour(*combo, 256, 0, 0));
+    EXPECT_EQ(listener.heard, 3);
+}
+
+TEST_F(UserHand, LabelsGreyWithTheirControl)
+{
+    auto* spinner = new KivDlgSpinner(&page, "spinner", 0);
+    auto* label = new KivDlgLabel(&page, "label", 0);
+    label->SetLabelledControl(spinner);
+    spinner->SetSensitivity(KivDlgDisabled);
+    EXPECT_FALSE(label->IsEnabled());
+    delete spinner;
+    EXPECT_TRUE(label->IsEnabled());
+}
+
+TEST_F(UserHand, LineTypesAreNumberedFromOne)
+{
+    auto* combo = new KivComboDashed(&page, "combo", 0, 0, 0);
+    combo->SetSelect(8);
+    EXPECT_EQ(combo->GetSelect(), 1U);
+    combo->AddOtherType("S_DrwBreakLine8", 1);
+    combo->SetSelect(8);
+    EXPECT_EQ(combo->GetSelect(), 8U);
+}
+
+} // namespace
