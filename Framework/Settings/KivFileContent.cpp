@@ -1,0 +1,70 @@
+#include "Settings/KivFileContent.h"
+
+#include "Settings/KivSettingFile.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <system_error>
+
+namespace {
+
+KivFileContent Unreadable(KivUnicodeString reason)
+{
+    KivFileContent content;
+    content.state = KivFileContent::State::Unreadable;
+    content.reason = std::move(reason);
+    return content;
+}
+
+bool CanLookInto(const KivUnicodeString& file)
+{
+    const std::string_view path = file.View();
+    const std::size_t slash = path.rfind('/');
+    const std::string directory(slash == std::string_view::npos ? "." : path.substr(0, slash + 1));
+    struct stat status {};
+    return stat(directory.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
+           access(directory.c_str(), R_OK | X_OK) == 0;
+}
+
+} // namespace
+
+KivUnicodeString KivErrorWords(const char* what, int error)
+{
+    return KivUnicodeString(std::string(what) + ": " + std::generic_category().message(error));
+}
+
+KivFileContent KivReadFile(const KivUnicodeString& path)
+{
+    KivFileHandle handle(open(path.ConvertToChar(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!handle.IsOpen()) {
+        if (errno != ENOENT) return Unreadable(KivErrorWords("the file cannot be opened", errno));
+        KivFileContent absent;
+        absent.directoryIsThere = CanLookInto(path);
+        return absent;
+    }
+    struct stat status {};
+    if (fstat(handle.Get(), &status) != 0) return Unreadable(KivErrorWords("the file cannot be read", errno));
+    if (S_ISDIR(status.st_mode)) return Unreadable("a directory stands in place of the file");
+    if (!S_ISREG(status.st_mode)) return Unreadable("a pipe or device stands in place of the file");
+    const auto size = static_cast<std::size_t>(status.st_size);
+    if (size > KivSettingFile::LargestSize) {
+        return Unreadable(KivUnicodeString("the file is too large: " + std::to_string(size) +
+                                           " bytes, at most " + std::to_string(KivSettingFile::LargestSize)));
+    }
+
+    KivFileContent content;
+    content.text.resize(size);
+    std::size_t filled = 0;
+    while (filled < size) {
+        const ssize_t count = read(handle.Get(), content.text.data() + filled, size - filled);
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) return Unreadable(KivErrorWords("the file cannot be read", errno));
+        if (count == 0) break; // cut shorter since: what is left is what there is
+        filled += static_cast<std::size_t>(count);
+    }
+    content.text.resize(filled);
+    content.state = KivFileContent::State::Read;
+    content.stamp = KivFileStamp(status);
+    content.handle = std::move(handle);
+    return content;
+}
