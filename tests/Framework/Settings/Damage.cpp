@@ -74,10 +74,11 @@ TEST_F(Damage, TheOriginalIsSetAsideBeforeTheFirstSave)
 
     // What was not mended is not set aside again and again, but new damage is.
     EXPECT_EQ(PutAndSave(repository, "A", 5), Receipt::Durable);
-    EXPECT_EQ(PutAndSave(box.Reopen(), "A", 6), Receipt::Durable);
+    KivSettingRepository& next = box.Reopen();
+    EXPECT_EQ(PutAndSave(next, "A", 6), Receipt::Durable);
     EXPECT_EQ(box.Names("user").size(), 4U); // the third copy: B's damage was mended
     box.Write(file, "new noise\n");
-    EXPECT_EQ(PutAndSave(repository, "A", 7), Receipt::Durable); // found only by the save itself
+    EXPECT_EQ(PutAndSave(next, "A", 7), Receipt::Durable); // found only by the save itself
     EXPECT_EQ(box.Bytes(box.root / "user/DraftingOptions.kivsettings.damaged-4"), "new noise\n");
     EXPECT_EQ(box.Bytes(file), "new noise\nint A = 7\n");
 }
