@@ -29,7 +29,7 @@ struct KivFileContent {
     enum class State { Absent, Read, Unreadable };
 
     State state = State::Absent;
-    bool directoryIsThere = true; // an absent file's; false too when it cannot be looked into
+    bool isDirectoryAway = false; // an administrator's absent file's; what cannot be looked into is away too
     std::string text;
     KivUnicodeString reason; // of an unreadable file, a sentence without a full stop
 
