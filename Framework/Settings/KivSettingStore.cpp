@@ -59,8 +59,7 @@ void KivSettingStore::ReadLayers()
     }
     for (int layer = 0; layer < static_cast<int>(_layers.size()); ++layer) {
         for (const KivSettingLine& line : _layers[static_cast<std::size_t>(layer)].file.Lines()) {
-            if (!line.lock && !KivHasValue(line.value)) continue;
-            if (!KivIsSettingKey(line.key)) continue; // of a damaged line
+            if (line.key.empty() || (!line.lock && !KivHasValue(line.value))) continue; // damaged
             KivSettingAttribute& attribute = _table[_table.IndexOfNew(line.key, line.hash)];
             if (attribute.lockLayer >= 0 && attribute.lockLayer < layer) continue;
             if (KivHasValue(line.value)) {
@@ -88,7 +87,7 @@ void KivSettingStore::TakeOwnFile()
     for (KivSettingAttribute& attribute : _table) attribute.own = {};
     _table.Reserve(_own.File().Lines().size());
     for (const KivSettingLine& line : _own.File().Lines()) {
-        if ((!line.lock && !KivHasValue(line.value)) || !KivIsSettingKey(line.key)) continue;
+        if (line.key.empty() || (!line.lock && !KivHasValue(line.value))) continue;
         TakeLine(line, _isAdministrator, _table[_table.IndexOfNew(line.key, line.hash)].own);
     }
     for (auto& [index, before] : _unsaved) before = _table[index].own;
