@@ -2,6 +2,7 @@
 
 #include "Settings/KivSettingFile.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <system_error>
@@ -51,6 +52,11 @@ KivFileContent KivReadFile(const KivUnicodeString& path)
         filled += static_cast<std::size_t>(count);
     }
     content.text.resize(filled);
+    const auto lines = static_cast<std::size_t>(std::count(content.text.begin(), content.text.end(), '\n'));
+    if (lines > KivSettingFile::MostLines) {
+        return Unreadable(KivUnicodeString("the file is too large: " + std::to_string(lines) +
+                                           " lines, at most " + std::to_string(KivSettingFile::MostLines)));
+    }
     content.state = KivFileContent::State::Read;
     content.stamp = KivFileStamp(status);
     content.handle = std::move(handle);

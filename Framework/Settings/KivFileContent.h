@@ -38,7 +38,8 @@ struct KivFileContent {
     KivFileStamp stamp;
 };
 
-// Reads a regular file of at most KivSettingFile::LargestSize bytes. Never waits for the other end of a pipe.
+// Reads a regular file of at most KivSettingFile::LargestSize bytes and KivSettingFile::MostLines lines.
+// Never waits for the other end of a pipe.
 KivFileContent KivReadFile(const KivUnicodeString& path);
 
 // "cannot be opened: Permission denied"

@@ -3,6 +3,7 @@
 #include "Base/KivDiagnostic.h"
 #include "Settings/KivSettingTable.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstring>
 #include <unordered_map>
@@ -64,7 +65,7 @@ std::string_view WithoutEnd(std::string_view line)
 KivSettingFile::KivSettingFile(std::string text) : _text(std::make_unique<const std::string>(std::move(text)))
 {
     const std::string_view all = *_text;
-    _lines.reserve(all.size() / 32 + 2);
+    _lines.reserve(std::min(all.size() / 32 + 2, MostLines / 64));
     int number = 0;
     for (std::size_t begin = 0; begin < all.size();) {
         const void* found = std::memchr(all.data() + begin, '\n', all.size() - begin);

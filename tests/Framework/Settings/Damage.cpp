@@ -154,6 +154,8 @@ TEST_F(Damage, AFileThatCannotBeReadIsProtected)
     std::filesystem::resize_file(file, KivSettingFile::LargestSize + 1);
     isProtected("size");
     EXPECT_GT(box.Said("67108865 bytes"), 0);
+    box.Write(file, std::string(KivSettingFile::MostLines + 1, '\n'));
+    isProtected("lines");
     EXPECT_EQ(box.Names("user").size(), 1U);
 
     // Once it can be read the pending change is saved on top of it.
@@ -170,11 +172,45 @@ TEST_F(Damage, AFileThatCannotBeReadIsProtected)
     EXPECT_TRUE(box.Reopen().IsProtected());
     std::filesystem::remove(box.root / "user");
     EXPECT_FALSE(box.Reopen().IsProtected());
+}
 
-    if (geteuid() == 0) GTEST_SKIP() << "permissions do not bind the superuser";
+// Gives up the superuser's rights for a while, whom permissions do not bind.
+class PlainUser {
+public:
+    PlainUser() { EXPECT_EQ(seteuid(_before == 0 ? 65534 : _before), 0); }
+    ~PlainUser() { EXPECT_EQ(seteuid(_before), 0); }
+    PlainUser(const PlainUser&) = delete;
+    PlainUser& operator=(const PlainUser&) = delete;
+
+private:
+    uid_t _before = geteuid();
+};
+
+TEST_F(Damage, MissingPermissionsRefuseAndLoseNothing)
+{
     box.Write(file, "int Snap = 3\n");
+    for (const auto& path : {box.root, box.root / "user"}) chmod(path.c_str(), 0755);
+    chmod(file.c_str(), 0644);
+    chmod((box.root / "user").c_str(), 0555);
+    {
+        const PlainUser user;
+        KivSettingRepository& repository = box.Reopen();
+        EXPECT_EQ(box.Read(repository, "Snap", 0), 3);
+        EXPECT_EQ(PutAndSave(repository, "Ruler", 1), Receipt::Refused);
+        EXPECT_EQ(box.Said("the temporary file cannot be made: Permission denied"), 1);
+        EXPECT_EQ(box.Read(repository, "Ruler", 0), 1);
+    }
     chmod(file.c_str(), 0);
-    isProtected("permission");
+    {
+        const PlainUser user;
+        KivSettingRepository& repository = box.Reopen();
+        EXPECT_TRUE(repository.IsProtected());
+        EXPECT_EQ(PutAndSave(repository, "Ruler", 1), Receipt::Refused);
+        KivSettingRepository::ForgetAll();
+    }
+    chmod((box.root / "user").c_str(), 0755);
+    chmod(file.c_str(), 0600);
+    EXPECT_EQ(box.Bytes(file), "int Snap = 3\n");
 }
 
 } // namespace
