@@ -3,6 +3,7 @@
 #include "Parameter/KivMeasure.h"
 #include "Parameter/KivNumberFormat.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -34,14 +35,14 @@ void KivDlgSpinner::SetRange(float minimum, float maximum, int steps, int reserv
 {
     if (steps <= 0) return;
     const double from = static_cast<double>(minimum), to = static_cast<double>(maximum);
-    SetMinMaxStep(from, to, (to - from) / steps, reserved);
+    SetMinMaxStep(from, to, (to - from) / std::max(steps - 1, 1), reserved);
 }
 
 void KivDlgSpinner::GetRange(float& minimum, float& maximum, int& steps) const
 {
     minimum = static_cast<float>(_minimum);
     maximum = static_cast<float>(_maximum);
-    const double exact = _step > 0.0 ? (_maximum - _minimum) / _step : 0.0;
+    const double exact = (_step > 0.0 ? (_maximum - _minimum) / _step : 0.0) + 1.0;
     steps = exact < std::numeric_limits<int>::max() ? static_cast<int>(std::lround(exact))
                                                     : std::numeric_limits<int>::max();
 }

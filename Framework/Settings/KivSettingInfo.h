@@ -18,7 +18,8 @@ struct KivSettingInfo {
     KivUnicodeString file;        // its file
     int line = 0;                 // its line there, or 0 when it has not been saved yet
 
-    bool locked = false;        // an administrator layer fixes the setting
+    bool locked = false;     // an administrator layer fixes the setting
+    bool lockedHere = false; // the layer being edited locks it for those inside; whoever edits may change it
     KivUnicodeString lockLayer; // name of the outermost layer that locks it
     KivUnicodeString lockFile;  // its file
     int lockLine = 0;           // its line there

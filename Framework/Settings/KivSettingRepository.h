@@ -58,10 +58,11 @@ public:
     // key; the reserved argument is 0.
     HRESULT GetInfo(const char* key, KivSettingInfo* info, int reserved) const;
 
-    // Delivers the attributes one by one, in the order of the files. Not zero when there is none (left).
-    // name and type: buffers of at least 256 characters; count: receives 1; restart: not zero starts anew.
-    // A repository whose user file exists but could not be read never looks empty: it delivers what it has
-    // and, failing that, one attribute of an empty name, so that nobody takes it for new and writes over it.
+    // Delivers the attributes of all layers one by one, in the order of the files, outermost first. Not zero
+    // when there is none (left). name and type: buffers of at least 256 characters; count: receives 1;
+    // restart: not zero starts anew. A repository whose user file exists but could not be read never looks
+    // empty: it delivers what it has and, failing that, one attribute of an empty name, so that nobody takes
+    // it for new and writes over it.
     HRESULT NextAttribute(char* name, char* type, long* count, int restart);
 
     // Makes the working state the one to return to. Not zero: listeners are told which keys have changed
@@ -71,9 +72,9 @@ public:
     // Goes back to the state of the last commit; listeners are told which keys that changed.
     HRESULT Rollback();
 
-    // Makes the working state durable and the point to return to. S_OK unless the receipt is Refused. The
-    // path is the framework's and has to be null: the user's own file, or the layer opened for an
-    // administrator.
+    // Makes the working state durable and the point to return to (also when it is refused: it stays on top),
+    // and tells listeners like Commit. S_OK unless the receipt is Refused. The path is the framework's and
+    // has to be null: the user's own file, or the layer opened for an administrator.
     HRESULT SaveRepository(const char* path);
     Receipt LastReceipt() const;
 
@@ -81,8 +82,8 @@ public:
     // of the working state. Keys that are not there are passed over.
     HRESULT ResetToAdminValues(const char* const* keys, int count);
 
-    // Told after a commit, rollback or refresh which keys show another value. May be removed while it is
-    // called.
+    // Told after a commit, rollback, save or refresh which keys show another value. May be removed while it
+    // is called.
     ListenerId AddListener(Listener listener);
     void RemoveListener(ListenerId listener);
 
@@ -122,12 +123,20 @@ public:
     // GetRepository reads the files anew. Pointers obtained before are dead.
     static void ForgetAll();
 
+    // For tests: while withheld, GetRepository answers null for every name, as in a framework that has no
+    // such service.
+    static void Withhold(bool withheld);
+
     KivSettingRepository(const KivSettingRepository&) = delete;
     KivSettingRepository& operator=(const KivSettingRepository&) = delete;
     ~KivSettingRepository();
 
 private:
-    explicit KivSettingRepository(std::string_view name);
+    KivSettingRepository(std::string_view name, const KivUnicodeString& editedLayer);
 
+    template <class T> HRESULT Read(const char* key, T* value, long count) const;
+    template <class T> HRESULT Write(const char* key, const T* value, long count, int reserved);
+
+    KivString _name;
     std::unique_ptr<KivSettingStore> _store;
 };

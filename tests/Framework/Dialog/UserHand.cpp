@@ -87,7 +87,7 @@ TEST_F(UserHand, TypesInAnyUnitAndIsToldWhatIsWrong)
     EXPECT_EQ(spinner->GetValue(), 0.02000049);
     spinner->SetUnit(KivDlgUnitDegree);
     spinner->SetMinMaxStep(0.017453292519943393, 6.1959188445799045, 0.017453292519943393, 1);
-    for (const char* inside : {"1", "355", "90°", "100 gr"})
+    for (const char* inside : {"1", "355", "100°", "100 gr"})
         EXPECT_TRUE(KivUserHand::Type(*spinner, inside)) << inside;
     for (const char* outside : {"0.99", "355.01", "-90"})
         EXPECT_FALSE(KivUserHand::Type(*spinner, outside)) << outside;

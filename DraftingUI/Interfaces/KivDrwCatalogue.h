@@ -1,0 +1,47 @@
+#pragma once
+
+#include "KivDrwKeys.h"
+
+#include <span>
+#include <string_view>
+#include <variant>
+
+// The groups of settings, in writing order; each belongs to one options page.
+enum class KivDrwGroup {
+    General,
+    Layout,
+    View,
+    Generation,
+    Geometry,
+    Dimension,
+    Manipulators,
+    Annotation,
+    Trel,
+    Administration,
+};
+
+using KivDrwValue = std::variant<int, unsigned int, float, double, KivUnicodeString>;
+
+// One setting as data.
+struct KivDrwRow {
+    KivDrwGroup group;
+    const char* key;
+    KivDrwValue (*makeDefault)();
+    bool onPage;             // edited on its group's page or one of its sub-dialogs
+    const char* writtenFrom; // the key whose value a reset stores under this one
+};
+
+// The catalogue of settings as a table, for whatever goes over many of them.
+namespace KivDrwCatalogue {
+
+// Every row, in writing order, and those of one group.
+std::span<const KivDrwRow> Rows();
+std::span<const KivDrwRow> Rows(KivDrwGroup group);
+std::span<const KivDrwGroup> Groups();
+
+// The group's own name.
+const char* NameOf(KivDrwGroup group);
+// The row of a key, or null for a key that is none of the catalogue's.
+const KivDrwRow* Find(std::string_view key);
+
+} // namespace KivDrwCatalogue

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "KivDrwSettingAccess.h"
+
+// The two background colours, whose components are stored as floats from 0.0 to 1.0.
+struct KivDrwBackgroundColour {
+    const KivDrwKey<float>& red;
+    const KivDrwKey<float>& green;
+    const KivDrwKey<float>& blue;
+
+    // The components from 0 to 255. Deliberately each is cut to a whole number before it is scaled: 1.0 reads
+    // as 255 and everything below as 0.
+    void Read(const KivSettingRepository* repository, int& r, int& g, int& b) const;
+    // Stores each component divided by 255, so that only 255 reads back as itself. Nothing without a
+    // repository.
+    void Write(KivSettingRepository* repository, int r, int g, int b) const;
+};
+
+inline constexpr KivDrwBackgroundColour kKivDrwSheetColour{
+    KivDrwKeys::BackgroundColorRed, KivDrwKeys::BackgroundColorGreen, KivDrwKeys::BackgroundColorBlue};
+inline constexpr KivDrwBackgroundColour kKivDrwDetailColour{KivDrwKeys::BackgroundColorRedDitto,
+                                                            KivDrwKeys::BackgroundColorGreenDitto,
+                                                            KivDrwKeys::BackgroundColorBlueDitto};

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <unistd.h>
+#include <utility>
+
+// An open file descriptor; closes itself.
+class KivFileHandle {
+public:
+    KivFileHandle() = default;
+    explicit KivFileHandle(int descriptor) : _descriptor(descriptor) {}
+    KivFileHandle(KivFileHandle&& other) noexcept : _descriptor(std::exchange(other._descriptor, -1)) {}
+    KivFileHandle& operator=(KivFileHandle&& other) noexcept
+    {
+        std::swap(_descriptor, other._descriptor);
+        return *this;
+    }
+    ~KivFileHandle()
+    {
+        if (_descriptor >= 0) close(_descriptor);
+    }
+
+    bool IsOpen() const { return _descriptor >= 0; }
+    int Get() const { return _descriptor; }
+
+private:
+    int _descriptor = -1;
+};

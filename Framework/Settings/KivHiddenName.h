@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Base/KivUnicodeString.h"
+
+// The directory of a file, with its slash; empty for a name alone.
+inline std::string_view KivDirectoryOf(std::string_view path)
+{
+    return path.substr(0, path.rfind('/') + 1);
+}
+
+// The name of a working file beside a file: "/a/.name<ending>" for "/a/name".
+inline KivUnicodeString KivHiddenName(const KivUnicodeString& path, std::string_view ending)
+{
+    const std::string_view directory = KivDirectoryOf(path.View());
+    KivUnicodeString hidden(directory);
+    return hidden.Append(".").Append(path.View().substr(directory.size())).Append(ending);
+}

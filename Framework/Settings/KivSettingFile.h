@@ -1,0 +1,50 @@
+#pragma once
+
+#include "Settings/KivSettingLine.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The text of one settings file and what its lines say. The first line names the version of the format:
+// "# kivsettings 1". The text is never changed: what a save writes is a new text in which every line that no
+// change concerns is kept byte for byte.
+class KivSettingFile {
+public:
+    static constexpr std::size_t LargestSize = std::size_t{64} << 20;
+    static constexpr std::size_t MostLines = std::size_t{1} << 20; // each costs memory, however short it is
+
+    KivSettingFile() : KivSettingFile(std::string()) {}
+    explicit KivSettingFile(std::string text);
+
+    std::string_view Text() const { return *_text; }
+
+    // Every line but blank ones and comments, in order.
+    const std::vector<KivSettingLine>& Lines() const { return _lines; }
+
+    // A damaged line, or a version that this one does not know.
+    bool IsDamaged() const { return _damaged; }
+
+    // False when the last line has no end: whoever wrote the file may have been cut off.
+    bool IsTerminated() const { return _text->empty() || _text->back() == '\n'; }
+
+    // The texts of the damaged lines, in order.
+    std::vector<std::string_view> DamagedLines() const;
+
+    // Says every line that costs something, and every key that stands twice, to the diagnostic sink.
+    void Report(const KivUnicodeString& path) const;
+
+    // The text after changes. A changed key keeps the place of its last line; new keys come at the end, in
+    // the order of the changes. No key may stand in the changes twice.
+    std::string With(const std::vector<KivSettingChange>& changes) const;
+
+private:
+    void ReadVersion(std::string_view firstLine);
+
+    // On the heap, so that the keys of the lines, which point into it, survive a move.
+    std::unique_ptr<const std::string> _text;
+    std::vector<KivSettingLine> _lines;
+    bool _damaged = false;
+    bool _newer = false;
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Settings/KivSettingEntry.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+// One line of a settings file.
+//
+//   [lock] [initial] type Key = value      type: int, unsigned, float, double, string
+//   lock Key                               locks the key without giving it a value
+struct KivSettingLine {
+    enum class Kind {
+        Other,     // blank, comment
+        Attribute, // says something about its key
+        Unknown,   // has the shape of an attribute, of a type that this version does not know
+        Damaged,   // its value is lost; a lock that can be read still holds
+    };
+
+    Kind kind = Kind::Other;
+    std::string_view key; // empty when it cannot be read
+    std::size_t hash = 0; // of the key, as the table wants it
+    KivSettingValue value;
+    bool lock = false;
+    bool initial = false;
+    const char* reason = nullptr; // what is wrong with an unknown or damaged line
+
+    std::size_t begin = 0; // where it stands in the text, its line end included
+    std::size_t end = 0;
+    int number = 0; // 1-based
+};
+
+// Reads the text of one line (without its end) into kind, key, value, marks and reason.
+void KivParseSettingLine(std::string_view text, KivSettingLine& line);
+
+// Letters, digits and underscores, no digit in front, at most 255 of them.
+bool KivIsSettingKey(std::string_view key);
+
+// Appends the line that states an entry, without a line end.
+void KivAppendSettingLine(std::string& text, const KivSettingChange& change);

@@ -1,0 +1,148 @@
+#include "Settings/KivSettingOwnFile.h"
+
+#include "Base/KivDiagnostic.h"
+#include "Settings/KivAtomicFile.h"
+#include "Settings/KivHiddenName.h"
+#include "Settings/KivSettingFileLock.h"
+
+#include <cerrno>
+#include <climits>
+#include <utility>
+
+namespace {
+
+constexpr std::chrono::seconds kLockPatience{3};
+
+// Where the links at a path lead, whether something stands there or not. A link itself must stay in place.
+KivUnicodeString TargetOf(const KivUnicodeString& path)
+{
+    KivUnicodeString target = path;
+    for (int links = 0; links < 40; ++links) {
+        char text[PATH_MAX];
+        const ssize_t length = readlink(target.ConvertToChar(), text, sizeof text);
+        if (length <= 0) break;
+        const std::string_view next(text, static_cast<std::size_t>(length));
+        target = next[0] == '/' ? KivUnicodeString(next)
+                                : KivUnicodeString(KivDirectoryOf(target.View())).Append(next);
+    }
+    return target;
+}
+
+} // namespace
+
+KivSettingOwnFile::KivSettingOwnFile(const KivUnicodeString& path, bool isAdministrators)
+    : _path(path), _isAdministrators(isAdministrators)
+{}
+
+bool KivSettingOwnFile::IsAsItWas() const
+{
+    if (_content.state == KivFileContent::State::Unreadable) return false;
+    struct stat status {};
+    if (stat(_path.ConvertToChar(), &status) != 0) {
+        return errno == ENOENT && _content.state == KivFileContent::State::Absent && _file.Text().empty();
+    }
+    return _content.handle.IsOpen() && KivFileStamp(status) == _content.stamp;
+}
+
+bool KivSettingOwnFile::Read()
+{
+    if (_path.IsEmpty() || IsAsItWas()) return false;
+    _content = KivReadFile(_path);
+    if (IsProtected()) {
+        KivReport({KivDiagnostic::Severity::Error,
+                   _content.reason + "; it is left alone, and changes cannot be saved",
+                   _path,
+                   0,
+                   {}});
+    }
+    _file = KivSettingFile(std::exchange(_content.text, {}));
+    _file.Report(_path);
+    return true;
+}
+
+bool KivSettingOwnFile::Refuse(const KivUnicodeString& reason) const
+{
+    KivReport({KivDiagnostic::Severity::Error,
+               KivUnicodeString("the settings were not saved: ") + reason,
+               _path,
+               0,
+               {}});
+    return false;
+}
+
+bool KivSettingOwnFile::MakeDirectory(const KivUnicodeString& target) const
+{
+    const KivUnicodeString directory(KivDirectoryOf(target.View()));
+    const int error = KivMakeDirectories(directory, _isAdministrators ? 0755 : 0700);
+    return error == 0 || Refuse(KivErrorWords("the directory cannot be made", error));
+}
+
+// Keeps the damaged file byte for byte under a name of its own. Damaged lines stay in the file as well, so
+// there is nothing to set aside again while it has the damage that the newest copy shows.
+bool KivSettingOwnFile::SetAside(const KivUnicodeString& target) const
+{
+    KivUnicodeString newest;
+    for (int number = 1;; ++number) {
+        KivUnicodeString aside = target;
+        aside.Append(".damaged-" + std::to_string(number));
+        if (access(aside.ConvertToChar(), F_OK) == 0) {
+            newest = aside;
+            continue;
+        }
+        if (!newest.IsEmpty()) {
+            const KivSettingFile earlier(KivReadFile(newest).text);
+            if (earlier.IsDamaged() && earlier.DamagedLines() == _file.DamagedLines()) return true;
+        }
+        const int error = KivWriteNewFile(aside, _file.Text());
+        if (error == EEXIST) continue;
+        if (error != 0) return Refuse(KivErrorWords("the damaged file cannot be set aside", error));
+        KivReport({KivDiagnostic::Severity::Note,
+                   KivUnicodeString("the damaged file was set aside as ") + aside,
+                   _path,
+                   0,
+                   {}});
+        return true;
+    }
+}
+
+bool KivSettingOwnFile::Write(const KivUnicodeString& target, std::string text, bool& isDurable)
+{
+    if (text.size() > KivSettingFile::LargestSize) {
+        return Refuse(KivUnicodeString("the file would have " + std::to_string(text.size()) +
+                                       " bytes, too many to read it again"));
+    }
+    KivAtomicFile file(target);
+    if (!file.Write(text, _isAdministrators ? 0644 : 0600) || !file.Rename()) return Refuse(file.Reason());
+    _content = {};
+    _content.state = KivFileContent::State::Read;
+    _content.stamp = file.Stamp();
+    isDurable = file.FlushDirectory();
+    if (!isDurable) KivReport({KivDiagnostic::Severity::Warning, file.Reason(), _path, 0, {}});
+    _content.handle = file.TakeHandle();
+    _file = KivSettingFile(std::move(text));
+    return true;
+}
+
+KivSettingOwnFile::Outcome KivSettingOwnFile::Save(const std::vector<KivSettingChange>& changes)
+{
+    if (_path.IsEmpty()) {
+        Refuse("there is no home directory, and KivUserSettingsPath names none");
+        return Outcome::Refused;
+    }
+    const KivUnicodeString target = TargetOf(_path);
+    if (!MakeDirectory(target)) return Outcome::Refused;
+    const KivSettingFileLock lock(target, kLockPatience);
+    if (!lock.IsHeld()) {
+        Refuse(lock.Reason());
+        return Outcome::Refused;
+    }
+    Read();
+    bool isDurable = false;
+    if (IsProtected()) {
+        Refuse(_content.reason);
+        return Outcome::Refused;
+    }
+    if (_file.IsDamaged() && !SetAside(target)) return Outcome::Refused;
+    if (!Write(target, _file.With(changes), isDurable)) return Outcome::Refused;
+    return isDurable ? Outcome::Durable : Outcome::Visible;
+}

@@ -1,0 +1,246 @@
+#include "Settings/KivSettingRepository.h"
+
+#include "Base/KivDiagnostic.h"
+#include "Settings/KivSettingLayers.h"
+#include "Settings/KivSettingStore.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <map>
+
+namespace {
+
+// The repositories of the process. Never destroyed: they are asked until the very end.
+struct Registry {
+    // By name and edited layer.
+    std::map<std::pair<KivString, KivUnicodeString>, std::unique_ptr<KivSettingRepository>> repositories;
+    KivUnicodeString editedLayer;
+    bool isWithheld = false;
+};
+
+Registry& TheRegistry()
+{
+    static auto& registry = *new Registry;
+    return registry;
+}
+
+bool IsName(std::string_view name)
+{
+    return !name.empty() && name.size() <= 100 && std::all_of(name.begin(), name.end(), [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
+               c == '-';
+    });
+}
+
+} // namespace
+
+KivSettingRepository::KivSettingRepository(std::string_view name, const KivUnicodeString& editedLayer)
+    : _name(name), _store(std::make_unique<KivSettingStore>(name, editedLayer))
+{}
+
+KivSettingRepository::~KivSettingRepository() = default;
+
+KivSettingRepository* KivSettingRepository::GetRepository(const char* name, int, int, const char*)
+{
+    Registry& registry = TheRegistry();
+    if (!name || registry.isWithheld || !IsName(name)) return nullptr;
+    const auto [place, isNew] = registry.repositories.try_emplace({KivString(name), registry.editedLayer});
+    // Null is met by a diagnostic sink that asks for the very repository whose opening it is told about.
+    if (isNew) place->second.reset(new KivSettingRepository(name, registry.editedLayer));
+    return place->second.get();
+}
+
+void KivSettingRepository::SetEditedLayer(const KivUnicodeString& directory)
+{
+    TheRegistry().editedLayer =
+        directory.IsEmpty() ? directory : KivSettingLayers::Absolute(directory.View());
+}
+
+void KivSettingRepository::ForgetAll()
+{
+    TheRegistry().repositories.clear();
+}
+
+void KivSettingRepository::Withhold(bool withheld)
+{
+    TheRegistry().isWithheld = withheld;
+}
+
+template <class T> HRESULT KivSettingRepository::Read(const char* key, T* value, long count) const
+{
+    const KivSettingAttribute* attribute = _store->Find(key);
+    if (!attribute || !value || count != 1) return E_FAIL;
+    const T* const shown = std::get_if<T>(&attribute->Shown());
+    if (!shown) return E_FAIL;
+    *value = *shown;
+    return S_OK;
+}
+
+template <class T>
+HRESULT KivSettingRepository::Write(const char* key, const T* value, long count, int reserved)
+{
+    if (!key || !value || count != 1 || reserved != 0) return E_FAIL;
+    return _store->Write(key, *value) ? S_OK : E_FAIL;
+}
+
+HRESULT KivSettingRepository::ReadSetting(const char* key, int* value, long count) const
+{
+    return Read(key, value, count);
+}
+HRESULT KivSettingRepository::ReadSetting(const char* key, unsigned int* value, long count) const
+{
+    return Read(key, value, count);
+}
+HRESULT KivSettingRepository::ReadSetting(const char* key, float* value, long count) const
+{
+    return Read(key, value, count);
+}
+HRESULT KivSettingRepository::ReadSetting(const char* key, double* value, long count) const
+{
+    return Read(key, value, count);
+}
+HRESULT KivSettingRepository::ReadSetting(const char* key, KivUnicodeString* value, long count) const
+{
+    return Read(key, value, count);
+}
+
+HRESULT KivSettingRepository::WriteSetting(const char* key, const int* value, long count, int reserved)
+{
+    return Write(key, value, count, reserved);
+}
+HRESULT KivSettingRepository::WriteSetting(const char* key, const unsigned int* value, long count,
+                                           int reserved)
+{
+    return Write(key, value, count, reserved);
+}
+HRESULT KivSettingRepository::WriteSetting(const char* key, const float* value, long count, int reserved)
+{
+    return Write(key, value, count, reserved);
+}
+HRESULT KivSettingRepository::WriteSetting(const char* key, const double* value, long count, int reserved)
+{
+    return Write(key, value, count, reserved);
+}
+HRESULT KivSettingRepository::WriteSetting(const char* key, const KivUnicodeString* value, long count,
+                                           int reserved)
+{
+    return Write(key, value, count, reserved);
+}
+
+HRESULT KivSettingRepository::GetInfo(const char* key, KivSettingInfo* info, int) const
+{
+    if (!info) return E_FAIL;
+    *info = {};
+    info->repository = _name;
+    info->key = key;
+    const KivSettingAttribute* attribute = _store->Find(key);
+    if (!attribute) return E_FAIL;
+    _store->Describe(*attribute, *info);
+    const bool isKnown = info->origin != KivSettingInfo::Origin::None || info->locked || info->lockedHere;
+    return isKnown ? S_OK : E_FAIL;
+}
+
+HRESULT KivSettingRepository::NextAttribute(char* name, char* type, long* count, int restart)
+{
+    constexpr std::size_t bufferSize = 256;
+    if (restart) {
+        _store->nextAttribute = 0;
+        _store->hasDeliveredNameless = false;
+    }
+    const auto deliver = [&](const char* itsName, const char* itsType) {
+        if (name) std::snprintf(name, bufferSize, "%s", itsName);
+        if (type) std::snprintf(type, bufferSize, "%s", itsType);
+        if (count) *count = 1;
+        _store->hasDeliveredNameless = true; // it stands in for an empty repository alone
+        return S_OK;
+    };
+    const KivSettingTable& table = _store->Table();
+    while (_store->nextAttribute < table.Size()) {
+        const KivSettingAttribute& attribute = table[_store->nextAttribute++];
+        if (!KivHasValue(attribute.Shown())) continue;
+        return deliver(std::string(attribute.key).c_str(), KivSettingTypeName(attribute.Shown()));
+    }
+    if (_store->IsProtected() && !_store->hasDeliveredNameless) return deliver("", "");
+    return E_FAIL;
+}
+
+HRESULT KivSettingRepository::Commit(int notify)
+{
+    const Keys changed = _store->Commit();
+    if (notify) _store->listeners.Tell(changed);
+    return S_OK;
+}
+
+HRESULT KivSettingRepository::Rollback()
+{
+    _store->listeners.Tell(_store->Rollback());
+    return S_OK;
+}
+
+HRESULT KivSettingRepository::SaveRepository(const char* path)
+{
+    if (path) {
+        KivReport(
+            {KivDiagnostic::Severity::Error, "a repository is saved to its own file alone", path, 0, {}});
+        _store->receipt = Receipt::Refused;
+        return E_FAIL;
+    }
+    Receipt receipt = Receipt::Nothing;
+    const Keys changed = _store->Save(receipt);
+    _store->receipt = receipt;
+    _store->listeners.Tell(changed);
+    return receipt == Receipt::Refused ? E_FAIL : S_OK;
+}
+
+KivSettingRepository::Receipt KivSettingRepository::LastReceipt() const
+{
+    return _store->receipt;
+}
+
+HRESULT KivSettingRepository::ResetToAdminValues(const char* const* keys, int count)
+{
+    if (count < 0 || (count > 0 && !keys)) return E_FAIL;
+    for (int i = 0; i < count; ++i) {
+        if (keys[i]) _store->DropOwn(keys[i]);
+    }
+    return S_OK;
+}
+
+KivSettingRepository::ListenerId KivSettingRepository::AddListener(Listener listener)
+{
+    return _store->listeners.Add(std::move(listener));
+}
+
+void KivSettingRepository::RemoveListener(ListenerId listener)
+{
+    _store->listeners.Remove(listener);
+}
+
+bool KivSettingRepository::IsProtected() const
+{
+    return _store->IsProtected();
+}
+
+void KivSettingRepository::Refresh()
+{
+    _store->listeners.Tell(_store->Refresh());
+}
+
+HRESULT KivSettingRepository::SetLock(const char* key, bool locked)
+{
+    return key && _store->SetLock(key, locked) ? S_OK : E_FAIL;
+}
+
+bool KivSettingRepository::IsAdministrator() const
+{
+    return _store->IsAdministrator();
+}
+
+KivSettingRepository::InitialScope::InitialScope(KivSettingRepository& repository)
+    : _repository(repository), _before(std::exchange(repository._store->isInitial, true))
+{}
+
+KivSettingRepository::InitialScope::~InitialScope()
+{
+    _repository._store->isInitial = _before;
+}

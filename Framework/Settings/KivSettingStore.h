@@ -1,0 +1,73 @@
+#pragma once
+
+#include "Settings/KivSettingLayer.h"
+#include "Settings/KivSettingListeners.h"
+#include "Settings/KivSettingOwnFile.h"
+#include "Settings/KivSettingTable.h"
+
+#include <utility>
+#include <vector>
+
+// The resolved state of one repository: what the layers and the own file say of each key, what of it has not
+// been committed and not been saved. Every change of a layer resolves the keys concerned, so that a read is
+// one look-up.
+class KivSettingStore {
+public:
+    using Keys = KivSettingRepository::Keys;
+    using Receipt = KivSettingRepository::Receipt;
+
+    // editedLayer: the directory of the layer to be written, or empty for the user's.
+    KivSettingStore(std::string_view name, const KivUnicodeString& editedLayer);
+
+    const KivSettingAttribute* Find(const char* key) const { return key ? _table.Find(key) : nullptr; }
+    const KivSettingTable& Table() const { return _table; }
+
+    bool Write(std::string_view key, KivSettingValue value);
+    bool SetLock(std::string_view key, bool locked);
+    void DropOwn(std::string_view key);
+
+    // The keys answered by these show another value than before.
+    Keys Commit();
+    Keys Rollback();
+    Keys Refresh();
+    Keys Save(Receipt& receipt);
+
+    void Describe(const KivSettingAttribute& attribute, KivSettingInfo& info) const;
+
+    bool IsAdministrator() const { return _isAdministrator; }
+    bool IsProtected() const { return _own.IsProtected(); }
+
+    KivSettingListeners listeners;
+    bool isInitial = false; // writes bear the mark "initial"
+    Receipt receipt = Receipt::Nothing;
+    std::size_t nextAttribute = 0;
+    bool hasDeliveredNameless = false;
+
+private:
+    using Values = std::vector<KivSettingValue>;
+    using Journal =
+        std::vector<std::pair<std::size_t, KivSettingEntry>>; // an attribute, and what it said before
+
+    void ReadLayers();
+    void TakeOwnFile();
+    void Change(std::size_t index, const KivSettingEntry& says);
+    bool IsDirty(std::size_t index, const KivSettingEntry& saved) const
+    {
+        return !_table[index].own.Says(saved);
+    }
+    Values ShownNow() const;
+    Values ShownAtCommit() const;
+    Keys ChangedSince(const Values& shown) const;
+    void ForgetUncommitted();
+    void ForgetUnsaved();
+
+    KivString _name;
+    bool _isAdministrator;
+    KivUnicodeString _ownLayer;                      // what a person calls the layer that is written
+    std::vector<KivUnicodeString> _layerDirectories; // outside of the own file, outermost first
+    std::vector<KivSettingLayer> _layers;
+    KivSettingOwnFile _own;
+    KivSettingTable _table;
+    Journal _unsaved; // in writing order
+    Journal _uncommitted;
+};

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "Settings/KivSettingEntry.h"
+#include "Settings/KivSettingInfo.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+// One key with all that is known of it, resolved.
+struct KivSettingAttribute {
+    std::string_view key; // the table keeps its characters
+
+    KivSettingEntry own; // what the layer says that is written: the user's, or the one being edited
+
+    // What the administrator layers outside of it come to.
+    KivSettingValue given;
+    int givenLayer = -1;
+    int givenLine = 0;
+    int lockLayer = -1; // the outermost layer that locks the key, or -1
+    int lockLine = 0;
+
+    KivSettingInfo::Origin origin = KivSettingInfo::Origin::None; // Shown's, kept by Resolve
+
+    bool isUnsaved = false; // stands in the store's journal since the last save
+    bool isUncommitted = false;
+
+    // Who decides when the written layer says this.
+    KivSettingInfo::Origin OriginWith(const KivSettingEntry& says) const;
+    const KivSettingValue& ShownWith(const KivSettingEntry& says) const;
+
+    void Resolve() { origin = OriginWith(own); }
+    const KivSettingValue& Shown() const
+    {
+        return origin == KivSettingInfo::Origin::User ? own.value : given;
+    }
+};
+
+// The attributes of a repository in the order they were met, found by key in one look-up without allocation.
+// An attribute keeps its index for the life of the table.
+class KivSettingTable {
+public:
+    static constexpr std::size_t None = static_cast<std::size_t>(-1);
+
+    KivSettingTable() : _slots(64) {}
+
+    static std::size_t Hash(std::string_view key) { return std::hash<std::string_view>()(key); }
+
+    std::size_t IndexOf(std::string_view key) const;
+    const KivSettingAttribute* Find(std::string_view key) const
+    {
+        const std::size_t index = IndexOf(key);
+        return index == None ? nullptr : &_attributes[index];
+    }
+    // Adds the key when it is not there.
+    std::size_t IndexOfNew(std::string_view key) { return IndexOfNew(key, Hash(key)); }
+    std::size_t IndexOfNew(std::string_view key, std::size_t hash);
+
+    // Makes room for this many attributes more.
+    void Reserve(std::size_t more);
+
+    KivSettingAttribute& operator[](std::size_t index) { return _attributes[index]; }
+    const KivSettingAttribute& operator[](std::size_t index) const { return _attributes[index]; }
+    std::size_t Size() const { return _attributes.size(); }
+
+    auto begin() { return _attributes.begin(); }
+    auto end() { return _attributes.end(); }
+    auto begin() const { return _attributes.begin(); }
+    auto end() const { return _attributes.end(); }
+
+private:
+    struct Slot {
+        std::uint32_t hash = 0;
+        std::uint32_t next = 0; // the attribute's index + 1; 0: free
+    };
+    void Grow(std::size_t slots);
+    std::string_view Keep(std::string_view key);
+
+    std::vector<KivSettingAttribute> _attributes;
+    std::vector<Slot> _slots; // open addressing; a power of two, at most half full
+
+    std::vector<std::unique_ptr<char[]>> _keyChunks;
+    std::size_t _freeInChunk = 0;
+};

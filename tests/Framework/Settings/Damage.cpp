@@ -1,0 +1,216 @@
+#include "Settings/KivSettingFile.h"
+#include "Settings/KivSettingRepository.h"
+#include "Support/KivSettingsSandbox.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using Receipt = KivSettingRepository::Receipt;
+
+class Damage : public ::testing::Test {
+protected:
+    static Receipt PutAndSave(KivSettingRepository& repository, const char* key, int value)
+    {
+        repository.WriteSetting(key, &value, 1, 0);
+        repository.SaveRepository(nullptr);
+        return repository.LastReceipt();
+    }
+
+    KivSettingsSandbox box;
+    const std::filesystem::path file = box.File("user");
+};
+
+TEST_F(Damage, ALineCostsItselfAlone)
+{
+    const char* const lines[] = {
+        "int Bad = 2147483648",
+        "int Bad = 1.5",
+        "int Bad = 1,5",
+        "int Bad = 1 2",
+        "int Bad =",
+        "int Bad",
+        "unsigned Bad = -1",
+        "float Bad = 1e39",
+        "double Bad = nan",
+        "double Bad = inf",
+        "double Bad = 1e999",
+        "double Bad = 0x10",
+        "string Bad = x",
+        "string Bad = \"x",
+        "string Bad = \"\\q\"",
+        "string Bad = \"\xff\"",
+        "string Bad = \"\\x4\"",
+        "string Bad = \"a\"b\"",
+    };
+    for (const char* line : lines) {
+        box.diagnostics.clear();
+        box.Write(file, "int Before = 1\n" + std::string(line) + "\nint After = 2\n");
+        const KivSettingRepository& repository = box.Reopen();
+        EXPECT_EQ(box.Read(repository, "Before", 0), 1) << line;
+        EXPECT_EQ(box.Read(repository, "After", 0), 2) << line;
+        KivSettingInfo info;
+        EXPECT_EQ(repository.GetInfo("Bad", &info, 0), E_FAIL) << line;
+        EXPECT_EQ(box.Said("DraftingOptions.kivsettings:2: Bad: "), 1) << line;
+        EXPECT_FALSE(repository.IsProtected());
+    }
+}
+
+TEST_F(Damage, TheOriginalIsSetAsideBeforeTheFirstSave)
+{
+    const std::string damaged = std::string("int A = 1\nint Ru\0ler = 5\nnoise\nint B = x\nint C = 3", 50);
+    box.Write(file, damaged);
+    box.Write(box.root / "user/DraftingOptions.kivsettings.damaged-1", "earlier");
+    KivSettingRepository& repository = box.Reopen();
+    EXPECT_EQ(box.Read(repository, "C", 0), 3);
+    EXPECT_EQ(PutAndSave(repository, "B", 2), Receipt::Durable);
+    EXPECT_EQ(box.Bytes(box.root / "user/DraftingOptions.kivsettings.damaged-1"), "earlier");
+    EXPECT_EQ(box.Bytes(box.root / "user/DraftingOptions.kivsettings.damaged-2"), damaged);
+    EXPECT_EQ(box.Bytes(file), std::string("int A = 1\nint Ru\0ler = 5\nnoise\nint B = 2\nint C = 3", 50));
+
+    // What was not mended is not set aside again and again, but new damage is.
+    EXPECT_EQ(PutAndSave(repository, "A", 5), Receipt::Durable);
+    KivSettingRepository& next = box.Reopen();
+    EXPECT_EQ(PutAndSave(next, "A", 6), Receipt::Durable);
+    EXPECT_EQ(box.Names("user").size(), 4U); // the third copy: B's damage was mended
+    box.Write(file, "new noise\n");
+    EXPECT_EQ(PutAndSave(next, "A", 7), Receipt::Durable); // found only by the save itself
+    EXPECT_EQ(box.Bytes(box.root / "user/DraftingOptions.kivsettings.damaged-4"), "new noise\n");
+    EXPECT_EQ(box.Bytes(file), "new noise\nint A = 7\n");
+}
+
+TEST_F(Damage, NoBytesAreTooStrange)
+{
+    const std::string whole =
+        "# kivsettings 1\nint First = 1\nlock initial double D = 1e5\nstring S = \"\\x41\"\n";
+    std::mt19937 random(7);
+    for (int round = 0; round < 3000; ++round) {
+        std::string bytes = round % 2 ? whole : std::string(random() % 200, ' ');
+        for (char& c : bytes) {
+            if (round % 2 == 0 || random() % 20 == 0) c = static_cast<char>(random());
+        }
+        const KivSettingFile read(bytes);
+        if (!bytes.empty()) {
+            ASSERT_EQ(read.With({}), bytes);
+        }
+        KivSettingChange change{"Second", {}};
+        change.entry.value = round;
+        const KivSettingFile changed(read.With({change}));
+        ASSERT_FALSE(changed.Lines().empty());
+        ASSERT_EQ(changed.Lines().back().key, "Second");
+        ASSERT_TRUE(KivSameValue(changed.Lines().back().value, round));
+    }
+    for (std::size_t cut = 0; cut <= whole.size(); ++cut) {
+        box.Write(file, whole.substr(0, cut));
+        EXPECT_EQ(box.Read(box.Reopen(), "First", 0), cut >= 29 ? 1 : 0) << cut;
+    }
+    box.diagnostics.clear();
+    box.Write(file, "# kivsettings 2\nint First = 1\n");
+    EXPECT_EQ(box.Read(box.Reopen(), "First", 0), 1);
+    EXPECT_EQ(box.Said("of another version"), 1);
+}
+
+// Never looks new, serves what the administrator says, and refuses to be written over.
+TEST_F(Damage, AFileThatCannotBeReadIsProtected)
+{
+    box.NameLayers({"site"});
+    const auto isProtected = [&](const char* what) {
+        box.diagnostics.clear();
+        KivSettingRepository& repository = box.Reopen();
+        EXPECT_TRUE(repository.IsProtected()) << what;
+        EXPECT_EQ(box.Said("changes cannot be saved"), 1) << what;
+        char name[256], type[256];
+        long count = 0;
+        EXPECT_EQ(repository.NextAttribute(name, type, &count, 1), 0) << what;
+        EXPECT_NE(repository.NextAttribute(name, type, &count, 0), 0) << what;
+        EXPECT_EQ(PutAndSave(repository, "Ruler", 1), Receipt::Refused) << what;
+        EXPECT_EQ(box.Read(repository, "Ruler", 0), 1) << what;
+        EXPECT_GT(box.Said("the settings were not saved"), 0) << what;
+    };
+    std::filesystem::create_directory(file);
+    isProtected("directory");
+    box.Write(box.File("site"), "int Grid = 2\n");
+    isProtected("directory, with an administrator's value");
+    EXPECT_EQ(box.Read(box.Reopen(), "Grid", 0), 2);
+    std::filesystem::remove(file);
+
+    ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
+    isProtected("pipe");
+    std::filesystem::remove(file);
+
+    std::filesystem::create_symlink("/dev/zero", file);
+    isProtected("device");
+    std::filesystem::remove(file);
+
+    std::filesystem::create_symlink(file, file);
+    isProtected("endless link");
+    std::filesystem::remove(file);
+
+    box.Write(file, "");
+    std::filesystem::resize_file(file, KivSettingFile::LargestSize + 1);
+    isProtected("size");
+    EXPECT_GT(box.Said("67108865 bytes"), 0);
+    box.Write(file, std::string(KivSettingFile::MostLines + 1, '\n'));
+    isProtected("lines");
+    EXPECT_EQ(box.Names("user").size(), 1U);
+
+    // Once it can be read the pending change is saved on top of it.
+    KivSettingRepository& repository = box.Reopen();
+    EXPECT_EQ(PutAndSave(repository, "Ruler", 1), Receipt::Refused);
+    box.Write(file, "int Snap = 3\n");
+    EXPECT_EQ(repository.SaveRepository(nullptr), S_OK);
+    EXPECT_EQ(box.Bytes(file), "int Snap = 3\nint Ruler = 1\n");
+    EXPECT_EQ(box.Read(repository, "Snap", 0), 3);
+    EXPECT_FALSE(repository.IsProtected());
+
+    std::filesystem::remove_all(box.root / "user");
+    box.Write(box.root / "user", "a file in place of the directory");
+    EXPECT_TRUE(box.Reopen().IsProtected());
+    std::filesystem::remove(box.root / "user");
+    EXPECT_FALSE(box.Reopen().IsProtected());
+}
+
+// Gives up the superuser's rights for a while, whom permissions do not bind.
+class PlainUser {
+public:
+    PlainUser() { EXPECT_EQ(seteuid(_before == 0 ? 65534 : _before), 0); }
+    ~PlainUser() { EXPECT_EQ(seteuid(_before), 0); }
+    PlainUser(const PlainUser&) = delete;
+    PlainUser& operator=(const PlainUser&) = delete;
+
+private:
+    uid_t _before = geteuid();
+};
+
+TEST_F(Damage, MissingPermissionsRefuseAndLoseNothing)
+{
+    box.Write(file, "int Snap = 3\n");
+    for (const auto& path : {box.root, box.root / "user"}) chmod(path.c_str(), 0755);
+    chmod(file.c_str(), 0644);
+    chmod((box.root / "user").c_str(), 0555);
+    {
+        const PlainUser user;
+        KivSettingRepository& repository = box.Reopen();
+        EXPECT_EQ(box.Read(repository, "Snap", 0), 3);
+        EXPECT_EQ(PutAndSave(repository, "Ruler", 1), Receipt::Refused);
+        EXPECT_EQ(box.Said("the temporary file cannot be made: Permission denied"), 1);
+        EXPECT_EQ(box.Read(repository, "Ruler", 0), 1);
+    }
+    chmod(file.c_str(), 0);
+    {
+        const PlainUser user;
+        KivSettingRepository& repository = box.Reopen();
+        EXPECT_TRUE(repository.IsProtected());
+        EXPECT_EQ(PutAndSave(repository, "Ruler", 1), Receipt::Refused);
+        KivSettingRepository::ForgetAll();
+    }
+    chmod((box.root / "user").c_str(), 0755);
+    chmod(file.c_str(), 0600);
+    EXPECT_EQ(box.Bytes(file), "int Snap = 3\n");
+}
+
+} // namespace

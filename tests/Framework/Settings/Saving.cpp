@@ -1,0 +1,346 @@
+#include "Settings/KivSettingRepository.h"
+#include "Support/KivSettingsSandbox.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <clocale>
+#include <csignal>
+#include <cstdint>
+#include <fcntl.h>
+#include <limits>
+#include <locale>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+using Receipt = KivSettingRepository::Receipt;
+
+class CommaDecimals : public std::numpunct<char> {
+    char do_decimal_point() const override { return ','; }
+    char do_thousands_sep() const override { return '.'; }
+    std::string do_grouping() const override { return "\3"; }
+};
+
+class Saving : public ::testing::Test {
+protected:
+    static HRESULT Put(KivSettingRepository& repository, const std::string& key, int value)
+    {
+        return repository.WriteSetting(key.c_str(), &value, 1, 0);
+    }
+    static Receipt Save(KivSettingRepository& repository)
+    {
+        const HRESULT result = repository.SaveRepository(nullptr);
+        EXPECT_EQ(result == S_OK, repository.LastReceipt() != Receipt::Refused);
+        return repository.LastReceipt();
+    }
+
+    KivSettingsSandbox box;
+    const std::filesystem::path file = box.File("user");
+};
+
+TEST_F(Saving, EveryLineThatDidNotChangeSurvivesByteForByte)
+{
+    box.Write(file,
+              "\xef\xbb\xbf# kivsettings 1\r\n\r\n  # mine \t\r\n int  Ruler=0 \r\nbool New = true\r\n"
+              "int Twice = 1\r\nunsigned Colour = 4294967295\r\nint Twice = 2\r\n\tstring Path = \"a\\\"b\"");
+    KivSettingRepository& repository = box.Reopen();
+    EXPECT_EQ(box.Read(repository, "Twice", 0), 2);
+    EXPECT_EQ(box.Read(repository, "Colour", 0U), 4294967295U);
+    EXPECT_EQ(box.Read(repository, "Path", KivUnicodeString()), "a\"b");
+    EXPECT_EQ(box.Said("DraftingOptions.kivsettings:8: Twice: the key stands in line 6 too"), 1);
+    EXPECT_EQ(box.Said(":5: New: the type is unknown"), 1);
+    Put(repository, "Ruler", 1);
+    Put(repository, "Zebra", 1);
+    Put(repository, "Twice", 3);
+    Put(repository, "Ant", -2);
+    ASSERT_EQ(Save(repository), Receipt::Durable);
+    EXPECT_EQ(box.Bytes(file),
+              "\xef\xbb\xbf# kivsettings 1\r\n\r\n  # mine \t\r\nint Ruler = 1\r\nbool New = true\r\n"
+              "unsigned Colour = 4294967295\r\nint Twice = 3\r\n\tstring Path = \"a\\\"b\"\r\n"
+              "int Zebra = 1\r\nint Ant = -2\r\n");
+    EXPECT_EQ(box.Names("user"), std::vector<std::string>{"DraftingOptions.kivsettings"});
+    KivSettingInfo info;
+    repository.GetInfo("Ant", &info, 0);
+    EXPECT_EQ(info.line, 10);
+}
+
+TEST_F(Saving, ValuesRoundTripExactlyInEveryLocale)
+{
+    // Streams follow the C++ locale, the C functions theirs; the latter where this machine has such a locale.
+    const std::locale before = std::locale::global(std::locale(std::locale::classic(), new CommaDecimals));
+    for (const char* comma : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8"}) {
+        if (std::setlocale(LC_ALL, comma)) break;
+    }
+    const double doubles[] = {0.1, -0.0, 1e308, std::numeric_limits<double>::denorm_min(), 1.0 / 3, 15};
+    const float floats[] = {0.1F, -0.0F, 3.4e38F, std::numeric_limits<float>::denorm_min(), 1.0F / 3};
+    const KivUnicodeString texts[] = {"", "\"\\\n\r\t\x01 # = x", "größe", KivUnicodeString("\xff\x80 a"),
+                                      KivUnicodeString(std::string_view("a\0b", 3))};
+    {
+        KivSettingRepository& repository = box.Reopen();
+        int key = 0;
+        for (const auto& x : doubles)
+            repository.WriteSetting(("K" + std::to_string(key++)).c_str(), &x, 1, 0);
+        for (const auto& x : floats) repository.WriteSetting(("K" + std::to_string(key++)).c_str(), &x, 1, 0);
+        for (const auto& x : texts) repository.WriteSetting(("K" + std::to_string(key++)).c_str(), &x, 1, 0);
+        ASSERT_EQ(Save(repository), Receipt::Durable);
+    }
+    KivSettingRepository& repository = box.Reopen();
+    int key = 0;
+    for (const double x : doubles) {
+        const double read = box.Read(repository, ("K" + std::to_string(key++)).c_str(), 7.0);
+        EXPECT_EQ(std::bit_cast<std::uint64_t>(read), std::bit_cast<std::uint64_t>(x)) << x;
+    }
+    for (const float x : floats) {
+        const float read = box.Read(repository, ("K" + std::to_string(key++)).c_str(), 7.0F);
+        EXPECT_EQ(std::bit_cast<std::uint32_t>(read), std::bit_cast<std::uint32_t>(x)) << x;
+    }
+    for (const auto& x : texts) {
+        EXPECT_EQ(box.Read(repository, ("K" + std::to_string(key++)).c_str(), KivUnicodeString("?")), x);
+    }
+    EXPECT_TRUE(box.diagnostics.empty());
+    std::locale::global(before);
+    std::setlocale(LC_ALL, "C");
+}
+
+TEST_F(Saving, ReadsAndWritesOfTheWrongKindChangeNothing)
+{
+    KivSettingRepository& repository = box.Reopen();
+    ASSERT_EQ(Put(repository, "Ruler", 1), S_OK);
+    double real = 2.5;
+    int two[2] = {8, 8};
+    EXPECT_EQ(repository.ReadSetting("Ruler", &real, 1), E_FAIL);
+    EXPECT_EQ(repository.ReadSetting("Ruler", two, 2), E_FAIL);
+    EXPECT_EQ(repository.ReadSetting("ruler", two, 1), E_FAIL);
+    EXPECT_EQ(repository.ReadSetting(nullptr, two, 1), E_FAIL);
+    EXPECT_EQ(real, 2.5);
+    EXPECT_EQ(two[0], 8);
+    real = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(repository.WriteSetting("Ruler", &real, 1, 0), E_FAIL);
+    for (const char* key : {"", "a b", "1a", "a=b", "ä", "a\nb"})
+        EXPECT_EQ(Put(repository, key, 1), E_FAIL) << key;
+    EXPECT_EQ(Put(repository, std::string(256, 'a'), 1), E_FAIL);
+    EXPECT_EQ(repository.WriteSetting("Ruler", two, 1, 5), E_FAIL);
+    EXPECT_EQ(box.Read(repository, "Ruler", 0), 1);
+    real = 2.5;
+    EXPECT_EQ(repository.WriteSetting("Ruler", &real, 1, 0), S_OK);
+    EXPECT_EQ(box.Read(repository, "Ruler", 0.0), 2.5);
+
+    for (const char* name : {"", ".", "..", "a/b", ".a", "a.b", "a\\b", "ä"}) {
+        EXPECT_EQ(KivSettingRepository::GetRepository(name), nullptr) << name;
+    }
+    EXPECT_EQ(KivSettingRepository::GetRepository(std::string(101, 'a').c_str()), nullptr);
+    EXPECT_EQ(KivSettingRepository::GetRepository("DraftingOptions"), &repository);
+    KivSettingRepository::Withhold(true);
+    EXPECT_EQ(KivSettingRepository::GetRepository("DraftingOptions"), nullptr);
+}
+
+TEST_F(Saving, CommitRollbackAndSaveTellWhatShowsAnotherValue)
+{
+    box.Write(file, "int A = 1\nint B = 1\n");
+    KivSettingRepository& repository = box.Reopen();
+    std::string told;
+    KivSettingRepository::ListenerId second = 0;
+    const auto first = repository.AddListener([&](const KivSettingRepository::Keys& keys) {
+        for (const KivString& key : keys) told += std::string(key.View()) + " ";
+        repository.RemoveListener(second); // while it is called
+    });
+    second = repository.AddListener([&](const KivSettingRepository::Keys&) { told += "removed "; });
+    const auto said = [&] { return std::exchange(told, {}); };
+
+    Put(repository, "A", 2);
+    Put(repository, "C", 1);
+    EXPECT_EQ(told, "");
+    EXPECT_EQ(repository.Rollback(), S_OK);
+    EXPECT_EQ(said(), "A C ");
+    EXPECT_EQ(box.Read(repository, "A", 0), 1);
+    EXPECT_EQ(box.Read(repository, "C", 9), 9);
+    EXPECT_EQ(Save(repository), Receipt::Nothing);
+
+    Put(repository, "A", 3);
+    repository.Commit(1);
+    EXPECT_EQ(said(), "A ");
+    Put(repository, "A", 4);
+    Put(repository, "B", 4);
+    Put(repository, "B", 1);
+    repository.Rollback();
+    EXPECT_EQ(said(), "A ");
+    EXPECT_EQ(box.Read(repository, "A", 0), 3);
+    Put(repository, "B", 5);
+    repository.Commit(0);
+    EXPECT_EQ(said(), "");
+    const char* keys[] = {"B"};
+    repository.ResetToAdminValues(keys, 1);
+    EXPECT_EQ(Save(repository), Receipt::Durable);
+    EXPECT_EQ(said(), "B ");
+    EXPECT_EQ(box.Bytes(file), "int A = 3\n");
+    repository.Rollback();
+    EXPECT_EQ(box.Read(repository, "A", 0), 3);
+
+    struct stat saved {
+    }, again{};
+    stat(file.c_str(), &saved);
+    EXPECT_EQ(Save(repository), Receipt::Nothing);
+    stat(file.c_str(), &again);
+    EXPECT_EQ(saved.st_ino, again.st_ino);
+
+    // What another program saved arrives, and what is not committed here stays on top and can be taken back.
+    Put(repository, "A", 6);
+    box.Write(file, "int A = 7\nint D = 7\n");
+    repository.Refresh();
+    EXPECT_EQ(said(), "D ");
+    EXPECT_EQ(box.Read(repository, "A", 0), 6);
+    repository.Rollback();
+    EXPECT_EQ(box.Read(repository, "A", 0), 7);
+    repository.RemoveListener(first);
+}
+
+TEST_F(Saving, TwoProcessesLoseNothingOfEachOther)
+{
+    constexpr int saves = 200;
+    pid_t children[2];
+    for (int who = 0; who < 2; ++who) {
+        if ((children[who] = fork()) != 0) continue;
+        KivSettingRepository& repository = box.Reopen();
+        bool well = true;
+        for (int i = 0; i < saves; ++i) {
+            Put(repository, (who ? "Odd" : "Even") + std::to_string(i), i);
+            Put(repository, who ? "OddCount" : "EvenCount", i);
+            well = well && repository.SaveRepository(nullptr) == S_OK;
+        }
+        _exit(well ? 0 : 1);
+    }
+    for (const pid_t child : children) {
+        int status = -1;
+        waitpid(child, &status, 0);
+        EXPECT_EQ(status, 0);
+    }
+    KivSettingRepository& repository = box.Reopen();
+    for (int i = 0; i < saves; ++i) {
+        EXPECT_EQ(box.Read(repository, ("Odd" + std::to_string(i)).c_str(), -1), i);
+        EXPECT_EQ(box.Read(repository, ("Even" + std::to_string(i)).c_str(), -1), i);
+    }
+    EXPECT_EQ(box.Read(repository, "OddCount", -1), saves - 1);
+    EXPECT_EQ(box.Read(repository, "EvenCount", -1), saves - 1);
+    EXPECT_TRUE(box.diagnostics.empty());
+    EXPECT_EQ(box.Names("user").size(), 1U);
+}
+
+TEST_F(Saving, AProcessThatIsKilledLeavesOldOrNew)
+{
+    box.Write(file, "# kivsettings 1\nint A = 0\nint B = 0\n");
+    for (int round = 0; round < 30; ++round) {
+        const pid_t child = fork();
+        if (child == 0) {
+            KivSettingRepository& repository = box.Reopen();
+            for (int i = 0;; ++i) {
+                Put(repository, "A", i);
+                Put(repository, "B", i);
+                repository.SaveRepository(nullptr);
+            }
+        }
+        std::this_thread::sleep_for(std::chrono::microseconds(2000 + 377 * round));
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        KivSettingRepository& repository = box.Reopen();
+        ASSERT_EQ(box.Read(repository, "A", -1), box.Read(repository, "B", -2));
+        ASSERT_TRUE(box.diagnostics.empty());
+    }
+    // What the last one may have left is cleaned; nobody waits for it.
+    box.Write(box.root / "user/.DraftingOptions.kivsettings.tmp", "half");
+    KivSettingRepository& repository = box.Reopen();
+    Put(repository, "A", -1);
+    EXPECT_EQ(Save(repository), Receipt::Durable);
+    EXPECT_EQ(box.Names("user").size(), 1U);
+}
+
+TEST_F(Saving, LinksAreFollowedForTheFileAndNeverForTheTemporary)
+{
+    box.Write(box.root / "store/real", "int A = 1\n");
+    chmod((box.root / "store/real").c_str(), 0640);
+    std::filesystem::create_symlink("../store/real", file);
+    box.Write(box.root / "victim", "victim");
+    std::filesystem::create_symlink(box.root / "victim", box.root / "store/.real.tmp");
+    KivSettingRepository& repository = box.Reopen();
+    Put(repository, "A", 2);
+    ASSERT_EQ(Save(repository), Receipt::Durable);
+    EXPECT_TRUE(std::filesystem::is_symlink(file));
+    EXPECT_EQ(box.Bytes(box.root / "store/real"), "int A = 2\n");
+    EXPECT_EQ(box.Bytes(box.root / "victim"), "victim");
+    EXPECT_EQ(box.Names("store"), std::vector<std::string>{"real"});
+    struct stat status {};
+    stat((box.root / "store/real").c_str(), &status);
+    EXPECT_EQ(status.st_mode & 0777, 0640U);
+}
+
+TEST_F(Saving, ARefusedSaveKeepsEverythingForTheNextOne)
+{
+    box.Write(file, "int A = 1\n");
+    KivSettingRepository& repository = box.Reopen();
+    Put(repository, "A", 2);
+
+    // The disk is full.
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit tiny{4, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &tiny);
+    EXPECT_EQ(Save(repository), Receipt::Refused);
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_EQ(box.Said("the settings were not saved: the file cannot be written"), 1);
+    EXPECT_EQ(box.Names("user").size(), 1U);
+    EXPECT_EQ(box.Bytes(file), "int A = 1\n");
+
+    // The directory is gone and something else stands there.
+    std::filesystem::rename(box.root / "user", box.root / "aside");
+    box.Write(box.root / "user", "no directory");
+    EXPECT_EQ(Save(repository), Receipt::Refused);
+    std::filesystem::remove(box.root / "user");
+    std::filesystem::rename(box.root / "aside", box.root / "user");
+
+    repository.Rollback(); // the save was a point to return to
+    EXPECT_EQ(box.Read(repository, "A", 0), 2);
+    EXPECT_EQ(Save(repository), Receipt::Durable);
+    EXPECT_EQ(box.Bytes(file), "int A = 2\n");
+
+    // Another program is stopped while it saves.
+    const int held = open((box.root / "user").c_str(), O_RDONLY | O_DIRECTORY);
+    ASSERT_EQ(flock(held, LOCK_EX), 0);
+    Put(repository, "A", 3);
+    EXPECT_EQ(Save(repository), Receipt::Refused);
+    close(held);
+    EXPECT_EQ(Save(repository), Receipt::Durable);
+}
+
+TEST_F(Saving, WithoutAHomeEverythingWorksInMemory)
+{
+    for (const char* name : {"KivUserSettingsPath", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "HOME"}) {
+        box.SetVariable(name, {});
+    }
+    KivSettingRepository& homeless = box.Reopen();
+    EXPECT_FALSE(homeless.IsProtected());
+    Put(homeless, "A", 1);
+    EXPECT_EQ(Save(homeless), Receipt::Refused);
+    EXPECT_EQ(box.Said("there is no home directory"), 1);
+    EXPECT_EQ(box.Read(homeless, "A", 0), 1);
+
+    // The directory is made at the first save, for its user alone.
+    box.SetVariable("HOME", (box.root / "home").string());
+    KivSettingRepository& first = box.Reopen();
+    Put(first, "A", 1);
+    EXPECT_FALSE(std::filesystem::exists(box.root / "home"));
+    EXPECT_EQ(Save(first), Receipt::Durable);
+    struct stat status {};
+    ASSERT_EQ(stat((box.root / "home/.config/kiv").c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0700U);
+    ASSERT_EQ(stat((box.root / "home/.config/kiv/DraftingOptions.kivsettings").c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0600U);
+}
+
+} // namespace
