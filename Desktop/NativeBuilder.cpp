@@ -85,11 +85,12 @@ void Fill(KivDialog& frame, QWidget* surface, NativeGroup* inGroup)
     layout->setRowStretch(grid.Rows(), 1);
 }
 
-// Only when all pieces stand do labels find the fields that they lead to.
+// Only when all pieces stand do labels find the fields that they lead to. Frames come after what is in them:
+// when they are shown they measure it.
 void RefreshAll(const KivDialog& node)
 {
-    if (NativePiece* piece = NativePiece::Of(&node)) piece->Refresh();
     for (const KivDialog* child : node.Children()) RefreshAll(*child);
+    if (NativePiece* piece = NativePiece::Of(&node)) piece->Refresh();
 }
 
 } // namespace

@@ -140,6 +140,7 @@ void OptionsWindow::PageChosen(int page)
     PageView(page).Build();
     _stack->setCurrentIndex(page);
     const QString title = ToQt(_session->Pages()[static_cast<std::size_t>(page)].title);
+    PageView(page).setAccessibleName(title);
     _reset->setToolTip(WindowText("ResetHelp").arg(title));
     _reset->setAccessibleDescription(_reset->toolTip());
     OrderTab();
