@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -192,11 +193,12 @@ TEST_F(OptionsWindows, SizeAndPageAreRememberedAndNeverTooLarge)
     const QTemporaryDir directory;
     const OptionsMemory memory(directory.filePath("desktop.ini"));
     Open(memory);
-    window->resize(640, 400);
+    window->resize(window->screen()->availableGeometry().size() * 3 / 4);
+    const QSize chosen = window->size();
     window->ShowPage("OtherTestEditor");
     window->reject();
     Open(memory);
-    EXPECT_EQ(window->size(), QSize(640, 400));
+    EXPECT_EQ(window->size(), chosen);
     EXPECT_EQ(window->CurrentPage(), PageNumber("OtherTestEditor"));
     window->resize(100, 100000);
     window->reject();
@@ -205,6 +207,18 @@ TEST_F(OptionsWindows, SizeAndPageAreRememberedAndNeverTooLarge)
     Open(OptionsMemory("/proc/nowhere/desktop.ini"));
     window->reject();
     EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(OptionsWindows, MayBeLeftToDeleteItself)
+{
+    for (const bool ok : {true, false}) {
+        const QPointer<OptionsWindow> own = new OptionsWindow(OpenTestSession(), OptionsMemory(QString()));
+        own->setAttribute(Qt::WA_DeleteOnClose);
+        own->open();
+        ok ? own->accept() : own->reject();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_FALSE(own);
+    }
 }
 
 TEST_F(OptionsWindows, WhatPagesCondemnGoesBetweenEvents)
