@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QColor>
+#include <QIcon>
+#include <QIconEngine>
+
+#include <functional>
+
+// An icon that is drawn anew wherever it is shown, so that it is crisp at every scale and follows the
+// palette.
+class IconEngine final : public QIconEngine {
+public:
+    // Draws within the rectangle, in sizes relative to it; ink is the colour of text in that place.
+    using Draw = std::function<void(QPainter& painter, const QRectF& rectangle, const QColor& ink)>;
+    enum class Place { Surface, List };
+
+    static QIcon Icon(Draw draw, Place place = Place::Surface);
+
+    void paint(QPainter* painter, const QRect& rectangle, QIcon::Mode mode, QIcon::State state) override;
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
+    QIconEngine* clone() const override { return new IconEngine(*this); }
+
+private:
+    IconEngine(Draw draw, Place place) : _draw(std::move(draw)), _place(place) {}
+
+    Draw _draw;
+    Place _place;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "Base/KivString.h"
+
+#include <QStyle>
+#include <QWidget>
+
+// A place on a surface that shows an icon; empty, but as large, when there is none.
+class IconView : public QWidget {
+public:
+    // The size is a style's metric, as QStyle::PM_LargeIconSize.
+    IconView(QStyle::PixelMetric size, QWidget* parent);
+
+    void SetIcon(const KivString& name);
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QStyle::PixelMetric _size;
+    KivString _name;
+};

@@ -1,0 +1,103 @@
+#include "NativeBuilder.h"
+
+#include "Dialog/KivComboDashed.h"
+#include "Dialog/KivComboWeight.h"
+#include "NativeCheckButton.h"
+#include "NativeColourCombo.h"
+#include "NativeEditor.h"
+#include "NativeGrid.h"
+#include "NativeGroup.h"
+#include "NativeLabel.h"
+#include "NativeMergedFrame.h"
+#include "NativePadlock.h"
+#include "NativePage.h"
+#include "NativeSpinner.h"
+#include "NativeTypeCombo.h"
+#include "NativeWeightCombo.h"
+
+#include <QGridLayout>
+
+namespace {
+
+template <class Native> NativePiece* Make(KivDialog& node, QWidget* parent)
+{
+    return new Native(node, parent);
+}
+
+// Which native class serves which kind of node; a kind stands before its bases.
+constexpr struct {
+    const char* kind;
+    NativePiece* (*make)(KivDialog& node, QWidget* parent);
+} kMakers[] = {
+    {KivDlgToolsOptionsFrame::Name, &Make<NativeGroup>},
+    {KivDlgCheckButton::Name, &Make<NativeCheckButton>},
+    {KivDlgLabel::Name, &Make<NativeLabel>},
+    {KivDlgLock::Name, &Make<NativePadlock>},
+    {KivDlgSpinner::Name, &Make<NativeSpinner>},
+    {KivDlgEditor::Name, &Make<NativeEditor>},
+    {KivComboColor::Name, &Make<NativeColourCombo>},
+    {KivComboDashed::Name, &Make<NativeTypeCombo>},
+    {KivComboWeight::Name, &Make<NativeWeightCombo>},
+    {KivDlgCombo::Name, &Make<NativeCombo>},
+};
+
+NativePiece* MakePiece(KivDialog& node, QWidget* parent)
+{
+    for (const auto& maker : kMakers) {
+        if (node.IsAKindOf(maker.kind)) return maker.make(node, parent);
+    }
+    return nullptr; // a kind that has nothing to show
+}
+
+Qt::Alignment Alignment(unsigned int attachment)
+{
+    Qt::Alignment alignment;
+    const bool left = attachment & KivDlgAttachLeft, right = attachment & KivDlgAttachRight;
+    const bool top = attachment & KivDlgAttachTop, bottom = attachment & KivDlgAttachBottom;
+    if (!left || !right) alignment |= left ? Qt::AlignLeft : (right ? Qt::AlignRight : Qt::AlignHCenter);
+    if (attachment & KivDlgCentreVertically) return alignment | Qt::AlignVCenter;
+    if (!top || !bottom) alignment |= top ? Qt::AlignTop : (bottom ? Qt::AlignBottom : Qt::AlignVCenter);
+    return alignment;
+}
+
+void Fill(KivDialog& frame, QWidget* surface, NativeGroup* inGroup)
+{
+    const NativeGrid grid(frame);
+    auto* layout = new QGridLayout(surface);
+    if (inGroup) layout->setContentsMargins(0, 0, 0, 0);
+    for (KivDialog* merged : grid.Merged()) new NativeMergedFrame(*merged, surface);
+
+    // Groups share the width of the surface; controls stay together at its beginning.
+    bool hasGroups = false;
+    for (const NativeCell& cell : grid.Cells()) {
+        NativePiece* piece = MakePiece(*cell.node, surface);
+        if (!piece) continue;
+        const unsigned int attachment = cell.node->GetGridConstraints().attachment;
+        layout->addWidget(piece->Widget(), cell.row, cell.column, cell.rows, cell.columns,
+                          Alignment(attachment));
+        if (auto* group = dynamic_cast<NativeGroup*>(piece)) {
+            Fill(*cell.node, group->Content(), group);
+            layout->setColumnStretch(cell.column + cell.columns - 1, 1);
+            hasGroups = true;
+        }
+    }
+    if (!hasGroups) layout->setColumnStretch(grid.Columns(), 1);
+    layout->setRowStretch(grid.Rows(), 1);
+}
+
+// Only when all pieces stand do labels find the fields that they lead to.
+void RefreshAll(const KivDialog& node)
+{
+    if (NativePiece* piece = NativePiece::Of(&node)) piece->Refresh();
+    for (const KivDialog* child : node.Children()) RefreshAll(*child);
+}
+
+} // namespace
+
+QWidget* NativeBuilder::Build(KivEditorPage& page, QWidget* parent)
+{
+    auto* surface = new NativePage(page, parent);
+    Fill(page, surface, nullptr);
+    RefreshAll(page);
+    return surface;
+}

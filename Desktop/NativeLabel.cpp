@@ -1,0 +1,31 @@
+#include "NativeLabel.h"
+
+#include "Dialog/KivDlgLock.h"
+#include "NativeText.h"
+
+namespace {
+
+// The widget of a control; of a frame that wraps one, that of the control in it.
+QWidget* FieldOf(const KivDialog* control)
+{
+    if (!control || control->IsAKindOf(KivDlgLock::Name)) return nullptr;
+    const NativePiece* piece = NativePiece::Of(control);
+    if (piece && piece->Widget()) return piece->Widget();
+    for (const KivDialog* child : control->Children()) {
+        if (QWidget* field = FieldOf(child)) return field;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+NativeLabel::NativeLabel(KivDialog& node, QWidget* parent) : QLabel(parent), NativePieceFor(node, this) {}
+
+void NativeLabel::ShowNode()
+{
+    QWidget* field = FieldOf(TreeNode()->GetLabelledControl());
+    if (buddy() != field) setBuddy(field);
+    // Without a field to lead to, the mark of the letter would be shown as it stands.
+    setTextFormat(Qt::PlainText);
+    setText(ToQt(field ? TreeNode()->GetTitle() : TreeNode()->GetSpokenTitle()));
+}

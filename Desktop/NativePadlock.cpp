@@ -1,0 +1,112 @@
+#include "NativePadlock.h"
+
+#include "NativePanel.h"
+#include "NativeText.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
+
+namespace {
+
+constexpr qreal kGrid = 16.0; // the drawing is made on a grid of so many units
+constexpr qreal kPale = 0.45;
+
+// The shackle stands on the body on both sides, or is swung up on its right foot.
+void DrawPadlock(QPainter& painter, bool locked, QColor ink)
+{
+    const QRectF body(2.5, 7.5, 11.0, 7.0);
+    QPainterPath shackle;
+    if (locked) {
+        shackle.moveTo(5.0, 7.5);
+        shackle.lineTo(5.0, 5.0);
+        shackle.arcTo(QRectF(5.0, 1.5, 6.0, 6.0), 180.0, -180.0);
+        shackle.lineTo(11.0, 7.5);
+    } else {
+        ink.setAlphaF(static_cast<float>(kPale));
+        shackle.moveTo(9.0, 7.5);
+        shackle.lineTo(9.0, 4.5);
+        shackle.arcTo(QRectF(9.0, 1.0, 6.0, 6.0), 180.0, -180.0);
+        shackle.lineTo(15.0, 5.5);
+    }
+    painter.setPen(QPen(ink, locked ? 1.6 : 1.2, Qt::SolidLine, Qt::FlatCap));
+    painter.drawPath(shackle);
+    if (!locked) {
+        painter.drawRoundedRect(body, 1.0, 1.0);
+        return;
+    }
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ink);
+    QPainterPath plate;
+    plate.addRoundedRect(QRectF(2.0, 7.0, 12.0, 8.0), 1.2, 1.2);
+    QPainterPath keyhole;
+    keyhole.addEllipse(QPointF(8.0, 10.2), 1.3, 1.3);
+    keyhole.addRect(QRectF(7.4, 10.2, 1.2, 3.0));
+    painter.drawPath(plate.subtracted(keyhole));
+}
+
+} // namespace
+
+NativePadlock::NativePadlock(KivDialog& node, QWidget* parent)
+    : QAbstractButton(parent), NativePieceFor(node, this)
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    connect(this, &QAbstractButton::clicked, this, [this] { OpenReason(); });
+}
+
+QSize NativePadlock::PadlockSize(const QWidget& widget)
+{
+    const QStyle& style = *widget.style();
+    const int frame = 2 * style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &widget);
+    const int extent = style.pixelMetric(QStyle::PM_SmallIconSize, nullptr, &widget) + frame;
+    return {extent, extent};
+}
+
+void NativePadlock::ShowNode()
+{
+    setFocusPolicy(IsLocked() ? Qt::StrongFocus : Qt::NoFocus);
+    const QString reason = ToQt(TreeNode()->GetReason());
+    setAccessibleName(WindowText(IsLocked() ? "PadlockClosed" : "PadlockOpen"));
+    setAccessibleDescription(reason);
+    setToolTip(reason);
+    setWhatsThis(WindowText("PadlockHelp"));
+    update();
+}
+
+void NativePadlock::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const int extent = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate((width() - extent) / 2, (height() - extent) / 2);
+    painter.scale(extent / kGrid, extent / kGrid);
+    if (isRightToLeft()) {
+        painter.translate(kGrid, 0.0);
+        painter.scale(-1.0, 1.0);
+    }
+    DrawPadlock(painter, IsLocked(), palette().color(QPalette::Active, QPalette::WindowText));
+    painter.restore();
+    if (!hasFocus()) return;
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+}
+
+void NativePadlock::keyPressEvent(QKeyEvent* event)
+{
+    // Elsewhere in the dialog this key means OK.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        click();
+    } else {
+        QAbstractButton::keyPressEvent(event);
+    }
+}
+
+void NativePadlock::OpenReason()
+{
+    if (IsLocked())
+        NativePanel::Open(*this, accessibleName(), ToQt(TreeNode()->GetReason()), NativePanel::Copy::Offered);
+}

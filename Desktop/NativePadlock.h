@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Dialog/KivDlgLock.h"
+#include "NativePiece.h"
+
+#include <QAbstractButton>
+
+// A padlock. Closed, it is a control that Tab reaches and that opens the reason as a small panel; open, it is
+// pale and only answers to the pointer that rests on it.
+class NativePadlock : public QAbstractButton, public NativePieceFor<KivDlgLock> {
+public:
+    NativePadlock(KivDialog& node, QWidget* parent);
+
+    QSize sizeHint() const override { return PadlockSize(*this); }
+    // Also for what only keeps the place of a padlock.
+    static QSize PadlockSize(const QWidget& widget);
+
+protected:
+    void ShowNode() override;
+    bool StaysReachable() const override { return true; }
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    bool IsLocked() const { return TreeNode() && TreeNode()->IsLocked(); }
+    void OpenReason();
+};

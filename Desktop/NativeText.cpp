@@ -1,0 +1,19 @@
+#include "NativeText.h"
+
+#include "Dialog/KivTextCatalogue.h"
+
+QString ToQt(const KivUnicodeString& text)
+{
+    return QString::fromUtf8(text.ConvertToChar(), text.GetLengthInByte());
+}
+
+KivUnicodeString FromQt(const QString& text)
+{
+    return KivUnicodeString(text.toStdString());
+}
+
+QString WindowText(const char* key)
+{
+    const KivUnicodeString text = KivTextCatalogue::Open("KivDesktop").Find(key);
+    return text.IsEmpty() ? QString::fromUtf8(key) : ToQt(text);
+}
