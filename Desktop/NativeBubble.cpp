@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 // The surface that scrolls with the field, or its window.
@@ -50,11 +52,13 @@ void NativeBubble::Say(const QString& text)
     setAccessibleName(text);
     adjustSize();
 
-    const QWidget& surface = *parentWidget();
+    // Within what is seen of the surface.
+    const QRect seen = parentWidget()->visibleRegion().boundingRect();
     const QRect field(_field.mapTo(parentWidget(), QPoint()), _field.size());
     QPoint place(isRightToLeft() ? field.right() - width() : field.left(), field.bottom() + 1);
-    if (place.y() + height() > surface.height() && field.top() > height()) place.setY(field.top() - height());
-    place.setX(std::max(0, std::min(place.x(), surface.width() - width())));
+    if (place.y() + height() > seen.bottom() && field.top() - height() >= seen.top())
+        place.setY(field.top() - height());
+    place.setX(std::max(seen.left(), std::min(place.x(), seen.right() - width())));
     move(place);
     raise();
     show();

@@ -8,6 +8,8 @@
 #include <QColorDialog>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace {
 
 QColor ToColor(const KivColour& colour)
@@ -27,6 +29,25 @@ QIcon Swatch(const QColor& colour)
             painter.fillRect(rectangle.adjusted(inset, inset, -inset, -inset), ink);
             painter.fillRect(rectangle.adjusted(inset + line, inset + line, -inset - line, -inset - line),
                              colour);
+        },
+        IconEngine::Place::List);
+}
+
+// Four swatches in one: where colours are mixed.
+QIcon Mixer()
+{
+    return IconEngine::Icon(
+        [](QPainter& painter, const QRectF& rectangle, const QColor& ink) {
+            const qreal line = std::max(1.0, rectangle.height() / 16.0), inset = line * 1.5;
+            const QRectF all = rectangle.adjusted(inset, inset, -inset, -inset);
+            const QRectF inner = all.adjusted(line, line, -line, -line);
+            const QSizeF quarter = inner.size() / 2.0;
+            painter.setRenderHint(QPainter::Antialiasing, false);
+            painter.fillRect(all, ink);
+            painter.fillRect(QRectF(inner.topLeft(), quarter), Qt::red);
+            painter.fillRect(QRectF(QPointF(inner.center().x(), inner.top()), quarter), Qt::yellow);
+            painter.fillRect(QRectF(QPointF(inner.left(), inner.center().y()), quarter), Qt::blue);
+            painter.fillRect(QRectF(inner.center(), quarter), Qt::green);
         },
         IconEngine::Place::List);
 }
@@ -61,10 +82,9 @@ QIcon NativeColourCombo::LineIcon(int line) const
     const auto palette = KivColourPalette();
     const auto index = static_cast<std::size_t>(line);
     if (index < palette.size()) return Swatch(ToColor(palette[index].colour));
-    if (line >= TreeNode()->GetLineCount()) return {};
+    if (line >= TreeNode()->GetLineCount()) return Mixer();
     // The colour of the user's own is the last of the tree's lines.
-    KivColour own = Colour();
-    return Swatch(ToColor(own));
+    return Swatch(ToColor(Colour()));
 }
 
 void NativeColourCombo::Choose(int line)

@@ -11,6 +11,8 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kWidthInLetters = 48;
@@ -35,12 +37,10 @@ NativePanel::NativePanel(QWidget& beside, const QString& name, const QString& te
     setObjectName("NativePanel");
     setEnabled(true); // also beside a control that is not
     setFrameShape(QFrame::Box);
-    setBackgroundRole(QPalette::ToolTipBase);
     setAccessibleName(name);
     setAccessibleDescription(text);
 
     auto* label = new QLabel(text, this);
-    label->setForegroundRole(QPalette::ToolTipText);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     const QFontMetrics metrics(label->font());

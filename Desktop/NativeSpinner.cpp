@@ -3,7 +3,6 @@
 #include "Dialog/KivUserHand.h"
 #include "NativeDescription.h"
 #include "NativeText.h"
-#include "Parameter/KivControlUnit.h"
 
 #include <QAction>
 #include <QFocusEvent>
@@ -19,12 +18,6 @@ namespace {
 
 constexpr int kUsualLetters = 10;
 constexpr int kMostLetters = 60;
-
-QString Suffix(const KivDlgSpinner& spinner)
-{
-    const std::string_view suffix = KivControlUnit::Of(spinner.GetUnit()).suffix;
-    return QString::fromUtf8(suffix.data(), static_cast<qsizetype>(suffix.size()));
-}
 
 } // namespace
 
@@ -187,10 +180,11 @@ QSize NativeSpinner::sizeHint() const
     ensurePolished();
     const int asked = TreeNode() ? TreeNode()->GetVisibleTextWidth() : 0;
     const int letters = asked > 0 ? std::min(asked, kMostLetters) : kUsualLetters;
-    const QString suffix = TreeNode() ? Suffix(*TreeNode()) : QString();
-    const QString room = QString(letters, u'0') + suffix + u' ';
     QStyleOptionSpinBox option;
     initStyleOption(&option);
-    const QSize text(fontMetrics().horizontalAdvance(room), lineEdit()->sizeHint().height());
-    return style()->sizeFromContents(QStyle::CT_SpinBox, &option, text, this);
+    // The unit is counted among the letters; what is shown is never cut.
+    const int width = std::max(fontMetrics().horizontalAdvance(QString(letters, u'0')),
+                               fontMetrics().horizontalAdvance(_shown + u' '));
+    return style()->sizeFromContents(QStyle::CT_SpinBox, &option,
+                                     QSize(width, lineEdit()->sizeHint().height()), this);
 }

@@ -2,6 +2,7 @@
 
 #include "Settings/KivSettingFile.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <system_error>
@@ -16,16 +17,6 @@ KivFileContent Unreadable(KivUnicodeString reason)
     return content;
 }
 
-bool CanLookInto(const KivUnicodeString& file)
-{
-    const std::string_view path = file.View();
-    const std::size_t slash = path.rfind('/');
-    const std::string directory(slash == std::string_view::npos ? "." : path.substr(0, slash + 1));
-    struct stat status {};
-    return stat(directory.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
-           access(directory.c_str(), R_OK | X_OK) == 0;
-}
-
 } // namespace
 
 KivUnicodeString KivErrorWords(const char* what, int error)
@@ -38,9 +29,7 @@ KivFileContent KivReadFile(const KivUnicodeString& path)
     KivFileHandle handle(open(path.ConvertToChar(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     if (!handle.IsOpen()) {
         if (errno != ENOENT) return Unreadable(KivErrorWords("the file cannot be opened", errno));
-        KivFileContent absent;
-        absent.directoryIsThere = CanLookInto(path);
-        return absent;
+        return {};
     }
     struct stat status {};
     if (fstat(handle.Get(), &status) != 0) return Unreadable(KivErrorWords("the file cannot be read", errno));
@@ -63,6 +52,11 @@ KivFileContent KivReadFile(const KivUnicodeString& path)
         filled += static_cast<std::size_t>(count);
     }
     content.text.resize(filled);
+    const auto lines = static_cast<std::size_t>(std::count(content.text.begin(), content.text.end(), '\n'));
+    if (lines > KivSettingFile::MostLines) {
+        return Unreadable(KivUnicodeString("the file is too large: " + std::to_string(lines) +
+                                           " lines, at most " + std::to_string(KivSettingFile::MostLines)));
+    }
     content.state = KivFileContent::State::Read;
     content.stamp = KivFileStamp(status);
     content.handle = std::move(handle);

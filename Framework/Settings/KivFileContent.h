@@ -29,7 +29,7 @@ struct KivFileContent {
     enum class State { Absent, Read, Unreadable };
 
     State state = State::Absent;
-    bool directoryIsThere = true; // an absent file's; false too when it cannot be looked into
+    bool isDirectoryAway = false; // an administrator's absent file's; what cannot be looked into is away too
     std::string text;
     KivUnicodeString reason; // of an unreadable file, a sentence without a full stop
 
@@ -38,7 +38,8 @@ struct KivFileContent {
     KivFileStamp stamp;
 };
 
-// Reads a regular file of at most KivSettingFile::LargestSize bytes. Never waits for the other end of a pipe.
+// Reads a regular file of at most KivSettingFile::LargestSize bytes and KivSettingFile::MostLines lines.
+// Never waits for the other end of a pipe.
 KivFileContent KivReadFile(const KivUnicodeString& path);
 
 // "cannot be opened: Permission denied"

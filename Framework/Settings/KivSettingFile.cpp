@@ -1,7 +1,9 @@
 #include "Settings/KivSettingFile.h"
 
 #include "Base/KivDiagnostic.h"
+#include "Settings/KivSettingTable.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstring>
 #include <unordered_map>
@@ -22,6 +24,35 @@ void Tell(const KivUnicodeString& path, const KivSettingLine& line, const std::s
         {KivDiagnostic::Severity::Warning, KivUnicodeString(text), path, line.number, KivString(line.key)});
 }
 
+// Finds a key's line before. On its way at every start: one look-up a line, no allocation but the first.
+class EarlierLines {
+public:
+    explicit EarlierLines(const std::vector<KivSettingLine>& lines) : _lines(lines)
+    {
+        std::size_t slots = 64;
+        while (slots < 2 * lines.size()) slots *= 2;
+        _slots.resize(slots);
+    }
+
+    // The number of the key's line before, or 0; this one is the next one's line before.
+    int Exchange(const KivSettingLine& line)
+    {
+        const std::size_t mask = _slots.size() - 1;
+        std::size_t at = line.hash & mask;
+        for (; _slots[at] != 0; at = (at + 1) & mask) {
+            const KivSettingLine& other = _lines[_slots[at] - 1];
+            if (other.hash == line.hash && other.key == line.key) break;
+        }
+        const int earlier = _slots[at] == 0 ? 0 : _lines[_slots[at] - 1].number;
+        _slots[at] = static_cast<std::uint32_t>(&line - _lines.data() + 1);
+        return earlier;
+    }
+
+private:
+    const std::vector<KivSettingLine>& _lines;
+    std::vector<std::uint32_t> _slots; // a line's index + 1; 0: free
+};
+
 std::string_view WithoutEnd(std::string_view line)
 {
     if (!line.empty() && line.back() == '\n') line.remove_suffix(1);
@@ -34,7 +65,7 @@ std::string_view WithoutEnd(std::string_view line)
 KivSettingFile::KivSettingFile(std::string text) : _text(std::make_unique<const std::string>(std::move(text)))
 {
     const std::string_view all = *_text;
-    _lines.reserve(all.size() / 40 + 1);
+    _lines.reserve(std::min(all.size() / 32 + 2, MostLines / 64));
     int number = 0;
     for (std::size_t begin = 0; begin < all.size();) {
         const void* found = std::memchr(all.data() + begin, '\n', all.size() - begin);
@@ -47,6 +78,7 @@ KivSettingFile::KivSettingFile(std::string text) : _text(std::make_unique<const 
         }
         KivSettingLine& line = _lines.emplace_back();
         KivParseSettingLine(text_of_line, line);
+        line.hash = KivSettingTable::Hash(line.key);
         line.begin = begin;
         line.end = end;
         line.number = number;
@@ -86,16 +118,14 @@ void KivSettingFile::Report(const KivUnicodeString& path) const
                    {}});
     }
     std::size_t wrong = 0;
-    std::unordered_map<std::string_view, int> valueLines;
+    EarlierLines earlierLines(_lines);
     for (const KivSettingLine& line : _lines) {
         std::string text;
         if (line.reason) {
             text = std::string(line.reason) + "; the line is not used";
         } else if (KivHasValue(line.value)) {
-            int& earlier = valueLines[line.key];
-            if (earlier > 0)
+            if (const int earlier = earlierLines.Exchange(line))
                 text = "the key stands in line " + std::to_string(earlier) + " too; this line counts";
-            earlier = line.number;
         }
         if (!text.empty() && ++wrong <= kMostReports) Tell(path, line, text);
     }

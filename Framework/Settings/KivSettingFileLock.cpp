@@ -10,7 +10,7 @@
 
 KivSettingFileLock::KivSettingFileLock(const KivUnicodeString& settingsFile,
                                        std::chrono::milliseconds patience)
-    : _path(KivHiddenName(settingsFile, ".lock"))
+    : _lockFile(KivHiddenName(settingsFile, ".lock"))
 {
     const auto until = std::chrono::steady_clock::now() + patience;
     while (!Try()) {
@@ -24,9 +24,25 @@ KivSettingFileLock::KivSettingFileLock(const KivUnicodeString& settingsFile,
 
 bool KivSettingFileLock::Try()
 {
-    // Readable for all, for an administrator's directory may be shared by several accounts.
+    const std::string directory(KivDirectoryOf(_lockFile.View()));
+    KivFileHandle handle(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!handle.IsOpen()) {
+        _reason = KivErrorWords("the directory cannot be opened", errno);
+        return true;
+    }
+    if (flock(handle.Get(), LOCK_EX | LOCK_NB) == 0) {
+        _handle = std::move(handle);
+        return true;
+    }
+    if (errno == EWOULDBLOCK || errno == EINTR) return false;
+    return TryLockFile();
+}
+
+bool KivSettingFileLock::TryLockFile()
+{
+    // Network locks want a file that is open for writing.
     KivFileHandle handle(
-        open(_path.ConvertToChar(), O_RDONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0644));
+        open(_lockFile.ConvertToChar(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600));
     if (!handle.IsOpen()) {
         _reason = KivErrorWords("the lock file cannot be made", errno);
         return true;
@@ -39,15 +55,16 @@ bool KivSettingFileLock::Try()
     // The holder before may have removed the file between our opening and locking it.
     struct stat locked {
     }, named{};
-    if (fstat(handle.Get(), &locked) != 0 || lstat(_path.ConvertToChar(), &named) != 0) return false;
+    if (fstat(handle.Get(), &locked) != 0 || lstat(_lockFile.ConvertToChar(), &named) != 0) return false;
     if (locked.st_dev != named.st_dev || locked.st_ino != named.st_ino) return false;
     _handle = std::move(handle);
+    _hasLockFile = true;
     return true;
 }
 
 void KivSettingFileLock::Release()
 {
     if (!_handle.IsOpen()) return;
-    unlink(_path.ConvertToChar());
-    KivFileHandle freed = std::move(_handle);
+    if (std::exchange(_hasLockFile, false)) unlink(_lockFile.ConvertToChar());
+    const KivFileHandle freed = std::move(_handle);
 }

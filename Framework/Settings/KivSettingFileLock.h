@@ -6,7 +6,9 @@
 #include <chrono>
 
 // Keeps other processes from saving the same file. The kernel frees the lock with its holder, so nobody waits
-// for a dead process; the lock file beside the settings file is removed with the lock.
+// for a dead process. Locked is the directory itself: that leaves nothing behind and costs no change on disk.
+// Some network file systems lock only files; there a lock file beside the settings file lives as long as the
+// lock. All processes meet the same file system, so all take the same way.
 class KivSettingFileLock {
 public:
     // Waits for a living holder, but not longer than patience.
@@ -20,9 +22,12 @@ public:
     void Release();
 
 private:
-    bool Try(); // false: try again
+    // False: try again.
+    bool Try();
+    bool TryLockFile();
 
-    KivUnicodeString _path;
+    KivUnicodeString _lockFile;
+    bool _hasLockFile = false;
     KivFileHandle _handle;
     KivUnicodeString _reason;
 };

@@ -1,6 +1,7 @@
 #include "Settings/KivSettingLayer.h"
 
 #include "Base/KivDiagnostic.h"
+#include "Settings/KivHiddenName.h"
 #include "Settings/KivSettingLayerCopy.h"
 #include "Settings/KivSettingLayers.h"
 #include "Settings/KivTimedReading.h"
@@ -9,6 +10,21 @@
 
 namespace {
 
+bool CanLookInto(const KivUnicodeString& directory)
+{
+    struct stat status {};
+    return stat(directory.ConvertToChar(), &status) == 0 && S_ISDIR(status.st_mode) &&
+           access(directory.ConvertToChar(), R_OK | X_OK) == 0;
+}
+
+KivFileContent ReadLayerFile(const KivUnicodeString& path)
+{
+    KivFileContent content = KivReadFile(path);
+    content.isDirectoryAway = content.state == KivFileContent::State::Absent &&
+                              !CanLookInto(KivUnicodeString(KivDirectoryOf(path.View())));
+    return content;
+}
+
 // The file's own state, and what is wrong with it: empty when it is whole.
 KivUnicodeString Examine(KivFileContent& content, const KivSettingLayerCopy& copy, KivSettingFile& file)
 {
@@ -16,7 +32,7 @@ KivUnicodeString Examine(KivFileContent& content, const KivSettingLayerCopy& cop
     case KivFileContent::State::Unreadable:
         return content.reason;
     case KivFileContent::State::Absent:
-        if (!content.directoryIsThere) return "the layer's directory is away";
+        if (content.isDirectoryAway) return "the layer's directory is away";
         copy.Drop();
         return {};
     case KivFileContent::State::Read:
@@ -44,7 +60,7 @@ std::vector<KivSettingLayer> KivReadAdministratorLayers(const std::vector<KivUni
     for (const KivUnicodeString& directory : directories) {
         paths.push_back((directory + "/").Append(fileName));
     }
-    std::vector<KivFileContent> contents = KivReadInTime(paths, std::chrono::seconds(1));
+    std::vector<KivFileContent> contents = KivReadInTime(paths, std::chrono::seconds(1), &ReadLayerFile);
     for (std::size_t i = 0; i < directories.size(); ++i) {
         KivSettingLayer layer{KivSettingLayers::NameOf(directories[i]), paths[i], {}};
         const KivSettingLayerCopy copy(layer.path);

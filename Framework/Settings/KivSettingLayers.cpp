@@ -27,20 +27,18 @@ void Add(std::vector<KivUnicodeString>& layers, const KivUnicodeString& director
 std::string SystemText()
 {
     KivFileContent content = KivReadFile(SystemFile());
-    const KivSettingLayerCopy copy(SystemFile());
     switch (content.state) {
     case KivFileContent::State::Absent:
-        if (content.directoryIsThere) copy.Drop();
         return {};
     case KivFileContent::State::Read:
-        copy.Keep(content.text);
+        KivSettingLayerCopy(SystemFile()).Keep(content.text);
         return std::move(content.text);
     case KivFileContent::State::Unreadable:
         break;
     }
     KivReport({KivDiagnostic::Severity::Error, content.reason, SystemFile(), 0, {}});
     std::string text;
-    copy.Read(text);
+    KivSettingLayerCopy(SystemFile()).Read(text);
     return text;
 }
 
@@ -122,6 +120,9 @@ KivUnicodeString KivSettingLayers::NameOf(const KivUnicodeString& directory)
 
 KivUnicodeString KivSettingLayers::Absolute(std::string_view path)
 {
+    const auto has = [path](std::string_view part) { return path.find(part) != std::string_view::npos; };
+    const bool isPlain = path.size() > 1 && path[0] == '/' && path.back() != '/' && !has("//") && !has("/.");
+    if (isPlain) return KivUnicodeString(path); // the usual case, without the cost of the general one
     std::error_code failed;
     std::string whole = std::filesystem::absolute(path, failed).lexically_normal().string();
     if (failed) return KivUnicodeString(path);

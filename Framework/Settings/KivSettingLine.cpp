@@ -1,14 +1,22 @@
 #include "Settings/KivSettingLine.h"
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
-constexpr std::string_view kBlanks = " \t";
+// By byte; a table, for every character of every key passes here at every start.
+constexpr auto kKeyCharacters = [] {
+    std::array<bool, 256> is{};
+    for (std::size_t c = 'a'; c <= 'z'; ++c) is[c] = is[c - 'a' + 'A'] = true;
+    for (std::size_t c = '0'; c <= '9'; ++c) is[c] = true;
+    is['_'] = true;
+    return is;
+}();
 
 bool IsKeyCharacter(char c)
 {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+    return kKeyCharacters[static_cast<unsigned char>(c)];
 }
 
 std::string_view Trimmed(std::string_view text)
@@ -18,16 +26,22 @@ std::string_view Trimmed(std::string_view text)
     return text;
 }
 
-// Cuts the first word off; a word ends at a blank or "=".
+// Cuts the first word off, which ends at a blank or "="; empty when it holds other than key characters.
 std::string_view TakeWord(std::string_view& rest)
 {
     std::size_t length = 0;
-    while (length < rest.size() && rest[length] != ' ' && rest[length] != '\t' && rest[length] != '=')
-        ++length;
+    while (length < rest.size() && IsKeyCharacter(rest[length])) ++length;
     const std::string_view word = rest.substr(0, length);
     rest.remove_prefix(length);
-    rest.remove_prefix(std::min(rest.find_first_not_of(kBlanks), rest.size()));
+    if (!rest.empty() && rest[0] != ' ' && rest[0] != '\t' && rest[0] != '=') return {};
+    while (!rest.empty() && (rest[0] == ' ' || rest[0] == '\t')) rest.remove_prefix(1);
     return word;
+}
+
+// Whether a word of key characters is a key.
+bool IsKeyWord(std::string_view word)
+{
+    return !word.empty() && word.size() <= 255 && !(word[0] >= '0' && word[0] <= '9');
 }
 
 void Spoil(KivSettingLine& line, const char* reason)
@@ -40,8 +54,7 @@ void Spoil(KivSettingLine& line, const char* reason)
 
 bool KivIsSettingKey(std::string_view key)
 {
-    return !key.empty() && key.size() <= 255 && !(key[0] >= '0' && key[0] <= '9') &&
-           std::all_of(key.begin(), key.end(), &IsKeyCharacter);
+    return IsKeyWord(key) && std::all_of(key.begin(), key.end(), &IsKeyCharacter);
 }
 
 void KivParseSettingLine(std::string_view text, KivSettingLine& line)
@@ -53,7 +66,7 @@ void KivParseSettingLine(std::string_view text, KivSettingLine& line)
     if (word == "lock") {
         line.lock = true;
         word = TakeWord(rest);
-        if (rest.empty() && KivIsSettingKey(word)) {
+        if (rest.empty() && IsKeyWord(word)) {
             line.kind = KivSettingLine::Kind::Attribute;
             line.key = word;
             return;
@@ -66,13 +79,13 @@ void KivParseSettingLine(std::string_view text, KivSettingLine& line)
 
     const std::string_view type = word;
     const std::string_view key = TakeWord(rest);
-    if (!KivIsSettingKey(key)) return Spoil(line, "the line is no attribute");
+    if (!IsKeyWord(key)) return Spoil(line, "the line is no attribute");
     line.key = key;
     if (rest.empty() || rest[0] != '=') return Spoil(line, "there is no value");
     if (!KivIsSettingTypeWord(type)) {
         Spoil(line, "the type is unknown");
         // A newer version's type, not damage: but only a word can be one.
-        if (KivIsSettingKey(type)) line.kind = KivSettingLine::Kind::Unknown;
+        if (IsKeyWord(type)) line.kind = KivSettingLine::Kind::Unknown;
         return;
     }
     if (const char* reason = KivParseSettingValue(type, Trimmed(rest.substr(1)), line.value)) {

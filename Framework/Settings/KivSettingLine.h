@@ -19,7 +19,8 @@ struct KivSettingLine {
     };
 
     Kind kind = Kind::Other;
-    std::string_view key; // as far as it can be read
+    std::string_view key; // empty when it cannot be read
+    std::size_t hash = 0; // of the key, as the table wants it
     KivSettingValue value;
     bool lock = false;
     bool initial = false;

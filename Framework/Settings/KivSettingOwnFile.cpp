@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr std::chrono::seconds kLockPatience{5};
+constexpr std::chrono::seconds kLockPatience{3};
 
 // Where the links at a path lead, whether something stands there or not. A link itself must stay in place.
 KivUnicodeString TargetOf(const KivUnicodeString& path)

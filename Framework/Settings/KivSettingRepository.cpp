@@ -158,7 +158,7 @@ HRESULT KivSettingRepository::NextAttribute(char* name, char* type, long* count,
     while (_store->nextAttribute < table.Size()) {
         const KivSettingAttribute& attribute = table[_store->nextAttribute++];
         if (!KivHasValue(attribute.Shown())) continue;
-        return deliver(attribute.key.ConvertToChar(), KivSettingTypeName(attribute.Shown()));
+        return deliver(std::string(attribute.key).c_str(), KivSettingTypeName(attribute.Shown()));
     }
     if (_store->IsProtected() && !_store->hasDeliveredNameless) return deliver("", "");
     return E_FAIL;

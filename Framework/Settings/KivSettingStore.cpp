@@ -59,9 +59,8 @@ void KivSettingStore::ReadLayers()
     }
     for (int layer = 0; layer < static_cast<int>(_layers.size()); ++layer) {
         for (const KivSettingLine& line : _layers[static_cast<std::size_t>(layer)].file.Lines()) {
-            if (!line.lock && !KivHasValue(line.value)) continue;
-            if (!KivIsSettingKey(line.key)) continue; // of a damaged line
-            KivSettingAttribute& attribute = _table[_table.IndexOfNew(line.key)];
+            if (line.key.empty() || (!line.lock && !KivHasValue(line.value))) continue; // damaged
+            KivSettingAttribute& attribute = _table[_table.IndexOfNew(line.key, line.hash)];
             if (attribute.lockLayer >= 0 && attribute.lockLayer < layer) continue;
             if (KivHasValue(line.value)) {
                 attribute.given = line.value;
@@ -86,9 +85,10 @@ void KivSettingStore::TakeOwnFile()
         saved.emplace(index, before);
     }
     for (KivSettingAttribute& attribute : _table) attribute.own = {};
+    _table.Reserve(_own.File().Lines().size());
     for (const KivSettingLine& line : _own.File().Lines()) {
-        if ((!line.lock && !KivHasValue(line.value)) || !KivIsSettingKey(line.key)) continue;
-        TakeLine(line, _isAdministrator, _table[_table.IndexOfNew(line.key)].own);
+        if (line.key.empty() || (!line.lock && !KivHasValue(line.value))) continue;
+        TakeLine(line, _isAdministrator, _table[_table.IndexOfNew(line.key, line.hash)].own);
     }
     for (auto& [index, before] : _unsaved) before = _table[index].own;
     for (auto& [index, before] : _uncommitted) {
@@ -168,7 +168,7 @@ KivSettingStore::Keys KivSettingStore::ChangedSince(const Values& shown) const
     Keys changed;
     for (std::size_t i = 0; i < _table.Size(); ++i) {
         const KivSettingValue before = i < shown.size() ? shown[i] : KivSettingValue();
-        if (!KivSameValue(before, _table[i].Shown())) changed.push_back(_table[i].key);
+        if (!KivSameValue(before, _table[i].Shown())) changed.emplace_back(_table[i].key);
     }
     return changed;
 }
@@ -217,7 +217,7 @@ KivSettingStore::Keys KivSettingStore::Save(Receipt& result)
 {
     std::vector<KivSettingChange> changes;
     for (const auto& [index, saved] : _unsaved) {
-        if (IsDirty(index, saved)) changes.push_back({_table[index].key, _table[index].own});
+        if (IsDirty(index, saved)) changes.push_back({KivString(_table[index].key), _table[index].own});
     }
     if (changes.empty()) {
         ForgetUnsaved();

@@ -1,6 +1,6 @@
 #include "Settings/KivSettingTable.h"
 
-#include <functional>
+#include <algorithm>
 
 KivSettingInfo::Origin KivSettingAttribute::OriginWith(const KivSettingEntry& says) const
 {
@@ -18,39 +18,66 @@ const KivSettingValue& KivSettingAttribute::ShownWith(const KivSettingEntry& say
 
 std::size_t KivSettingTable::IndexOf(std::string_view key) const
 {
-    const std::size_t hash = std::hash<std::string_view>()(key);
+    const std::size_t hash = Hash(key);
     const std::size_t mask = _slots.size() - 1;
     for (std::size_t at = hash & mask;; at = (at + 1) & mask) {
-        const Slot& slot = _slots[at];
-        if (slot.index == None) return None;
-        if (slot.hash == hash && _attributes[slot.index].key.View() == key) return slot.index;
+        const Slot slot = _slots[at];
+        if (slot.next == 0) return None;
+        if (slot.hash == static_cast<std::uint32_t>(hash) && _attributes[slot.next - 1].key == key) {
+            return slot.next - 1;
+        }
     }
 }
 
-std::size_t KivSettingTable::IndexOfNew(std::string_view key)
+std::size_t KivSettingTable::IndexOfNew(std::string_view key, std::size_t hash)
 {
-    if (2 * (_attributes.size() + 1) > _slots.size()) Grow();
-    const std::size_t hash = std::hash<std::string_view>()(key);
+    if (2 * (_attributes.size() + 1) > _slots.size()) Grow(2 * _slots.size());
     const std::size_t mask = _slots.size() - 1;
     std::size_t at = hash & mask;
-    for (; _slots[at].index != None; at = (at + 1) & mask) {
-        const Slot& slot = _slots[at];
-        if (slot.hash == hash && _attributes[slot.index].key.View() == key) return slot.index;
+    for (; _slots[at].next != 0; at = (at + 1) & mask) {
+        const Slot slot = _slots[at];
+        if (slot.hash == static_cast<std::uint32_t>(hash) && _attributes[slot.next - 1].key == key) {
+            return slot.next - 1;
+        }
     }
-    _slots[at] = {hash, _attributes.size()};
-    _attributes.emplace_back().key = KivString(key);
-    return _slots[at].index;
+    _attributes.emplace_back().key = Keep(key);
+    _slots[at] = {static_cast<std::uint32_t>(hash), static_cast<std::uint32_t>(_attributes.size())};
+    return _attributes.size() - 1;
 }
 
-void KivSettingTable::Grow()
+void KivSettingTable::Reserve(std::size_t more)
 {
-    std::vector<Slot> larger(_slots.size() * 2);
-    const std::size_t mask = larger.size() - 1;
-    for (const Slot& slot : _slots) {
-        if (slot.index == None) continue;
-        std::size_t at = slot.hash & mask;
-        while (larger[at].index != None) at = (at + 1) & mask;
-        larger[at] = slot;
+    const std::size_t total = _attributes.size() + more;
+    if (total > _attributes.capacity()) _attributes.reserve(total + total / 2);
+    std::size_t slots = _slots.size();
+    while (slots < 2 * (total + 1)) slots *= 2;
+    if (slots > _slots.size()) Grow(slots);
+}
+
+void KivSettingTable::Grow(std::size_t slots)
+{
+    // From the keys, not from the old slots: those hold half a hash, and a table of many keys needs it all.
+    std::vector<Slot> larger(slots);
+    const std::size_t mask = slots - 1;
+    for (std::size_t index = 0; index < _attributes.size(); ++index) {
+        const std::size_t hash = Hash(_attributes[index].key);
+        std::size_t at = hash & mask;
+        while (larger[at].next != 0) at = (at + 1) & mask;
+        larger[at] = {static_cast<std::uint32_t>(hash), static_cast<std::uint32_t>(index + 1)};
     }
     _slots.swap(larger);
+}
+
+// Copies the characters of a key to where they stay for the life of the table.
+std::string_view KivSettingTable::Keep(std::string_view key)
+{
+    constexpr std::size_t chunkSize = 4096; // holds many of the longest keys
+    if (key.size() > _freeInChunk) {
+        _keyChunks.push_back(std::make_unique_for_overwrite<char[]>(chunkSize));
+        _freeInChunk = chunkSize;
+    }
+    char* const place = _keyChunks.back().get() + (chunkSize - _freeInChunk);
+    std::copy(key.begin(), key.end(), place);
+    _freeInChunk -= key.size();
+    return {place, key.size()};
 }

@@ -4,12 +4,15 @@
 #include "Settings/KivSettingInfo.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
 #include <string_view>
 #include <vector>
 
 // One key with all that is known of it, resolved.
 struct KivSettingAttribute {
-    KivString key;
+    std::string_view key; // the table keeps its characters
 
     KivSettingEntry own; // what the layer says that is written: the user's, or the one being edited
 
@@ -42,7 +45,9 @@ class KivSettingTable {
 public:
     static constexpr std::size_t None = static_cast<std::size_t>(-1);
 
-    KivSettingTable() : _slots(512) {}
+    KivSettingTable() : _slots(64) {}
+
+    static std::size_t Hash(std::string_view key) { return std::hash<std::string_view>()(key); }
 
     std::size_t IndexOf(std::string_view key) const;
     const KivSettingAttribute* Find(std::string_view key) const
@@ -50,7 +55,12 @@ public:
         const std::size_t index = IndexOf(key);
         return index == None ? nullptr : &_attributes[index];
     }
-    std::size_t IndexOfNew(std::string_view key); // adds the key when it is not there
+    // Adds the key when it is not there.
+    std::size_t IndexOfNew(std::string_view key) { return IndexOfNew(key, Hash(key)); }
+    std::size_t IndexOfNew(std::string_view key, std::size_t hash);
+
+    // Makes room for this many attributes more.
+    void Reserve(std::size_t more);
 
     KivSettingAttribute& operator[](std::size_t index) { return _attributes[index]; }
     const KivSettingAttribute& operator[](std::size_t index) const { return _attributes[index]; }
@@ -63,11 +73,15 @@ public:
 
 private:
     struct Slot {
-        std::size_t hash = 0;
-        std::size_t index = None;
+        std::uint32_t hash = 0;
+        std::uint32_t next = 0; // the attribute's index + 1; 0: free
     };
-    void Grow();
+    void Grow(std::size_t slots);
+    std::string_view Keep(std::string_view key);
 
     std::vector<KivSettingAttribute> _attributes;
     std::vector<Slot> _slots; // open addressing; a power of two, at most half full
+
+    std::vector<std::unique_ptr<char[]>> _keyChunks;
+    std::size_t _freeInChunk = 0;
 };

@@ -74,10 +74,11 @@ TEST_F(Damage, TheOriginalIsSetAsideBeforeTheFirstSave)
 
     // What was not mended is not set aside again and again, but new damage is.
     EXPECT_EQ(PutAndSave(repository, "A", 5), Receipt::Durable);
-    EXPECT_EQ(PutAndSave(box.Reopen(), "A", 6), Receipt::Durable);
+    KivSettingRepository& next = box.Reopen();
+    EXPECT_EQ(PutAndSave(next, "A", 6), Receipt::Durable);
     EXPECT_EQ(box.Names("user").size(), 4U); // the third copy: B's damage was mended
     box.Write(file, "new noise\n");
-    EXPECT_EQ(PutAndSave(repository, "A", 7), Receipt::Durable); // found only by the save itself
+    EXPECT_EQ(PutAndSave(next, "A", 7), Receipt::Durable); // found only by the save itself
     EXPECT_EQ(box.Bytes(box.root / "user/DraftingOptions.kivsettings.damaged-4"), "new noise\n");
     EXPECT_EQ(box.Bytes(file), "new noise\nint A = 7\n");
 }
@@ -153,6 +154,8 @@ TEST_F(Damage, AFileThatCannotBeReadIsProtected)
     std::filesystem::resize_file(file, KivSettingFile::LargestSize + 1);
     isProtected("size");
     EXPECT_GT(box.Said("67108865 bytes"), 0);
+    box.Write(file, std::string(KivSettingFile::MostLines + 1, '\n'));
+    isProtected("lines");
     EXPECT_EQ(box.Names("user").size(), 1U);
 
     // Once it can be read the pending change is saved on top of it.
@@ -169,11 +172,45 @@ TEST_F(Damage, AFileThatCannotBeReadIsProtected)
     EXPECT_TRUE(box.Reopen().IsProtected());
     std::filesystem::remove(box.root / "user");
     EXPECT_FALSE(box.Reopen().IsProtected());
+}
 
-    if (geteuid() == 0) GTEST_SKIP() << "permissions do not bind the superuser";
+// Gives up the superuser's rights for a while, whom permissions do not bind.
+class PlainUser {
+public:
+    PlainUser() { EXPECT_EQ(seteuid(_before == 0 ? 65534 : _before), 0); }
+    ~PlainUser() { EXPECT_EQ(seteuid(_before), 0); }
+    PlainUser(const PlainUser&) = delete;
+    PlainUser& operator=(const PlainUser&) = delete;
+
+private:
+    uid_t _before = geteuid();
+};
+
+TEST_F(Damage, MissingPermissionsRefuseAndLoseNothing)
+{
     box.Write(file, "int Snap = 3\n");
+    for (const auto& path : {box.root, box.root / "user"}) chmod(path.c_str(), 0755);
+    chmod(file.c_str(), 0644);
+    chmod((box.root / "user").c_str(), 0555);
+    {
+        const PlainUser user;
+        KivSettingRepository& repository = box.Reopen();
+        EXPECT_EQ(box.Read(repository, "Snap", 0), 3);
+        EXPECT_EQ(PutAndSave(repository, "Ruler", 1), Receipt::Refused);
+        EXPECT_EQ(box.Said("the temporary file cannot be made: Permission denied"), 1);
+        EXPECT_EQ(box.Read(repository, "Ruler", 0), 1);
+    }
     chmod(file.c_str(), 0);
-    isProtected("permission");
+    {
+        const PlainUser user;
+        KivSettingRepository& repository = box.Reopen();
+        EXPECT_TRUE(repository.IsProtected());
+        EXPECT_EQ(PutAndSave(repository, "Ruler", 1), Receipt::Refused);
+        KivSettingRepository::ForgetAll();
+    }
+    chmod((box.root / "user").c_str(), 0755);
+    chmod(file.c_str(), 0600);
+    EXPECT_EQ(box.Bytes(file), "int Snap = 3\n");
 }
 
 } // namespace

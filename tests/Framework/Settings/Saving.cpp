@@ -253,7 +253,6 @@ TEST_F(Saving, AProcessThatIsKilledLeavesOldOrNew)
     }
     // What the last one may have left is cleaned; nobody waits for it.
     box.Write(box.root / "user/.DraftingOptions.kivsettings.tmp", "half");
-    box.Write(box.root / "user/.DraftingOptions.kivsettings.lock", "");
     KivSettingRepository& repository = box.Reopen();
     Put(repository, "A", -1);
     EXPECT_EQ(Save(repository), Receipt::Durable);
@@ -311,9 +310,7 @@ TEST_F(Saving, ARefusedSaveKeepsEverythingForTheNextOne)
     EXPECT_EQ(box.Bytes(file), "int A = 2\n");
 
     // Another program is stopped while it saves.
-    const auto lock = box.root / "user/.DraftingOptions.kivsettings.lock";
-    box.Write(lock, "");
-    const int held = open(lock.c_str(), O_RDONLY);
+    const int held = open((box.root / "user").c_str(), O_RDONLY | O_DIRECTORY);
     ASSERT_EQ(flock(held, LOCK_EX), 0);
     Put(repository, "A", 3);
     EXPECT_EQ(Save(repository), Receipt::Refused);

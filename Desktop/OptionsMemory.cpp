@@ -1,0 +1,36 @@
+#include "OptionsMemory.h"
+
+#include <QSettings>
+#include <QStandardPaths>
+
+namespace {
+
+constexpr const char* kSize = "Options/Size";
+constexpr const char* kPage = "Options/Page";
+
+} // namespace
+
+QString OptionsMemory::UserFile()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/kiv/desktop.ini";
+}
+
+QSize OptionsMemory::Size() const
+{
+    return _file.isEmpty() ? QSize() : QSettings(_file, QSettings::IniFormat).value(kSize).toSize();
+}
+
+KivString OptionsMemory::Page() const
+{
+    if (_file.isEmpty()) return {};
+    const QString page = QSettings(_file, QSettings::IniFormat).value(kPage).toString();
+    return KivString(page.toStdString());
+}
+
+void OptionsMemory::Remember(const QSize& size, const KivString& page) const
+{
+    if (_file.isEmpty()) return;
+    QSettings file(_file, QSettings::IniFormat);
+    file.setValue(kSize, size);
+    file.setValue(kPage, QString::fromUtf8(page.ConvertToChar()));
+}

@@ -1,0 +1,32 @@
+#include "OptionsPageView.h"
+
+#include "NativeBuilder.h"
+#include "NativePiece.h"
+
+OptionsPageView::OptionsPageView(KivEditorPage* page, QWidget* parent) : QScrollArea(parent), _page(page)
+{
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus); // its fields have it
+}
+
+void OptionsPageView::Build()
+{
+    if (_built || !_page) return;
+    _built = true;
+    setWidget(NativeBuilder::Build(*_page, this));
+}
+
+QList<QWidget*> OptionsPageView::Fields() const
+{
+    QList<QWidget*> fields;
+    if (!widget()) return fields;
+    // The builder makes them in reading order. A padlock takes part also while it is open: it may close.
+    const QList<QWidget*> widgets = widget()->findChildren<QWidget*>();
+    for (QWidget* candidate : widgets) {
+        const auto* piece = dynamic_cast<NativePiece*>(candidate);
+        if (piece && (candidate->focusPolicy() & Qt::TabFocus || candidate->inherits("QAbstractButton")))
+            fields << candidate;
+    }
+    return fields;
+}

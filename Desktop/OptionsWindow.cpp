@@ -1,0 +1,247 @@
+#include "OptionsWindow.h"
+
+#include "IconStore.h"
+#include "NativeField.h"
+#include "NativePanel.h"
+#include "NativeText.h"
+#include "OptionsMessageStrip.h"
+#include "OptionsPageView.h"
+
+#include <QAbstractEventDispatcher>
+#include <QBoxLayout>
+#include <QDialogButtonBox>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QStackedWidget>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kLettersWide = 92;
+constexpr int kLinesHigh = 34;
+
+} // namespace
+
+OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, OptionsMemory memory,
+                             QWidget* parent)
+    : QDialog(parent), _session(std::move(session)), _memory(std::move(memory)), _list(new QListWidget(this)),
+      _stack(new QStackedWidget(this)), _messages(new OptionsMessageStrip(this)),
+      _diagnostics([strip = QPointer<QWidget>(_messages)](const KivDiagnostic& diagnostic) {
+          if (strip) static_cast<OptionsMessageStrip*>(strip.data())->Add(ToQt(diagnostic.Words()));
+      })
+{
+    setWindowTitle(WindowText("OptionsTitle"));
+    setSizeGripEnabled(true);
+    _list->setAccessibleName(WindowText("Pages"));
+    _list->setAccessibleDescription(WindowText("PagesHelp"));
+    _list->setWhatsThis(WindowText("PagesHelp"));
+    _list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+
+    auto* left = new QVBoxLayout;
+    left->addWidget(_list, 1);
+    auto* middle = new QHBoxLayout;
+    middle->addLayout(left);
+    middle->addWidget(_stack, 1);
+    auto* all = new QVBoxLayout(this);
+    all->addLayout(middle, 1);
+    all->addWidget(_messages);
+    all->addWidget(MakeButtons());
+
+    AddPages();
+    ListenToKeys();
+    // What pages asked to be destroyed goes when the events are done.
+    auto* events = QAbstractEventDispatcher::instance();
+    connect(events, &QAbstractEventDispatcher::aboutToBlock, this,
+            [] { KivCommand::DrainDelayedDestruction(); });
+    connect(events, &QAbstractEventDispatcher::awake, this, [] { KivCommand::DrainDelayedDestruction(); });
+
+    if (!ShowPage(KivUnicodeString(_memory.Page()))) _list->setCurrentRow(0);
+    const QSize remembered = _memory.Size();
+    resize((remembered.isValid() ? remembered : sizeHint()).boundedTo(FreeSize()));
+}
+
+OptionsWindow::~OptionsWindow()
+{
+    if (_session) _session->Cancel();
+}
+
+void OptionsWindow::AddPages()
+{
+    connect(_list, &QListWidget::currentRowChanged, this, [this](int row) { PageChosen(row); });
+    for (const KivOptionsSession::Page& page : _session->Pages()) {
+        auto* item = new QListWidgetItem(IconStore::Shared().Icon(page.icon), ToQt(page.title), _list);
+        item->setToolTip(ToQt(page.help));
+        _stack->addWidget(new OptionsPageView(page.frame.Get(), _stack));
+    }
+    const int bar = _list->style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, _list);
+    _list->setFixedWidth(_list->sizeHintForColumn(0) + bar + 2 * _list->frameWidth());
+}
+
+QWidget* OptionsWindow::MakeButtons()
+{
+    auto* box = new QDialogButtonBox(this);
+    _ok = box->addButton(WindowText("OK"), QDialogButtonBox::AcceptRole);
+    _cancel = box->addButton(WindowText("Cancel"), QDialogButtonBox::RejectRole);
+    _reset = box->addButton(WindowText("Reset"), QDialogButtonBox::ResetRole);
+    _ok->setDefault(true);
+    // A click keeps the focus in the field whose text it enters, so that a refused one is not lost.
+    for (QPushButton* button : {_ok, _reset}) button->setFocusPolicy(Qt::TabFocus);
+    connect(_ok, &QPushButton::clicked, this, [this] { accept(); });
+    connect(_cancel, &QPushButton::clicked, this, [this] { reject(); });
+    connect(_reset, &QPushButton::clicked, this, [this] { Reset(); });
+    return box;
+}
+
+void OptionsWindow::ListenToKeys()
+{
+    const auto onKey = [this](QKeySequence key, int pages) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, [this, pages] { Go(pages); });
+    };
+    onKey(Qt::CTRL | Qt::Key_PageUp, -1);
+    onKey(Qt::CTRL | Qt::Key_PageDown, 1);
+}
+
+void OptionsWindow::Go(int pages)
+{
+    const int page = _list->currentRow() + pages;
+    if (page >= 0 && page < _list->count()) _list->setCurrentRow(page);
+}
+
+bool OptionsWindow::ShowPage(const KivUnicodeString& name)
+{
+    const KivOptionsSession::Page* page = _session ? _session->FindPage(name) : nullptr;
+    if (page) _list->setCurrentRow(static_cast<int>(page - _session->Pages().data()));
+    return page;
+}
+
+int OptionsWindow::PageCount() const
+{
+    return _stack->count();
+}
+
+int OptionsWindow::CurrentPage() const
+{
+    return _stack->currentIndex();
+}
+
+OptionsPageView& OptionsWindow::PageView(int page) const
+{
+    return *static_cast<OptionsPageView*>(_stack->widget(page));
+}
+
+void OptionsWindow::PageChosen(int page)
+{
+    if (page < 0 || !_session) return;
+    PageView(page).Build();
+    _stack->setCurrentIndex(page);
+    const QString title = ToQt(_session->Pages()[static_cast<std::size_t>(page)].title);
+    _reset->setToolTip(WindowText("ResetHelp").arg(title));
+    _reset->setAccessibleDescription(_reset->toolTip());
+    OrderTab();
+}
+
+// Pages are built late: without this their fields would come after the buttons.
+void OptionsWindow::OrderTab()
+{
+    QWidget* last = _list;
+    QList<QWidget*> order;
+    for (int page = 0; page < PageCount(); ++page) order << PageView(page).Fields();
+    order << _reset << _ok << _cancel;
+    for (QWidget* next : order) {
+        setTabOrder(last, next);
+        last = next;
+    }
+}
+
+// Enters what is being typed; a refused text keeps the window open.
+bool OptionsWindow::CommitField()
+{
+    auto* field = dynamic_cast<NativeField*>(focusWidget());
+    return !field || field->CommitText();
+}
+
+void OptionsWindow::accept()
+{
+    if (!_session || !CommitField()) return;
+    _messages->Clear();
+    const std::vector<KivDiagnostic> errors = _session->Commit();
+    if (errors.empty()) {
+        done(Accepted);
+        return;
+    }
+    _messages->Add(WindowText("NotSaved"));
+    for (const KivDiagnostic& error : errors) _messages->Add(ToQt(error.Words()));
+}
+
+void OptionsWindow::reject()
+{
+    if (_session) _session->Cancel();
+    done(Rejected);
+}
+
+void OptionsWindow::done(int result)
+{
+    if (!_session) return;
+    _memory.Remember(size(), _session->Pages().empty()
+                                 ? KivString()
+                                 : _session->Pages()[static_cast<std::size_t>(CurrentPage())].editor);
+    hide();
+    // Hidden first: nobody has to watch how the pages are taken apart.
+    _session.reset();
+    QDialog::done(result);
+}
+
+void OptionsWindow::Reset()
+{
+    if (!_session || CurrentPage() < 0) return;
+    _session->Reset(_session->Pages()[static_cast<std::size_t>(CurrentPage())]);
+}
+
+void OptionsWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::HelpContents)) {
+        ShowLongHelp();
+    } else {
+        QDialog::keyPressEvent(event);
+    }
+}
+
+void OptionsWindow::ShowLongHelp()
+{
+    QWidget* field = focusWidget();
+    while (field && field != this && field->whatsThis().isEmpty()) field = field->parentWidget();
+    if (field && field != this)
+        NativePanel::Open(*field, WindowText("Help"), field->whatsThis(), NativePanel::Copy::NotOffered);
+}
+
+void OptionsWindow::showEvent(QShowEvent* event)
+{
+    // The frame around it is known only now.
+    const QSize frame = frameGeometry().size() - size();
+    resize(size().boundedTo(FreeSize() - frame));
+    QDialog::showEvent(event);
+}
+
+QSize OptionsWindow::sizeHint() const
+{
+    // Wide enough for the page that is shown.
+    const QFontMetrics metrics(font());
+    QSize page;
+    if (const QWidget* surface = CurrentPage() >= 0 ? PageView(CurrentPage()).widget() : nullptr)
+        page = surface->sizeHint();
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    const int beside = _list->width() + bar + 4 * layout()->contentsMargins().left();
+    return QSize(std::max(kLettersWide * metrics.averageCharWidth(), page.width() + beside),
+                 kLinesHigh * metrics.lineSpacing())
+        .expandedTo(minimumSizeHint());
+}
+
+QSize OptionsWindow::FreeSize() const
+{
+    return screen()->availableGeometry().size();
+}

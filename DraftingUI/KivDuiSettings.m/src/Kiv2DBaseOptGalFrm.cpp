@@ -1,0 +1,107 @@
+#include "Kiv2DBaseOptGalFrm.h"
+
+namespace {
+
+// Stored in millimetres, shown in metres.
+constexpr KivSpinnerSetup kLength{.magnitude = KivDlgMagnitudeLength,
+                                  .minimum = 0.0,
+                                  .maximum = 1.0e12,
+                                  .step = 0.005,
+                                  .shownPerStored = 0.001,
+                                  .storedPerShown = 1000.0};
+constexpr KivCountSetup kGraduation{.minimum = 1.0F, .maximum = 100000.0F, .values = 100000};
+// Stored in degrees, shown in radians: 1 to 355 degrees by 1. The ceiling of 355 is deliberate.
+constexpr KivSpinnerSetup kSnapAngle{.magnitude = KivDlgMagnitudeAngle,
+                                     .minimum = 0.017453292519943393,
+                                     .maximum = 6.1959188445799045,
+                                     .step = 0.017453292519943393,
+                                     .shownPerStored = 0.017453292519943393,
+                                     .storedPerShown = 57.295779513082,
+                                     .initial = 1.0};
+
+} // namespace
+
+void Kiv2DBaseOptGalFrm::Build()
+{
+    if (WithFrameRuler()) _form.Group("frameRuler", "").Line().Check("checkRuler", _showRuler);
+    if (WithFrameGrid()) BuildGrid();
+    if (WithFrameRotation()) BuildRotation();
+    if (WithFrameColor()) BuildColor();
+    if (WithFrameTree()) {
+        KivFormGroup tree = _form.Group("frameTreeVisu", "I_Formula");
+        tree.Line().Check("_checkTreeParameters", _displayParam);
+        tree.Line().Check("_checkTreeFormulas", _displayRelation);
+    }
+    if (WithFrame2DAxis()) Build2DAxis();
+    if (WithFrameHideWhenStartWkb())
+        _form.Group("frmHideStartWkb", "").Line().Check("chkHideStartWkb", _hideWhenStartWkb);
+}
+
+void Kiv2DBaseOptGalFrm::BuildGrid()
+{
+    KivFormGroup grid = _form.Group("frameGrid", "I_DisplayGrid");
+    grid.Line().Check("checkGrid", _displayGrid);
+    grid.Line().Check("checkSnap", _snapToPoint);
+    grid.Line().Check("checkAllowDistortions", _allowDistortions, [this] { ApplyDistortionRule(); });
+
+    KivFormLine spacing = grid.Line("labelGridSpacing");
+    spacing.Spinner("editorGridSpacing", _primSpaceH, kLength, [this] { MirrorSpacing(); });
+    _spacingV = spacing.Spinner("editorGridSpacingV", _primSpaceV, kLength);
+
+    KivFormLine graduation = grid.Line("labelGridGraduation");
+    graduation.Spinner("editorGridGraduation", _gradH, kGraduation, [this] { MirrorGraduation(); });
+    _graduationV = graduation.Spinner("editorGridGraduationV", _gradV, kGraduation);
+}
+
+void Kiv2DBaseOptGalFrm::BuildRotation()
+{
+    KivFormGroup rotation = _form.Group("frameRotation", "I_Rotate");
+    rotation.Line("labelRotSnapAngle").Spinner("spinnerRotSnapAngle", _rotationSnapAngle, kSnapAngle);
+    rotation.Line().Check("checkRotSnapAuto", _rotationAutoSnap);
+}
+
+void Kiv2DBaseOptGalFrm::BuildColor()
+{
+    KivFormGroup color = _form.Group("frameColor", "I_ColorChooser");
+    KivFormLine sheet = color.Line("labelBackgroundColor");
+    sheet.Colour("comboBackgroundColor", _sheetColor);
+    sheet.Check("checkGraduatedColor", _sheetColorGrad);
+    KivFormLine detail = color.Line("labelBackgroundColorDD");
+    detail.Colour("comboBackgroundColorDD", _detailColor);
+    detail.Check("checkGraduatedColorDD", _detailColorGrad);
+}
+
+void Kiv2DBaseOptGalFrm::Build2DAxis()
+{
+    KivFormGroup axis = _form.Group("frameViewReferential", "I_DisplayViewReferential");
+    axis.Line().Check("checkViewReferential", _2DAxisDisplay);
+    axis.Line().Check("checkViewRefZoom", _2DAxisZoom);
+    axis.Line("labelViewAxisSize").Spinner("spinnerViewAxisSize", _2DAxisLength, kLength);
+}
+
+void Kiv2DBaseOptGalFrm::UpdateWidgets()
+{
+    KivPageFrame::UpdateWidgets();
+    ApplyDistortionRule();
+}
+
+// The vertical grid has a spacing and a graduation of its own only while distortions are allowed.
+void Kiv2DBaseOptGalFrm::ApplyDistortionRule()
+{
+    const unsigned long sensitivity = _allowDistortions.cached ? KivDlgEnabled : KivDlgDisabled;
+    if (_spacingV) _spacingV->SetSensitivity(sensitivity);
+    if (_graduationV) _graduationV->SetSensitivity(sensitivity);
+}
+
+// Without distortions the vertical grid follows the horizontal one; the spinner's notification stores it.
+void Kiv2DBaseOptGalFrm::MirrorSpacing()
+{
+    if (!_allowDistortions.cached && _spacingV)
+        _spacingV->SetValue(_primSpaceH.cached * kLength.shownPerStored, 1);
+}
+
+void Kiv2DBaseOptGalFrm::MirrorGraduation()
+{
+    if (!_allowDistortions.cached && _graduationV)
+        _graduationV->SetCurrentValue(static_cast<float>(_gradH.cached), 1);
+}

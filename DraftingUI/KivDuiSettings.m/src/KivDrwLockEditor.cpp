@@ -1,0 +1,8 @@
+#include "KivDrwLockEditor.h"
+
+KivDrwLockEditor::KivDrwLockEditor(KivSettingRepository* repository, const KivString& attributeName,
+                                   KivDialog* parent, const KivString& name, unsigned long style)
+    : KivDrwLockControlOf(repository, attributeName, parent, name)
+{
+    Wrap(MakeControl(name, style));
+}

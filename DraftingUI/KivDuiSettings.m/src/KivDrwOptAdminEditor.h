@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Component/KivVar.h"
+#include "Options/KivEditor.h"
+#include "Settings/KivIASettingController.h"
+
+// The editor of the Administration tab. Unlike the others it works through the controller of the drafting
+// settings, and its commit greys out or restores commands of the running application.
+class KivDrwOptAdminEditor final : public KivClass<KivDrwOptAdminEditor, KivEditor> {
+public:
+    static constexpr const char* Name = "KivDrwOptAdminEditor";
+    static constexpr const char* Framework = "DraftingUI";
+
+    KivDrwOptAdminEditor();
+    // Deliberate: only factories make editors.
+    static KivBaseUnknown* CreateItself() { return nullptr; }
+
+    void CommitModification(KivSettingRepository* ignored) override;
+    void CancelModification(KivSettingRepository* ignored) override;
+    void ResetUserSettingsValue() override;
+
+private:
+    KivVar<KivIASettingController> _controller; // empty when the component is not there
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "KivDrwOptGalFrm.h"
+#include "KivDrwTabEditor.h"
+
+class KivDrwOptGalEditor final : public KivDrwTabEditor<KivDrwOptGalEditor, KivDrwOptGalFrm> {
+public:
+    static constexpr const char* Name = "KivDrwOptGalEditor";
+    static constexpr KivDrwGroup Group = KivDrwGroup::General;
+
+    static std::vector<const char*> ResetKeys();
+
+protected:
+    // Tell the sketcher: grid, then snap. A reset deliberately stays silent.
+    void AfterCommit() override;
+    void AfterCancel() override;
+};

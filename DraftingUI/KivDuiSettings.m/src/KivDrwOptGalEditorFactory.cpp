@@ -1,0 +1,7 @@
+#include "KivDrwOptGalEditorFactory.h"
+
+#include "KivIDrwOptGalEditorFactory.h"
+
+KIV_IMPLEMENT_TIE(TIEKivIDrwOptGalEditorFactoryKivDrwOptGalEditorFactory,
+                  CreateTIEKivIDrwOptGalEditorFactoryKivDrwOptGalEditorFactory, KivIDrwOptGalEditorFactory,
+                  KivDrwOptGalEditorFactory)

@@ -1,0 +1,7 @@
+#include "KivDrwOptGenEditorFactory.h"
+
+#include "KivIDrwOptGenEditorFactory.h"
+
+KIV_IMPLEMENT_TIE(TIEKivIDrwOptGenEditorFactoryKivDrwOptGenEditorFactory,
+                  CreateTIEKivIDrwOptGenEditorFactoryKivDrwOptGenEditorFactory, KivIDrwOptGenEditorFactory,
+                  KivDrwOptGenEditorFactory)

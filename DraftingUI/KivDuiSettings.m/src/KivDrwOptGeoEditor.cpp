@@ -1,0 +1,30 @@
+#include "KivDrwOptGeoEditor.h"
+
+#include "KivDrwSketcherSettings.h"
+#include "Options/KivIUserSettings.h"
+
+namespace {
+
+void TellSketcher()
+{
+    KivDrwSketcherSettings* sketcher = KivDrwSketcherSettings::GetSketcherSettings();
+    if (!sketcher) return;
+    sketcher->Visu3DUIModify();
+    sketcher->GeomUIModify();
+    sketcher->CpltModify();
+}
+
+} // namespace
+
+void KivDrwOptGeoEditor::AfterCancel()
+{
+    TellSketcher();
+}
+
+void KivDrwOptGeoEditor::AfterReset()
+{
+    TellSketcher();
+}
+
+KIV_IMPLEMENT_TIE(TIEKivIUserSettingsKivDrwOptGeoEditor, CreateTIEKivIUserSettingsKivDrwOptGeoEditor,
+                  KivIUserSettings, KivDrwOptGeoEditor)

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "KivDrwTabEditor.h"
+
+class KivDrwOptGeoEditor final : public KivDrwTabEditor<KivDrwOptGeoEditor> {
+public:
+    static constexpr const char* Name = "KivDrwOptGeoEditor";
+    static constexpr KivDrwGroup Group = KivDrwGroup::Geometry;
+
+protected:
+    // Tell the sketcher: visualisation, geometry, then completion. A commit deliberately stays silent.
+    void AfterCancel() override;
+    void AfterReset() override;
+};

@@ -1,0 +1,7 @@
+#include "KivDrwOptTrelEditorFactory.h"
+
+#include "KivIDrwOptTrelEditorFactory.h"
+
+KIV_IMPLEMENT_TIE(TIEKivIDrwOptTrelEditorFactoryKivDrwOptTrelEditorFactory,
+                  CreateTIEKivIDrwOptTrelEditorFactoryKivDrwOptTrelEditorFactory, KivIDrwOptTrelEditorFactory,
+                  KivDrwOptTrelEditorFactory)

@@ -1,0 +1,6 @@
+#include "KivDrwOptViewEditor.h"
+
+#include "Options/KivIUserSettings.h"
+
+KIV_IMPLEMENT_TIE(TIEKivIUserSettingsKivDrwOptViewEditor, CreateTIEKivIUserSettingsKivDrwOptViewEditor,
+                  KivIUserSettings, KivDrwOptViewEditor)

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "Base/KivResult.h"
+#include "Settings/KivSettingInfo.h"
+
+#include <vector>
+
+// A value that a page caches between its accessors and its controls.
+class KivBoundValue {
+public:
+    // Takes the value in force into the cache; what an accessor answers does not matter.
+    virtual void Load() = 0;
+    // The lock record of the setting.
+    virtual KivSettingInfo Info() const = 0;
+
+protected:
+    ~KivBoundValue() = default;
+};
+
+// The values of a page in the order of their accessors.
+using KivBoundValues = std::vector<KivBoundValue*>;
+
+// A value of type T, whoever's accessors it goes through; what a row of a page's form needs of it.
+template <class T> class KivCachedValue : public KivBoundValue {
+public:
+    T cached{};
+    virtual void Store(const T& value) = 0;
+};
+
+// The components of a colour setting, 0 to 255 unless something else is stored.
+struct KivPageColour {
+    int red = 0;
+    int green = 0;
+    int blue = 0;
+};
+
+// How the accessors of a type are called: with the value itself, a colour with its components one by one.
+template <class Frame, class T> struct KivPageAccessors {
+    using Set = int (Frame::*)(const T&);
+    using Get = int (Frame::*)(T&);
+    static void Call(Frame& frame, Set set, const T& value) { (frame.*set)(value); }
+    static void Call(Frame& frame, Get get, T& value) { (frame.*get)(value); }
+};
+template <class Frame> struct KivPageAccessors<Frame, KivPageColour> {
+    using Set = int (Frame::*)(const int&, const int&, const int&);
+    using Get = int (Frame::*)(int&, int&, int&);
+    static void Call(Frame& frame, Set set, const KivPageColour& c) { (frame.*set)(c.red, c.green, c.blue); }
+    static void Call(Frame& frame, Get get, KivPageColour& c) { (frame.*get)(c.red, c.green, c.blue); }
+};
+
+// The value of one accessor triple of a page frame: registers with the frame's values when it is constructed,
+// so that declaration order is the order of the accessors. Belongs to the frame and calls its virtual
+// accessors.
+template <class Frame, class T> class KivPageValue final : public KivCachedValue<T> {
+public:
+    using Accessors = KivPageAccessors<Frame, T>;
+    using GetInfo = int (Frame::*)(KivSettingInfo&);
+
+    KivPageValue(KivBoundValues& values, Frame& frame, typename Accessors::Set set,
+                 typename Accessors::Get get, GetInfo getInfo)
+        : _frame(frame), _set(set), _get(get), _getInfo(getInfo)
+    {
+        values.push_back(this);
+    }
+    void Load() override { Accessors::Call(_frame, _get, this->cached); }
+    void Store(const T& value) override
+    {
+        this->cached = value;
+        Accessors::Call(_frame, _set, value);
+    }
+    KivSettingInfo Info() const override
+    {
+        KivSettingInfo info;
+        (_frame.*_getInfo)(info);
+        return info;
+    }
+
+private:
+    Frame& _frame;
+    typename Accessors::Set _set;
+    typename Accessors::Get _get;
+    GetInfo _getInfo;
+};

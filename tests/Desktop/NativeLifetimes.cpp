@@ -1,0 +1,75 @@
+#include "NativeFixture.h"
+
+#include <QAbstractButton>
+#include <QPointer>
+
+namespace {
+
+using NativeLifetimes = NativeFixture;
+
+// Destroys the sender of a notification, as a page does that rebuilds itself.
+class Destroyer : public KivCommand {
+public:
+    explicit Destroyer(KivDialog* who) : KivCommand(nullptr, "destroyer"), victim(who) {}
+    void Hear(KivCommand*, KivNotification*, void*) { victim->RequestDelayedDestruction(); }
+    KivWeakPtr<KivDialog> victim;
+};
+
+TEST_F(NativeLifetimes, ANodeMayGoFirst)
+{
+    const QPointer<QWidget> spinner = WidgetOf(tree.horizontal), group = WidgetOf(tree.colours);
+    QWidget* const label = WidgetOf(tree.horizontal->GetLabel());
+    spinner->setFocus();
+    QTest::keyClicks(spinner, "7");
+    delete tree.horizontal;
+    ASSERT_TRUE(spinner);
+    EXPECT_FALSE(spinner->isVisible());
+    QTest::keyClick(spinner, Qt::Key_Return);
+    EXPECT_TRUE(label->isEnabled());
+    delete tree.colours;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(spinner);
+    EXPECT_FALSE(group);
+    page.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(area->widget());
+}
+
+TEST_F(NativeLifetimes, AWidgetOrTheWindowMayGoFirst)
+{
+    delete WidgetOf(tree.show);
+    EXPECT_FALSE(tree.show->GetView());
+    tree.show->SetState(KivDlgChecked, 1);
+    area.reset();
+    for (const KivDialog* node : {static_cast<KivDialog*>(tree.grid), static_cast<KivDialog*>(tree.angle),
+                                  tree.grid->Children().front(), static_cast<KivDialog*>(page.get())})
+        EXPECT_FALSE(node->GetView());
+    tree.grid->SetSensitivity(KivDlgDisabled);
+    tree.type->SetSelect(3U);
+}
+
+TEST_F(NativeLifetimes, ANodeMayGoWhileItsOwnEventIsUnderWay)
+{
+    Destroyer destroyer(tree.distort->GetParentDialog());
+    destroyer.AddAnalyseNotificationCB(tree.distort, tree.distort->GetChkBModifyNotification(),
+                                       &Destroyer::Hear, nullptr);
+    QPointer<QWidget> button = WidgetOf(tree.distort);
+    QTest::keyClick(button, Qt::Key_Space);
+    QTest::keyClick(button, Qt::Key_Space);
+    EXPECT_EQ(tree.distort->GetState(), KivDlgChecked) << "a condemned control takes no more actions";
+    KivCommand::DrainDelayedDestruction();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(button);
+    EXPECT_FALSE(destroyer.victim);
+}
+
+TEST_F(NativeLifetimes, APageCanBeShownAgainAfterItsWindow)
+{
+    area = std::make_unique<QScrollArea>();
+    area->setWidget(NativeBuilder::Build(*page, area.get()));
+    EXPECT_TRUE(NativePiece::Of(tree.horizontal));
+    tree.show->SetState(KivDlgChecked, 0);
+    EXPECT_TRUE(static_cast<QAbstractButton*>(WidgetOf(tree.show))->isChecked());
+}
+
+} // namespace

@@ -1,0 +1,214 @@
+#include "NativePiece.h"
+#include "NativeSpinner.h"
+#include "OptionsMessageStrip.h"
+#include "OptionsPageView.h"
+#include "OptionsWindow.h"
+#include "TestEditors.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace {
+
+using Log = std::vector<std::string>;
+
+class OptionsWindows : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        TestEditor::log.clear();
+        TestEditor::failing = false;
+        TestEditor::stored = 0.1;
+        Open(OptionsMemory(QString()));
+    }
+    void TearDown() override
+    {
+        window.reset();
+        KivCommand::DrainDelayedDestruction();
+        EXPECT_EQ(KivBaseUnknown::LiveObjects(), before);
+    }
+    void Open(OptionsMemory memory)
+    {
+        window = std::make_unique<OptionsWindow>(OpenTestSession(), std::move(memory));
+        window->show();
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+    NativeSpinner* Spinner(int page = 0)
+    {
+        KivDialog* frame = window->Session()->Pages()[static_cast<std::size_t>(page)].frame.Get();
+        return static_cast<NativeSpinner*>(NativePiece::Of(frame->FindDialog("editorH_dialog"))->Widget());
+    }
+    QPushButton* Button(const char* text)
+    {
+        const QList<QPushButton*> buttons = window->findChildren<QPushButton*>();
+        const auto found = std::find_if(buttons.begin(), buttons.end(),
+                                        [&](QPushButton* button) { return button->text() == text; });
+        return found == buttons.end() ? nullptr : *found;
+    }
+    void TypeOver(const char* text)
+    {
+        Spinner()->setFocus();
+        Spinner()->findChild<QLineEdit*>()->selectAll();
+        QTest::keyClicks(Spinner(), text);
+    }
+
+    long before = KivBaseUnknown::LiveObjects();
+    std::unique_ptr<OptionsWindow> window;
+};
+
+TEST_F(OptionsWindows, PagesAreBuiltWhenFirstShownAndKeysWalkThem)
+{
+    ASSERT_EQ(window->PageCount(), 2);
+    EXPECT_TRUE(window->PageView(0).IsBuilt());
+    EXPECT_FALSE(window->PageView(1).IsBuilt());
+    QTest::keyClick(Spinner(), Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(window->CurrentPage(), 1);
+    EXPECT_TRUE(window->PageView(1).IsBuilt());
+    EXPECT_TRUE(Button("Reset")->toolTip().contains("OtherTestEditor"));
+    QTest::keyClick(window.get(), Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(window->CurrentPage(), 1);
+    QTest::keyClick(window.get(), Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(window->CurrentPage(), 0);
+
+    // From the last field of either page Tab leads to the buttons.
+    for (const char* page : {"TestEditor", "othertesteditor"}) {
+        ASSERT_TRUE(window->ShowPage(page));
+        window->PageView(window->CurrentPage()).Fields().back()->setFocus();
+        for (const char* button : {"Reset", "OK", "Cancel"}) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            EXPECT_EQ(QApplication::focusWidget(), Button(button)) << page;
+        }
+    }
+}
+
+TEST_F(OptionsWindows, EnterEntersTheFieldAndThenIsOK)
+{
+    TypeOver("wide");
+    QTest::keyClick(Spinner(), Qt::Key_Return);
+    EXPECT_TRUE(window->isVisible());
+    QTest::mouseClick(Button("OK"), Qt::LeftButton);
+    EXPECT_TRUE(window->isVisible()) << "OK would have thrown the text away";
+    EXPECT_FALSE(Spinner()->Refusal().isEmpty());
+    QTest::keyClick(Spinner(), Qt::Key_Escape);
+    EXPECT_TRUE(window->isVisible());
+
+    int finished = -1;
+    QObject::connect(window.get(), &QDialog::finished, [&](int result) { finished = result; });
+    TypeOver("20");
+    QTest::keyClick(Spinner(), Qt::Key_Return);
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(finished, QDialog::Accepted);
+    EXPECT_FALSE(window->Session());
+    EXPECT_EQ(TestEditor::log, (Log{"commit", "commit", "close", "close"}));
+}
+
+TEST_F(OptionsWindows, AnyOtherWayOfClosingCancels)
+{
+    const Log cancelled{"cancel", "cancel", "close", "close"};
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(TestEditor::log, cancelled);
+    TestEditor::log.clear();
+    Open(OptionsMemory(QString()));
+    window->close();
+    EXPECT_EQ(TestEditor::log, cancelled);
+    TestEditor::log.clear();
+    Open(OptionsMemory(QString()));
+    QTest::mouseClick(Button("Cancel"), Qt::LeftButton);
+    EXPECT_EQ(TestEditor::log, cancelled);
+    TestEditor::log.clear();
+    Open(OptionsMemory(QString()));
+    window.reset();
+    EXPECT_EQ(TestEditor::log, cancelled);
+}
+
+TEST_F(OptionsWindows, WhatCouldNotBeSavedIsSaidAndTheWindowStays)
+{
+    TestEditor::failing = true;
+    QTest::mouseClick(Button("OK"), Qt::LeftButton);
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_TRUE(window->Messages().isVisible());
+    EXPECT_TRUE(window->Messages().Messages().join(' ').contains("the disk is full"));
+    ASSERT_TRUE(window->Session());
+    TestEditor::failing = false;
+    QTest::mouseClick(Button("OK"), Qt::LeftButton);
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(OptionsWindows, DiagnosticsAreShownAndPassedOn)
+{
+    window.reset();
+    std::vector<KivDiagnostic> heard;
+    const KivDiagnosticSink outer =
+        KivSetDiagnosticSink([&](const KivDiagnostic& diagnostic) { heard.push_back(diagnostic); });
+    Open(OptionsMemory(QString()));
+    heard.clear();
+    for (int i = 0; i < 2; ++i) KivReport({.text = "odd", .file = "a.kivsettings", .line = 3});
+    EXPECT_EQ(window->Messages().Messages().count("a.kivsettings:3: odd"), 1);
+    EXPECT_EQ(heard.size(), 2U);
+    window.reset();
+    KivReport({.text = "later"});
+    EXPECT_EQ(heard.size(), 3U);
+    KivSetDiagnosticSink(outer);
+}
+
+TEST_F(OptionsWindows, ResetFillsTheShownPage)
+{
+    QTest::mouseClick(Button("Reset"), Qt::LeftButton);
+    EXPECT_EQ(Spinner()->findChild<QLineEdit*>()->text(), "50 mm");
+}
+
+TEST_F(OptionsWindows, F1ShowsTheLongHelpOfTheField)
+{
+    const auto* page = window->Session()->Pages()[0].frame.Get();
+    QWidget* check =
+        NativePiece::Of(const_cast<KivEditorPage*>(page)->FindDialog("checkGrid_dialog"))->Widget();
+    check->setFocus();
+    QTest::keyClick(check, Qt::Key_F1);
+    QWidget* panel = check->findChild<QWidget*>("NativePanel");
+    ASSERT_TRUE(panel && panel->isVisible());
+    EXPECT_TRUE(panel->accessibleDescription().contains("never printed"));
+    QTest::keyClick(panel, Qt::Key_Escape);
+    EXPECT_FALSE(panel->isVisible());
+    EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(OptionsWindows, SizeAndPageAreRememberedAndNeverTooLarge)
+{
+    const QTemporaryDir directory;
+    const OptionsMemory memory(directory.filePath("desktop.ini"));
+    Open(memory);
+    window->resize(640, 400);
+    window->ShowPage("OtherTestEditor");
+    window->reject();
+    Open(memory);
+    EXPECT_EQ(window->size(), QSize(640, 400));
+    EXPECT_EQ(window->CurrentPage(), 1);
+    window->resize(100, 100000);
+    window->reject();
+    Open(memory);
+    EXPECT_LE(window->height(), window->screen()->availableGeometry().height());
+    Open(OptionsMemory("/proc/nowhere/desktop.ini"));
+    window->reject();
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(OptionsWindows, WhatPagesCondemnGoesBetweenEvents)
+{
+    KivDialog* frame = window->Session()->Pages()[0].frame.Get();
+    const KivWeakPtr<KivDialog> group = frame->FindDialog("frameColour");
+    group->RequestDelayedDestruction();
+    EXPECT_TRUE(group);
+    QTest::qWait(1);
+    EXPECT_FALSE(group);
+}
+
+} // namespace

@@ -1,0 +1,111 @@
+#include "TestPage.h"
+
+#include <string>
+
+KivSettingInfo TestPage::LockedInfo(const char* key)
+{
+    KivSettingInfo info;
+    info.key = key;
+    info.locked = true;
+    info.lockLayer = "site";
+    info.lockFile = "/srv/site/Drafting.kivsettings";
+    return info;
+}
+
+KivDlgFrame* TestPage::Row(KivDialog* group, short row, short column, const char* name,
+                           const KivSettingInfo& info)
+{
+    auto* frame = new KivDlgFrame(group, name);
+    frame->SetGridConstraints(row, column, 1, 1, KivDlgAttachAllSides);
+    auto* lock = new KivDlgLock(frame, KivString(name) + "Lock", info, 0);
+    lock->SetGridConstraints(0, 0, 1, 1, KivDlgAttachAllSides);
+    return frame;
+}
+
+KivDlgLabel* TestPage::Label(KivDialog* group, short row, const char* name, const char* title,
+                             KivDialog* control)
+{
+    auto* frame = new KivDlgFrame(group, name);
+    frame->SetGridConstraints(row, 0, 1, 1, KivDlgAttachAllSides);
+    auto* space = new KivDlgCheckButton(frame, "CheckLock", 0);
+    space->SetIconName("CheckLock", "", "", "", 0);
+    space->SetVisibility(KivDlgReserved);
+    space->SetGridConstraints(0, 0, 1, 1, KivDlgAttachAllSides);
+    auto* label = new KivDlgLabel(frame, KivString(name) + "_label", 0);
+    label->SetGridConstraints(0, 1, 1, 1, KivDlgAttachLeftCentred);
+    label->SetTitle(title);
+    label->SetLabelledControl(control);
+    return label;
+}
+
+TestPage::TestPage(KivEditorPage& page)
+{
+    const KivSettingInfo free;
+    auto* frame = new KivDlgFrame(&page, "generalFrame");
+    frame->SetGridConstraints(0, 0, 1, 1, KivDlgAttachAllSides);
+
+    grid = new KivDlgToolsOptionsFrame(frame, "frameGrid", "I_DisplayGrid");
+    grid->SetGridConstraints(0, 0, 1, 1, KivDlgAttachAllSides);
+    grid->SetTitle("Grid");
+    KivDlgFrame* row = Row(grid, 0, 0, "checkGrid", free);
+    show = Place(row, new KivDlgCheckButton(row, "checkGrid_dialog", 0), "&Display the grid on every sheet",
+                 "Draws the grid on the sheet.");
+    show->SetLongHelp("Draws the grid on the sheet, below everything else. It is never printed.");
+    row = Row(grid, 1, 0, "checkSnap", LockedInfo("SnapToPoint"));
+    snap = Place(row, new KivDlgCheckButton(row, "checkSnap_dialog", 0), "&Snap to point",
+                 "Points jump to the nearest crossing of the grid.");
+    row = Row(grid, 2, 0, "checkAllowDistortions", free);
+    distort = Place(row, new KivDlgCheckButton(row, "checkAllowDistortions_dialog", 0), "Allow &distortions",
+                    "Gives the vertical grid a spacing of its own.");
+    row = Row(grid, 3, 1, "editorH", free);
+    horizontal = Place(row, new KivDlgSpinner(row, "editorH_dialog", 0), nullptr, "Spacing of the grid.");
+    row = Row(grid, 3, 2, "editorV", free);
+    vertical = Place(row, new KivDlgSpinner(row, "editorV_dialog", 0), "Vertical spacing", "");
+    for (KivDlgSpinner* spinner : {horizontal, vertical}) {
+        spinner->SetUnit(KivDlgUnitMillimetre);
+        spinner->SetMinMaxStep(0.0, 1.0e12, 0.005, 1);
+        spinner->SetVisibleTextWidth(9);
+        spinner->SetValue(0.1, 0);
+    }
+    vertical->SetSensitivity(KivDlgDisabled);
+    vertical->SetUnavailableHelp("Available when “Allow distortions” is on.");
+    Label(grid, 3, "labelSpacing", "Primary s&pacing:", horizontal);
+    row = Row(grid, 4, 1, "editorAngle", LockedInfo("RotSnapAngle"));
+    angle = Place(row, new KivDlgSpinner(row, "editorAngle_dialog", 0), nullptr, "Angle of the snap.");
+    angle->SetUnit(KivDlgUnitDegree);
+    angle->SetVisibleTextWidth(9);
+    angle->SetValue(0.26179938779914941, 0);
+    Label(grid, 4, "labelAngle", "Snap &angle:", angle);
+
+    colours = new KivDlgToolsOptionsFrame(frame, "frameColour", "I_ColorChooser");
+    colours->SetGridConstraints(1, 0, 1, 1, KivDlgAttachAllSides);
+    colours->SetTitle("Colours && lines");
+    row = Row(colours, 0, 1, "comboBackground", free);
+    background = Place(row, new KivComboColor(row, "comboBackground_dialog", 0, 255, 255, 255, 0, 0, 0),
+                       nullptr, "Colour of the sheet.");
+    Label(colours, 0, "labelBackground", "Sheet &background:", background);
+    row = Row(colours, 1, 1, "comboDetail", LockedInfo("DetailColour"));
+    lockedColour = Place(row, new KivComboColor(row, "comboDetail_dialog", 0, 12, 34, 56, 0, 0, 0), nullptr,
+                         "Colour of detail sheets.");
+    Label(colours, 1, "labelDetail", "D&etail background:", lockedColour);
+    row = Row(colours, 2, 1, "comboType", free);
+    type = Place(row, new KivComboDashed(row, "comboType_dialog", 0, 0, 0), nullptr, "Type of the line.");
+    type->AddOtherType("S_DrwBreakLine8", 1);
+    type->SetSelect(4U);
+    Label(colours, 2, "labelType", "Line &type:", type);
+    row = Row(colours, 3, 1, "comboWeight", free);
+    weight = Place(row, new KivComboWeight(row, "comboWeight_dialog", 0, 0, 0), nullptr, "Its thickness.");
+    weight->SetSelect(2U);
+    Label(colours, 3, "labelWeight", "Line &weight:", weight);
+    row = Row(colours, 4, 1, "comboDirection", free);
+    direction = Place(row, new KivDlgCombo(row, "comboDirection_dialog", 0), nullptr, "");
+    for (const char* line : {"Left to right", "Top to bottom", "Diagonal"}) direction->SetLine(line);
+    direction->SetSelect(0);
+    // As a label may be tied to the frame that wraps a control.
+    Label(colours, 4, "labelDirection", "Gradient di&rection:", direction->GetParentDialog());
+    row = Row(colours, 5, 1, "editorFile", free);
+    file =
+        Place(row, new KivDlgEditor(row, "editorFile_dialog", 0), nullptr, "Where symbols are looked for.");
+    file->SetText("symbols", 0);
+    Label(colours, 5, "labelFile", "Symbol &file:", file);
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Dialog/KivComboColor.h"
+#include "Dialog/KivComboDashed.h"
+#include "Dialog/KivComboWeight.h"
+#include "Dialog/KivDlgCheckButton.h"
+#include "Dialog/KivDlgEditor.h"
+#include "Dialog/KivDlgLabel.h"
+#include "Dialog/KivDlgLock.h"
+#include "Dialog/KivDlgSpinner.h"
+#include "Dialog/KivDlgToolsOptionsFrame.h"
+#include "Options/KivEditorPage.h"
+
+// A page as the libraries build theirs: groups of rows, each row a frame with a padlock and a control.
+struct TestPage {
+    // Builds in the page given.
+    explicit TestPage(KivEditorPage& page);
+
+    static KivSettingInfo LockedInfo(const char* key);
+
+    KivDlgFrame* Row(KivDialog* group, short row, short column, const char* name, const KivSettingInfo& info);
+    KivDlgLabel* Label(KivDialog* group, short row, const char* name, const char* title, KivDialog* control);
+    template <class Control>
+    Control* Place(KivDialog* row, Control* control, const char* title, const char* help)
+    {
+        control->SetGridConstraints(0, 1, 1, 1, KivDlgAttachLeftCentred);
+        if (title) control->SetTitle(title);
+        control->SetHelp(help);
+        static_cast<KivDlgLock*>(row->Children().front())->AddAssociatedDialog(control);
+        return control;
+    }
+
+    KivDlgToolsOptionsFrame *grid, *colours;
+    KivDlgCheckButton *show, *snap, *distort;
+    KivDlgSpinner *horizontal, *vertical, *angle;
+    KivComboColor *background, *lockedColour;
+    KivComboDashed* type;
+    KivComboWeight* weight;
+    KivDlgCombo* direction;
+    KivDlgEditor* file;
+};
