@@ -37,6 +37,10 @@ DraftingTree::DraftingTree(const SheetSettings& settings) : _settings(settings)
     setHeaderHidden(true);
     setFrameShape(QFrame::NoFrame);
     setUniformRowHeights(true);
+    // Names are read in full: a narrow tree scrolls instead of cutting them.
+    setTextElideMode(Qt::ElideNone);
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     QTreeWidgetItem* const sheet = Added(invisibleRootItem(), "TreeSheet");
     _view = Added(sheet, "TreeView");
     _parameters = Added(_view, "TreeParameters");
@@ -78,5 +82,5 @@ void DraftingTree::ShowValues()
 
 QSize DraftingTree::sizeHint() const
 {
-    return {fontMetrics().averageCharWidth() * 36, fontMetrics().height() * 20};
+    return {sizeHintForColumn(0) + 2 * fontMetrics().averageCharWidth(), fontMetrics().height() * 20};
 }

@@ -5,8 +5,7 @@
 
 namespace {
 
-// Graphics need a contrast of 3 to be told apart; a little more, since lines are thin.
-constexpr double kReadable = 3.5;
+constexpr double kReadable = 4.5; // what small text needs; lines are as thin
 constexpr double kGraduation = 0.22;
 
 QColor Mixed(const QColor& from, const QColor& to, double part)
@@ -48,6 +47,13 @@ QBrush SheetColours::Surface(double top, double bottom) const
 QColor SheetColours::Shade(double strength) const
 {
     return Mixed(_sheet, _ink, strength);
+}
+
+QColor SheetColours::Veil(double strength) const
+{
+    QColor veil = _ink;
+    veil.setAlphaF(static_cast<float>(strength));
+    return veil;
 }
 
 QColor SheetColours::Accent(const QColor& wanted) const

@@ -14,8 +14,10 @@ public:
 
     // Black or white, whichever stands out more.
     const QColor& Ink() const { return _ink; }
-    // A line between the surface (0) and ink (1).
+    // A line between the sheet's colour (0) and ink (1).
     QColor Shade(double strength) const;
+    // The same as ink that lets the surface through, which a graduated one needs.
+    QColor Veil(double strength) const;
     // A coloured line, drawn towards ink until it stands out from all of the surface.
     QColor Accent(const QColor& wanted) const;
 

@@ -25,7 +25,7 @@ SheetLayout::SheetLayout(QSizeF sheet)
         QPointF(border.right() - gap - detailSize.width(), border.bottom() - gap - detailSize.height()),
         detailSize);
 
-    viewCentre = isLandscape ? QPointF(width * 0.38, height * 0.5) : QPointF(width * 0.5, height * 0.46);
+    viewCentre = isLandscape ? QPointF(width * 0.38, height * 0.54) : QPointF(width * 0.5, height * 0.5);
 }
 
 QRectF SheetLayout::ViewFrame() const

@@ -27,7 +27,7 @@ QPointF SheetMarkers::HandleAt(const QPolygonF& frame)
 void SheetMarkers::PaintHandle(QPainter& painter, const QPolygonF& frame, HandleState state) const
 {
     const QPointF at = HandleAt(frame);
-    painter.setPen(QPen(Marked(), 1.6));
+    painter.setPen(QPen(MarkedOnSheet(), 1.6));
     painter.setBrush(Qt::NoBrush);
     painter.drawPolygon(frame);
     painter.drawLine(TopMiddle(frame), at);
@@ -48,9 +48,9 @@ void SheetMarkers::PaintTurn(QPainter& painter, QPointF centre, QPointF handle, 
     const double radius = QLineF(centre, handle).length() * 0.5;
     const QRectF box(centre.x() - radius, centre.y() - radius, 2.0 * radius, 2.0 * radius);
     const double shown = angle > 180.0 ? angle - 360.0 : angle;
-    QColor fill = Marked();
+    QColor fill = MarkedOnSheet();
     fill.setAlphaF(0.16F);
-    painter.setPen(QPen(Marked(), 1.2));
+    painter.setPen(QPen(MarkedOnSheet(), 1.2));
     painter.setBrush(fill);
     painter.drawPie(box, 90 * 16, static_cast<int>(shown * 16.0));
 }
@@ -73,11 +73,11 @@ void SheetMarkers::PaintAngle(QPainter& painter, QPointF handle, const QRectF& a
     painter.drawText(bubble, Qt::AlignCenter, angle);
 }
 
-void SheetMarkers::PaintCross(QPainter& painter, QPointF at, const SheetColours& sheet, bool isSnapped) const
+void SheetMarkers::PaintCross(QPainter& painter, QPointF at, bool isSnapped) const
 {
     constexpr double kArm = 13.0, kGap = 4.0;
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(sheet.Accent(QColor(0xd0, 0x40, 0x00)), 1.4));
+    painter.setPen(QPen(_sheet.Accent(QColor(0xd0, 0x40, 0x00)), 1.4));
     for (const QPointF& along :
          {QPointF(1.0, 0.0), QPointF(-1.0, 0.0), QPointF(0.0, 1.0), QPointF(0.0, -1.0)})
         painter.drawLine(at + along * kGap, at + along * kArm);

@@ -14,7 +14,9 @@ class QPainter;
 // the cross-hairs of the cursor.
 class SheetMarkers {
 public:
-    SheetMarkers(const QPalette& palette, const QFont& font) : _palette(palette), _font(font) {}
+    SheetMarkers(const QPalette& palette, const QFont& font, const SheetColours& sheet)
+        : _palette(palette), _font(font), _sheet(sheet)
+    {}
 
     // The middle of the handle beside a view's frame, which is given from its lower left corner
     // anticlockwise.
@@ -27,11 +29,14 @@ public:
     void PaintAngle(QPainter& painter, QPointF handle, const QRectF& area, const QString& angle) const;
     void PaintTurn(QPainter& painter, QPointF centre, QPointF handle, double angle) const;
     // A square around the middle says that the place is a grid point.
-    void PaintCross(QPainter& painter, QPointF at, const SheetColours& sheet, bool isSnapped) const;
+    void PaintCross(QPainter& painter, QPointF at, bool isSnapped) const;
 
 private:
     QColor Marked() const { return _palette.color(QPalette::Highlight); }
+    // The same where it has to stand out from the sheet.
+    QColor MarkedOnSheet() const { return _sheet.Accent(Marked()); }
 
     QPalette _palette;
     QFont _font;
+    SheetColours _sheet;
 };

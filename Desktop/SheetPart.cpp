@@ -2,12 +2,18 @@
 
 namespace {
 
-constexpr double kFoot = -50.0;                                           // the underside
-constexpr double kTop = kFoot + SheetPart::kBase;                         // of the base plate
-constexpr double kAxis = kFoot + SheetPart::kHeight - SheetPart::kRadius; // of the bore
+constexpr double kFoot = SheetPart::kRadius - SheetPart::kHeight; // the underside
+constexpr double kTop = kFoot + SheetPart::kBase;                 // of the base plate
+constexpr double kAxis = 0.0;                                     // of the bore
 constexpr double kHalf = SheetPart::kLength / 2.0;
 constexpr double kFillet = 8.0, kCorner = 6.0;
 constexpr double kBolt = 54.0, kBoltRadius = 5.5; // the two holes in the base
+
+constexpr double kDiagonal = 0.70710678118654752;
+constexpr double kOuter = SheetPart::kRadius * kDiagonal; // where the leaders touch the body and the bore
+constexpr double kInner = SheetPart::kBore / 2.0 * kDiagonal;
+constexpr double kLeader = 12.0, kShoulder = 30.0;
+constexpr double kDimension = kFoot - 14.0; // the line of the length
 
 QRectF Around(double x, double y, double radius)
 {
@@ -77,28 +83,31 @@ QPainterPath SheetPart::CentreLines()
 QPainterPath SheetPart::DimensionLines()
 {
     QPainterPath path;
-    const double line = kFoot - 14.0;
-    for (const double end : {-kHalf, kHalf}) AddLine(path, end, kFoot - 1.5, end, line - 3.0);
-    AddLine(path, -kHalf, line, kHalf, line);
-    AddArrow(path, -kHalf, line, -1.0, 0.0);
-    AddArrow(path, kHalf, line, 1.0, 0.0);
+    for (const double end : {-kHalf, kHalf}) AddLine(path, end, kFoot - 1.5, end, kDimension - 3.0);
+    AddLine(path, -kHalf, kDimension, kHalf, kDimension);
+    // The radius of the body and the diameter of the bore, each on a leader with a shoulder for its text.
+    AddLine(path, kOuter, kAxis + kOuter, kOuter + kLeader, kAxis + kOuter + kLeader);
+    path.lineTo(kOuter + kLeader + kShoulder, kAxis + kOuter + kLeader);
+    AddLine(path, -kInner, kAxis + kInner, -kOuter - kLeader, kAxis + kOuter + kLeader);
+    path.lineTo(-kOuter - kLeader - kShoulder, kAxis + kOuter + kLeader);
+    return path;
+}
 
-    // The radius of the body and the diameter of the bore, each on a leader.
-    const double diagonal = 0.70710678118654752;
-    const double outer = kRadius * diagonal, inner = kBore / 2.0 * diagonal;
-    AddLine(path, outer, kAxis + outer, outer + 13.0, kAxis + outer + 13.0);
-    path.lineTo(outer + 35.0, kAxis + outer + 13.0);
-    AddArrow(path, outer, kAxis + outer, -diagonal, -diagonal);
-    AddLine(path, -inner, kAxis + inner, -outer - 13.0, kAxis + outer + 13.0);
-    path.lineTo(-outer - 35.0, kAxis + outer + 13.0);
-    AddArrow(path, -inner, kAxis + inner, diagonal, -diagonal);
+QPainterPath SheetPart::Arrows()
+{
+    QPainterPath path;
+    AddArrow(path, -kHalf, kDimension, -1.0, 0.0);
+    AddArrow(path, kHalf, kDimension, 1.0, 0.0);
+    AddArrow(path, kOuter, kAxis + kOuter, -kDiagonal, -kDiagonal);
+    AddArrow(path, -kInner, kAxis + kInner, kDiagonal, -kDiagonal);
     return path;
 }
 
 std::array<SheetPart::Dimension, 3> SheetPart::Dimensions()
 {
-    const double shoulder = kAxis + kRadius * 0.70710678118654752 + 14.5;
-    return {Dimension{Dimension::Kind::Length, kLength, {0.0, kFoot - 12.5}},
-            Dimension{Dimension::Kind::Radius, kRadius, {49.0, shoulder}},
-            Dimension{Dimension::Kind::Diameter, kBore, {-49.0, shoulder}}};
+    const double shoulder = kAxis + kOuter + kLeader + 1.5;
+    const double middle = kOuter + kLeader + kShoulder / 2.0;
+    return {Dimension{Dimension::Kind::Length, kLength, {0.0, kDimension + 1.5}},
+            Dimension{Dimension::Kind::Radius, kRadius, {middle, shoulder}},
+            Dimension{Dimension::Kind::Diameter, kBore, {-middle, shoulder}}};
 }

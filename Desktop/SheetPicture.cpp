@@ -60,7 +60,7 @@ void SheetPicture::PaintSurface(QPainter& painter, const QRectF& sheet, const Sh
         painter.drawRoundedRect(window.adjusted(-ring, -ring, ring, ring).translated(0.0, 2.0), ring, ring);
     }
     painter.fillRect(window, colours.Surface(window.top(), window.bottom()));
-    painter.setPen(Pen(colours.Shade(0.45)));
+    painter.setPen(Pen(colours.Veil(0.45)));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(window);
 }
@@ -86,9 +86,13 @@ void SheetPicture::PaintGrid(QPainter& painter, const QRectF& part, const SheetC
         const double y = crisp(_camera.ToWindow({0.0, line.at}).y());
         (line.primary ? primary : graduations).emplace_back(window.left(), y, window.right(), y);
     }
-    painter.setPen(Pen(colours.Shade(0.11)));
+    // Lines fade as they come closer, or a dense grid would drown the drawing.
+    const double closest = std::min(_style.spacingH > 0.0 ? _style.spacingH : 1.0e9,
+                                    _style.spacingV > 0.0 ? _style.spacingV : 1.0e9);
+    const double strength = 0.28 * std::clamp(closest * _camera.PixelsPerMm() / 14.0, 0.35, 1.0);
+    painter.setPen(Pen(colours.Veil(0.11)));
     painter.drawLines(graduations.data(), static_cast<int>(graduations.size()));
-    painter.setPen(Pen(colours.Shade(0.30)));
+    painter.setPen(Pen(colours.Veil(strength)));
     painter.drawLines(primary.data(), static_cast<int>(primary.size()));
 }
 
@@ -100,7 +104,8 @@ void SheetPicture::PaintBorder(QPainter& painter) const
     painter.drawRect(ToWindow(_layout.border));
 
     const QRectF block = _layout.titleBlock;
-    painter.setBrush(_colours.Sheet());
+    const QRectF sheet = ToWindow(QRectF(QPointF(0.0, 0.0), _camera.Sheet()));
+    painter.setBrush(_colours.Surface(sheet.top(), sheet.bottom()));
     painter.drawRect(ToWindow(block));
     painter.setPen(Pen(line));
     const double middle = block.top() + block.height() / 2.0;
@@ -135,7 +140,7 @@ void SheetPicture::PaintView(QPainter& painter) const
     painter.save();
     painter.setClipRect(ToWindow(QRectF(QPointF(0.0, 0.0), _camera.Sheet())));
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(Pen(_colours.Shade(0.4), 1.0, Qt::DashLine));
+    painter.setPen(Pen(_colours.Veil(0.4), 1.0, Qt::DashLine));
     painter.drawPolygon(ViewFrame());
     PaintPart(painter, PartTransform(), Thick(), _colours);
     PaintDimensions(painter);
@@ -149,7 +154,7 @@ void SheetPicture::PaintPart(QPainter& painter, const QTransform& toWindow, doub
     painter.setBrush(Qt::NoBrush);
     painter.setPen(CentrePen(colours.Accent(QColor(0x00, 0x60, 0xa8))));
     painter.drawPath(toWindow.map(SheetPart::CentreLines()));
-    painter.setPen(Pen(colours.Shade(0.8), 1.0, Qt::DashLine));
+    painter.setPen(Pen(colours.Veil(0.85), 1.0, Qt::DashLine));
     painter.drawPath(toWindow.map(SheetPart::Hidden()));
     painter.setPen(Pen(colours.Ink(), scale));
     painter.drawPath(toWindow.map(SheetPart::Visible()));
@@ -160,9 +165,9 @@ void SheetPicture::PaintDimensions(QPainter& painter) const
     const QTransform toWindow = PartTransform();
     const QColor line = _colours.Accent(QColor(0x50, 0x50, 0x58));
     painter.setPen(Pen(line));
-    painter.setBrush(line);
-    painter.drawPath(toWindow.map(SheetPart::DimensionLines()));
     painter.setBrush(Qt::NoBrush);
+    painter.drawPath(toWindow.map(SheetPart::DimensionLines()));
+    painter.fillPath(toWindow.map(SheetPart::Arrows()), line);
     for (const SheetPart::Dimension& dimension : SheetPart::Dimensions()) {
         const char* const form = dimension.kind == SheetPart::Dimension::Kind::Length   ? "DimensionLength"
                                  : dimension.kind == SheetPart::Dimension::Kind::Radius ? "DimensionRadius"
@@ -218,6 +223,7 @@ void SheetPicture::PaintAxis(QPainter& painter) const
         painter.setBrush(colour);
         painter.setPen(Qt::NoPen);
         painter.drawPolygon(QPolygonF({tip, back + side, back - side}));
+        if (length < 2.0 * text) continue; // no room for letters
         painter.setPen(colour);
         const QPointF place = tip + arm.along * text * 0.8;
         painter.drawText(QRectF(place - QPointF(text, text), QSizeF(2.0 * text, 2.0 * text)), Qt::AlignCenter,
@@ -253,7 +259,7 @@ void SheetPicture::PaintDetail(QPainter& painter) const
     QPainterPath round;
     round.addEllipse(centre, radius, radius);
     const QPainterPath shown = _camera.Transform().map(round);
-    painter.setPen(Pen(_detailColours.Shade(0.6)));
+    painter.setPen(Pen(_detailColours.Veil(0.6)));
     painter.drawPath(shown);
     painter.setPen(_detailColours.Ink());
     PaintText(painter, _camera.ToWindow(QPointF(sheet.center().x(), sheet.top() + 3.0 * _layout.viewScale)),

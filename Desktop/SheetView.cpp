@@ -180,7 +180,7 @@ void SheetView::paintEvent(QPaintEvent*)
 void SheetView::PaintOverlay(QPainter& painter) const
 {
     const SheetPicture picture(Style(), _camera, _rotation, _format);
-    const SheetMarkers markers(palette(), font());
+    const SheetMarkers markers(palette(), font(), SheetColours(Style().sheet, Style().sheetGraduated));
     if (_selected) {
         using State = SheetMarkers::HandleState;
         const bool isHot = _cursor && IsOnHandle(*_cursor);
@@ -194,9 +194,8 @@ void SheetView::PaintOverlay(QPainter& painter) const
     }
     if (_hand != Hand::Free || _spaceHeld) return;
     if (const std::optional<QPointF> place = SnappedPlace())
-        markers.PaintCross(painter, _camera.ToWindow(*place),
-                           SheetColours(Style().sheet, Style().sheetGraduated), Style().snapsToGrid);
-    if (hasFocus()) {
+        markers.PaintCross(painter, _camera.ToWindow(*place), Style().snapsToGrid);
+    if (hasFocus() && _showsFocus) {
         painter.setRenderHint(QPainter::Antialiasing, false);
         painter.setPen(palette().color(QPalette::Highlight));
         painter.setBrush(Qt::NoBrush);

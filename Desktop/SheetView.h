@@ -87,6 +87,7 @@ private:
     QString _format;
     double _rotation = 0.0;
     bool _selected = true;
+    bool _showsFocus = false; // for those who move by the keyboard
 
     Hand _hand = Hand::Free;
     bool _spaceHeld = false;

@@ -159,6 +159,7 @@ void SheetView::keyReleaseEvent(QKeyEvent* event)
 void SheetView::focusInEvent(QFocusEvent* event)
 {
     QWidget::focusInEvent(event);
+    _showsFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
     update();
 }
 
