@@ -16,7 +16,8 @@ public:
     virtual HRESULT GetPreventSetAsDefault(unsigned char& prevented) = 0;
     virtual HRESULT GetPreventBackgroundAccess(unsigned char& prevented) = 0;
 
-    template <class Implementation> class Forwarder : public KivTie<KivIDrwDraftingSettingAtt, Implementation> {
+    template <class Implementation> class Forwarder
+        : public KivTie<KivIDrwDraftingSettingAtt, Implementation> {
     public:
         using KivTie<KivIDrwDraftingSettingAtt, Implementation>::KivTie;
         HRESULT GetLockUserDefault(unsigned char& locked) override

@@ -11,7 +11,10 @@
 
 namespace {
 
-const KivHandAnswer kDone{true, {}};
+KivHandAnswer Done()
+{
+    return {true, {}};
+}
 
 KivHandAnswer Refused(const KivUnicodeString& why)
 {
@@ -24,13 +27,13 @@ KivHandAnswer Reach(const KivDialog& control)
     if (control.IsCondemned() || !control.IsShown())
         return Refused(KivTextCatalogue::FrameworkText("HandNotShown"));
     if (!control.IsEnabled()) return Refused(control.WhyDisabled());
-    return kDone;
+    return Done();
 }
 
 KivHandAnswer Enter(KivDlgSpinner& spinner, double value)
 {
     if (value != spinner.GetValue()) spinner.SetValue(value, 1);
-    return kDone;
+    return Done();
 }
 
 } // namespace
@@ -49,7 +52,7 @@ KivHandAnswer KivUserHand::Choose(KivDlgCombo& combo, int line)
     if (line < 0 || line >= combo.GetLineCount())
         return Refused(KivTextCatalogue::FrameworkText("HandNoSuchLine"));
     if (line != combo.GetSelect()) combo.SetSelect(line, 1);
-    return kDone;
+    return Done();
 }
 
 KivHandAnswer KivUserHand::ChooseColour(KivComboColor& combo, unsigned int red, unsigned int green,
@@ -61,10 +64,10 @@ KivHandAnswer KivUserHand::ChooseColour(KivComboColor& combo, unsigned int red, 
         return Refused(KivTextCatalogue::FrameworkText("HandNoSuchLine"));
     KivColour before;
     combo.GetSelectedColor(&before.red, &before.green, &before.blue);
-    if (before == KivColour{red, green, blue}) return kDone;
+    if (before == KivColour{red, green, blue}) return Done();
     combo.SetSelectedColor(red, green, blue);
     combo.SetSelect(combo.GetSelect(), 1);
-    return kDone;
+    return Done();
 }
 
 KivHandAnswer KivUserHand::Type(KivDlgEditor& editor, const KivUnicodeString& text)
@@ -79,7 +82,7 @@ KivHandAnswer KivUserHand::Type(KivDlgSpinner& spinner, const KivUnicodeString& 
     const KivHandAnswer reach = Reach(spinner);
     if (!reach) return reach;
     // The shown text rounds: committing it untouched must not change the value behind it.
-    if (text == spinner.Print(spinner.GetValue())) return kDone;
+    if (text == spinner.Print(spinner.GetValue())) return Done();
     double value = 0.0;
     if (!spinner.Read(text, value))
         return Refused("“" + text + "” " + KivTextCatalogue::FrameworkText("HandMeansNothing"));

@@ -20,14 +20,8 @@ public:
     template <class Implementation> class Forwarder : public KivTie<KivIASettingController, Implementation> {
     public:
         using KivTie<KivIASettingController, Implementation>::KivTie;
-        HRESULT SaveRepository() override
-        {
-            return this->Impl() ? this->Impl()->SaveRepository() : E_FAIL;
-        }
-        HRESULT Rollback() override
-        {
-            return this->Impl() ? this->Impl()->Rollback() : E_FAIL;
-        }
+        HRESULT SaveRepository() override { return this->Impl() ? this->Impl()->SaveRepository() : E_FAIL; }
+        HRESULT Rollback() override { return this->Impl() ? this->Impl()->Rollback() : E_FAIL; }
         HRESULT ResetToAdminValuesByName(const KivVariant& names) override
         {
             return this->Impl() ? this->Impl()->ResetToAdminValuesByName(names) : E_FAIL;

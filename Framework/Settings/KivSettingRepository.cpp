@@ -35,8 +35,14 @@ bool IsName(std::string_view name)
 } // namespace
 
 KivSettingRepository::KivSettingRepository(std::string_view name, const KivUnicodeString& editedLayer)
-    : _name(name), _store(std::make_unique<KivSettingStore>(name, editedLayer))
+    : _name(name), _editedLayer(editedLayer)
 {}
+
+KivSettingStore& KivSettingRepository::Store() const
+{
+    if (!_store) _store = std::make_unique<KivSettingStore>(_name.View(), _editedLayer);
+    return *_store;
+}
 
 KivSettingRepository::~KivSettingRepository() = default;
 
@@ -45,8 +51,8 @@ KivSettingRepository* KivSettingRepository::GetRepository(const char* name, int,
     Registry& registry = TheRegistry();
     if (!name || registry.isWithheld || !IsName(name)) return nullptr;
     const auto [place, isNew] = registry.repositories.try_emplace({KivString(name), registry.editedLayer});
-    // Null is met by a diagnostic sink that asks for the very repository whose opening it is told about.
     if (isNew) place->second.reset(new KivSettingRepository(name, registry.editedLayer));
+    place->second->Store();
     return place->second.get();
 }
 
@@ -58,7 +64,7 @@ void KivSettingRepository::SetEditedLayer(const KivUnicodeString& directory)
 
 void KivSettingRepository::ForgetAll()
 {
-    TheRegistry().repositories.clear();
+    for (const auto& [key, repository] : TheRegistry().repositories) repository->_store.reset();
 }
 
 void KivSettingRepository::Withhold(bool withheld)
@@ -68,7 +74,7 @@ void KivSettingRepository::Withhold(bool withheld)
 
 template <class T> HRESULT KivSettingRepository::Read(const char* key, T* value, long count) const
 {
-    const KivSettingAttribute* attribute = _store->Find(key);
+    const KivSettingAttribute* attribute = Store().Find(key);
     if (!attribute || !value || count != 1) return E_FAIL;
     const T* const shown = std::get_if<T>(&attribute->Shown());
     if (!shown) return E_FAIL;
@@ -80,7 +86,7 @@ template <class T>
 HRESULT KivSettingRepository::Write(const char* key, const T* value, long count, int reserved)
 {
     if (!key || !value || count != 1 || reserved != 0) return E_FAIL;
-    return _store->Write(key, *value) ? S_OK : E_FAIL;
+    return Store().Write(key, *value) ? S_OK : E_FAIL;
 }
 
 HRESULT KivSettingRepository::ReadSetting(const char* key, int* value, long count) const
@@ -133,9 +139,9 @@ HRESULT KivSettingRepository::GetInfo(const char* key, KivSettingInfo* info, int
     *info = {};
     info->repository = _name;
     info->key = key;
-    const KivSettingAttribute* attribute = _store->Find(key);
+    const KivSettingAttribute* attribute = Store().Find(key);
     if (!attribute) return E_FAIL;
-    _store->Describe(*attribute, *info);
+    Store().Describe(*attribute, *info);
     const bool isKnown = info->origin != KivSettingInfo::Origin::None || info->locked || info->lockedHere;
     return isKnown ? S_OK : E_FAIL;
 }
@@ -144,36 +150,36 @@ HRESULT KivSettingRepository::NextAttribute(char* name, char* type, long* count,
 {
     constexpr std::size_t bufferSize = 256;
     if (restart) {
-        _store->nextAttribute = 0;
-        _store->hasDeliveredNameless = false;
+        Store().nextAttribute = 0;
+        Store().hasDeliveredNameless = false;
     }
     const auto deliver = [&](const char* itsName, const char* itsType) {
         if (name) std::snprintf(name, bufferSize, "%s", itsName);
         if (type) std::snprintf(type, bufferSize, "%s", itsType);
         if (count) *count = 1;
-        _store->hasDeliveredNameless = true; // it stands in for an empty repository alone
+        Store().hasDeliveredNameless = true; // it stands in for an empty repository alone
         return S_OK;
     };
-    const KivSettingTable& table = _store->Table();
-    while (_store->nextAttribute < table.Size()) {
-        const KivSettingAttribute& attribute = table[_store->nextAttribute++];
+    const KivSettingTable& table = Store().Table();
+    while (Store().nextAttribute < table.Size()) {
+        const KivSettingAttribute& attribute = table[Store().nextAttribute++];
         if (!KivHasValue(attribute.Shown())) continue;
         return deliver(std::string(attribute.key).c_str(), KivSettingTypeName(attribute.Shown()));
     }
-    if (_store->IsProtected() && !_store->hasDeliveredNameless) return deliver("", "");
+    if (Store().IsProtected() && !Store().hasDeliveredNameless) return deliver("", "");
     return E_FAIL;
 }
 
 HRESULT KivSettingRepository::Commit(int notify)
 {
-    const Keys changed = _store->Commit();
-    if (notify) _store->listeners.Tell(changed);
+    const Keys changed = Store().Commit();
+    if (notify) Store().listeners.Tell(changed);
     return S_OK;
 }
 
 HRESULT KivSettingRepository::Rollback()
 {
-    _store->listeners.Tell(_store->Rollback());
+    Store().listeners.Tell(Store().Rollback());
     return S_OK;
 }
 
@@ -182,65 +188,65 @@ HRESULT KivSettingRepository::SaveRepository(const char* path)
     if (path) {
         KivReport(
             {KivDiagnostic::Severity::Error, "a repository is saved to its own file alone", path, 0, {}});
-        _store->receipt = Receipt::Refused;
+        Store().receipt = Receipt::Refused;
         return E_FAIL;
     }
     Receipt receipt = Receipt::Nothing;
-    const Keys changed = _store->Save(receipt);
-    _store->receipt = receipt;
-    _store->listeners.Tell(changed);
+    const Keys changed = Store().Save(receipt);
+    Store().receipt = receipt;
+    Store().listeners.Tell(changed);
     return receipt == Receipt::Refused ? E_FAIL : S_OK;
 }
 
 KivSettingRepository::Receipt KivSettingRepository::LastReceipt() const
 {
-    return _store->receipt;
+    return Store().receipt;
 }
 
 HRESULT KivSettingRepository::ResetToAdminValues(const char* const* keys, int count)
 {
     if (count < 0 || (count > 0 && !keys)) return E_FAIL;
     for (int i = 0; i < count; ++i) {
-        if (keys[i]) _store->DropOwn(keys[i]);
+        if (keys[i]) Store().DropOwn(keys[i]);
     }
     return S_OK;
 }
 
 KivSettingRepository::ListenerId KivSettingRepository::AddListener(Listener listener)
 {
-    return _store->listeners.Add(std::move(listener));
+    return Store().listeners.Add(std::move(listener));
 }
 
 void KivSettingRepository::RemoveListener(ListenerId listener)
 {
-    _store->listeners.Remove(listener);
+    Store().listeners.Remove(listener);
 }
 
 bool KivSettingRepository::IsProtected() const
 {
-    return _store->IsProtected();
+    return Store().IsProtected();
 }
 
 void KivSettingRepository::Refresh()
 {
-    _store->listeners.Tell(_store->Refresh());
+    Store().listeners.Tell(Store().Refresh());
 }
 
 HRESULT KivSettingRepository::SetLock(const char* key, bool locked)
 {
-    return key && _store->SetLock(key, locked) ? S_OK : E_FAIL;
+    return key && Store().SetLock(key, locked) ? S_OK : E_FAIL;
 }
 
 bool KivSettingRepository::IsAdministrator() const
 {
-    return _store->IsAdministrator();
+    return Store().IsAdministrator();
 }
 
 KivSettingRepository::InitialScope::InitialScope(KivSettingRepository& repository)
-    : _repository(repository), _before(std::exchange(repository._store->isInitial, true))
+    : _repository(repository), _before(std::exchange(repository.Store().isInitial, true))
 {}
 
 KivSettingRepository::InitialScope::~InitialScope()
 {
-    _repository._store->isInitial = _before;
+    _repository.Store().isInitial = _before;
 }

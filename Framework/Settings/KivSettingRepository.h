@@ -72,9 +72,9 @@ public:
     // Goes back to the state of the last commit; listeners are told which keys that changed.
     HRESULT Rollback();
 
-    // Makes the working state durable and the point to return to (also when it is refused: it stays on top),
-    // and tells listeners like Commit. S_OK unless the receipt is Refused. The path is the framework's and
-    // has to be null: the user's own file, or the layer opened for an administrator.
+    // Makes the working state durable and the point to return to, and tells listeners like Commit. When it is
+    // refused, a rollback still returns to the point before. S_OK unless the receipt is Refused. The path is
+    // the framework's and has to be null: the user's own file, or the layer opened for an administrator.
     HRESULT SaveRepository(const char* path);
     Receipt LastReceipt() const;
 
@@ -119,8 +119,8 @@ public:
     HRESULT SetLock(const char* key, bool locked);
     bool IsAdministrator() const;
 
-    // For tests and tools: forgets every repository of the process without saving, so that the next
-    // GetRepository reads the files anew. Pointers obtained before are dead.
+    // For tests and tools: every repository of the process forgets what it holds, without saving, and reads
+    // its files anew when it is next used. Listeners are forgotten too.
     static void ForgetAll();
 
     // For tests: while withheld, GetRepository answers null for every name, as in a framework that has no
@@ -137,6 +137,9 @@ private:
     template <class T> HRESULT Read(const char* key, T* value, long count) const;
     template <class T> HRESULT Write(const char* key, const T* value, long count, int reserved);
 
+    KivSettingStore& Store() const;
+
     KivString _name;
-    std::unique_ptr<KivSettingStore> _store;
+    KivUnicodeString _editedLayer;
+    mutable std::unique_ptr<KivSettingStore> _store; // opened on first use
 };

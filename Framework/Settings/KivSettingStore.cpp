@@ -227,12 +227,12 @@ KivSettingStore::Keys KivSettingStore::Save(Receipt& result)
     const Values shown = ShownAtCommit();
     const KivSettingOwnFile::Outcome outcome = _own.Save(changes);
     if (outcome == KivSettingOwnFile::Outcome::Refused) {
+        // No point to return to: whoever is told that his changes are not safe may still take them back.
         result = Receipt::Refused;
-    } else {
-        result = outcome == KivSettingOwnFile::Outcome::Durable ? Receipt::Durable : Receipt::Visible;
-        ForgetUnsaved();
+        return {};
     }
-    // A refused save is a point to return to as well: whoever asked for it wants to keep the changes.
+    result = outcome == KivSettingOwnFile::Outcome::Durable ? Receipt::Durable : Receipt::Visible;
+    ForgetUnsaved();
     ForgetUncommitted();
     TakeOwnFile();
     return ChangedSince(shown);

@@ -304,8 +304,10 @@ TEST_F(Saving, ARefusedSaveKeepsEverythingForTheNextOne)
     std::filesystem::remove(box.root / "user");
     std::filesystem::rename(box.root / "aside", box.root / "user");
 
-    repository.Rollback(); // the save was a point to return to
     EXPECT_EQ(box.Read(repository, "A", 0), 2);
+    repository.Rollback(); // a refused save is no point to return to
+    EXPECT_EQ(box.Read(repository, "A", 0), 1);
+    Put(repository, "A", 2);
     EXPECT_EQ(Save(repository), Receipt::Durable);
     EXPECT_EQ(box.Bytes(file), "int A = 2\n");
 

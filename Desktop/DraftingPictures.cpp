@@ -1,0 +1,72 @@
+#include "DraftingPictures.h"
+
+#include "DraftingText.h"
+#include "DraftingWindow.h"
+#include "NativeText.h"
+#include "OptionsWindow.h"
+#include "SheetView.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QImageWriter>
+#include <ostream>
+
+namespace {
+
+// A file name of a title: letters and digits, with a dash for what is between.
+QString FileName(const KivUnicodeString& title)
+{
+    QString name;
+    for (const QChar letter : ToQt(title).toLower()) {
+        if (letter.isLetterOrNumber())
+            name += letter;
+        else if (!name.isEmpty() && !name.endsWith('-'))
+            name += '-';
+    }
+    return name;
+}
+
+} // namespace
+
+DraftingPictures::DraftingPictures(const std::string& directory, std::ostream& out, std::ostream& err)
+    : _directory(QDir(QString::fromStdString(directory)).absolutePath()), _out(out), _err(err)
+{}
+
+bool DraftingPictures::Write(DraftingWindow& window, const KivUnicodeString& page)
+{
+    if (!QDir().mkpath(_directory)) {
+        _err << "kivdrafting: " << DraftingText("PicturesNoDirectory").arg(_directory).toStdString() << '\n';
+        return false;
+    }
+    window.show();
+    if (!Save(window, "drafting")) return false;
+
+    // Without a memory: pictures neither depend on how the user left the window nor change it.
+    OptionsWindow options(DraftingOptions::NewSession(), OptionsMemory(QString()));
+    options.show();
+    options.resize(980, 760);
+    const KivOptionsSession::Page* const only = page.IsEmpty() ? nullptr : options.Session()->FindPage(page);
+    bool isSaved = true;
+    for (const KivOptionsSession::Page& shown : options.Session()->Pages()) {
+        if (only && &shown != only) continue;
+        options.ShowPage(KivUnicodeString(shown.editor));
+        isSaved = isSaved && Save(options, "options-" + FileName(shown.title));
+    }
+    options.reject();
+    return isSaved;
+}
+
+bool DraftingPictures::Save(QWidget& window, const QString& name)
+{
+    // Layouts and late pages settle in events.
+    for (int i = 0; i < 3; ++i) QApplication::processEvents();
+    const QString file = _directory + "/" + name + ".png";
+    QImageWriter writer(file, "png");
+    if (!writer.write(window.grab().toImage())) {
+        _err << "kivdrafting: "
+             << DraftingText("PicturesNoFile").arg(file, writer.errorString()).toStdString() << '\n';
+        return false;
+    }
+    _out << file.toStdString() << '\n';
+    return true;
+}

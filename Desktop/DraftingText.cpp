@@ -1,0 +1,10 @@
+#include "DraftingText.h"
+
+#include "Dialog/KivTextCatalogue.h"
+#include "NativeText.h"
+
+QString DraftingText(const char* key)
+{
+    const KivUnicodeString text = KivTextCatalogue::Open("KivDrafting").Find(key);
+    return text.IsEmpty() ? QString::fromUtf8(key) : ToQt(text);
+}

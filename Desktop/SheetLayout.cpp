@@ -1,0 +1,35 @@
+#include "SheetLayout.h"
+
+#include "SheetPart.h"
+
+#include <algorithm>
+
+SheetLayout::SheetLayout(QSizeF sheet)
+{
+    const double width = sheet.width(), height = sheet.height();
+    const bool isLandscape = width > height;
+    const double margin = 10.0;
+    border = QRectF(margin, margin, width - 2.0 * margin, height - 2.0 * margin);
+
+    // How large the sheet is beside an A3 one, for which the pieces are measured.
+    const double size = std::min(std::max(width, height) / 420.0, std::min(width, height) / 297.0);
+    viewScale = size > 1.85 ? 2.0 : size > 0.9 ? 1.0 : 0.5;
+
+    const QSizeF block = QSizeF(132.0, 32.0) * std::clamp(size, 0.7, 1.6);
+    titleBlock = QRectF(QPointF(border.right() - block.width(), border.top()), block);
+
+    const double detailWidth = width * (isLandscape ? 0.27 : 0.36);
+    const QSizeF detailSize(detailWidth, detailWidth * 0.66);
+    const double gap = 6.0;
+    detail = QRectF(
+        QPointF(border.right() - gap - detailSize.width(), border.bottom() - gap - detailSize.height()),
+        detailSize);
+
+    viewCentre = isLandscape ? QPointF(width * 0.38, height * 0.54) : QPointF(width * 0.5, height * 0.5);
+}
+
+QRectF SheetLayout::ViewFrame() const
+{
+    const QRectF part = SheetPart::Extent();
+    return {part.topLeft() * viewScale, part.size() * viewScale};
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+
+// Where the sample drawing has its pieces on a sheet: everything in mm of paper, y up.
+struct SheetLayout {
+    explicit SheetLayout(QSizeF sheet);
+
+    QRectF border; // the frame inside the edge of the sheet
+    QRectF titleBlock;
+    QRectF detail;      // the small detail sheet
+    QPointF viewCentre; // the origin of the sample view
+    double viewScale;   // of paper to part: 0.5, 1 or 2
+
+    // The frame of the sample view around its centre, before it is turned.
+    QRectF ViewFrame() const;
+};

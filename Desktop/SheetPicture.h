@@ -1,0 +1,53 @@
+#pragma once
+
+#include "SheetCamera.h"
+#include "SheetColours.h"
+#include "SheetLayout.h"
+#include "SheetStyle.h"
+
+#include <QPolygonF>
+#include <QString>
+
+class QPainter;
+
+// Draws a sheet and what is on it, as a camera sees it: surface, grid, sample view, detail sheet, title
+// block.
+class SheetPicture {
+public:
+    SheetPicture(const SheetStyle& style, const SheetCamera& camera, double rotation, const QString& format);
+
+    // Into the window's coordinates.
+    void Paint(QPainter& painter) const;
+
+    // Places of the sample view in the window.
+    QPolygonF ViewFrame() const;
+    QPointF ViewCentre() const;
+
+private:
+    void PaintSurface(QPainter& painter, const QRectF& sheet, const SheetColours& colours) const;
+    void PaintGrid(QPainter& painter, const QRectF& part, const SheetColours& colours) const;
+    void PaintBorder(QPainter& painter) const;
+    void PaintView(QPainter& painter) const;
+    void PaintPart(QPainter& painter, const QTransform& toWindow, double scale,
+                   const SheetColours& colours) const;
+    void PaintDimensions(QPainter& painter) const;
+    void PaintAxis(QPainter& painter) const;
+    void PaintDetail(QPainter& painter) const;
+    // A text around or beside a place in the window, so many mm of paper high and turned by an angle. Texts
+    // too small to be read are left out.
+    void PaintText(QPainter& painter, QPointF at, double height, double angle, Qt::Alignment alignment,
+                   const QString& text) const;
+
+    // From the part's own mm around its origin to the window.
+    QTransform PartTransform() const;
+    QRectF ToWindow(const QRectF& paper) const;
+    QRectF VisiblePaper(const QRectF& paper) const;
+    double Thick() const;
+
+    const SheetStyle& _style;
+    const SheetCamera& _camera;
+    double _rotation;
+    QString _format;
+    SheetLayout _layout;
+    SheetColours _colours, _detailColours;
+};

@@ -1,0 +1,190 @@
+#include "KivDrwCatalogue.h"
+#include "KivDrwOptionsServices.h"
+#include "KivDrwRepository.h"
+#include "KivDrwSettingAccess.h"
+#include "KivDrwSketcherSettings.h"
+#include "Support/KivSettingsSandbox.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string Written(const KivDrwValue& value)
+{
+    std::ostringstream text;
+    struct {
+        std::ostringstream& out;
+        void operator()(int v) const { out << "int " << v; }
+        void operator()(unsigned int v) const { out << "unsigned int " << v; }
+        void operator()(float v) const { out << "float " << v; }
+        void operator()(double v) const { out << "double " << v; }
+        void operator()(const KivUnicodeString& v) const { out << "string " << v.View(); }
+    } write{text};
+    std::visit(write, value);
+    return text.str();
+}
+
+TEST(Catalogue, IsTheOneThatExistingFilesWereWrittenWith)
+{
+    std::ifstream kept(KIV_TEST_DATA "/Catalogue.txt");
+    std::string line;
+    for (const KivDrwRow& row : KivDrwCatalogue::Rows()) {
+        std::getline(kept, line);
+        if (std::string_view(row.key) == "DrwFrameAndTitleBlockPath") {
+            EXPECT_EQ(line, "DrwFrameAndTitleBlockPath string computed");
+        } else {
+            EXPECT_EQ(line, row.key + (" " + Written(row.makeDefault())));
+        }
+    }
+    EXPECT_FALSE(std::getline(kept, line)) << line;
+}
+
+TEST(Catalogue, GroupsHaveTheirSizesAndResetKeys)
+{
+    const std::size_t sizes[] = {24, 11, 38, 8, 31, 61, 16, 12, 6, 11};
+    const std::size_t onPage[] = {24, 10, 37, 8, 31, 61, 16, 12, 6, 11};
+    std::size_t all = 0;
+    for (const KivDrwGroup group : KivDrwCatalogue::Groups()) {
+        const auto index = static_cast<std::size_t>(group);
+        const auto rows = KivDrwCatalogue::Rows(group);
+        EXPECT_EQ(rows.size(), sizes[index]) << KivDrwCatalogue::NameOf(group);
+        std::size_t edited = 0;
+        for (const KivDrwRow& row : rows) {
+            edited += row.onPage;
+            EXPECT_EQ(KivDrwCatalogue::Find(row.key), &row) << "a key that stands twice";
+        }
+        EXPECT_EQ(edited, onPage[index]);
+        all += rows.size();
+    }
+    EXPECT_EQ(all, 218U);
+    EXPECT_EQ(KivDrwCatalogue::Find("DrwExplodeSymbol"), nullptr);
+}
+
+class FirstStart : public testing::Test {
+protected:
+    KivSettingsSandbox box;
+    std::filesystem::path file = box.File("user");
+
+    int Attributes()
+    {
+        int attributes = 0;
+        char name[256], type[256];
+        long count = 0;
+        for (int restart = 1; KivDrwRepository()->NextAttribute(name, type, &count, restart) == S_OK;
+             restart = 0)
+            ++attributes;
+        return attributes;
+    }
+};
+
+TEST_F(FirstStart, PutsEveryKeyOnDiskAndTheSecondChangesNothing)
+{
+    KivDrwOptionsServices::InitOptionsOnDisk();
+    EXPECT_EQ(Attributes(), 218);
+    KivSettingRepository::ForgetAll();
+    for (const KivDrwRow& row : KivDrwCatalogue::Rows()) {
+        KivDrwValue stored = row.makeDefault();
+        std::visit(
+            [&](auto& value) {
+                const auto expected = value;
+                value = {};
+                ASSERT_EQ(KivDrwRepository()->ReadSetting(row.key, &value, 1), S_OK) << row.key;
+                // Deliberate: this one receives the level of detail.
+                const bool special = std::string_view(row.key) == "KivDrwQmtAnnotLay";
+                EXPECT_TRUE(special || value == expected) << row.key;
+            },
+            stored);
+    }
+
+    EXPECT_EQ(KivDrwRead(KivDrwRepository(), KivDrwKeys::KivDrwQmtAnnotLay), 4);
+
+    const std::string bytes = box.Bytes(file);
+    const auto time = std::filesystem::last_write_time(file);
+    KivSettingRepository::ForgetAll();
+    KivSketcherSettings::SetSketcherSettings(nullptr);
+    KivDrwOptionsServices::InitOptionsOnDisk();
+    EXPECT_EQ(box.Bytes(file), bytes);
+    EXPECT_EQ(std::filesystem::last_write_time(file), time);
+    EXPECT_EQ(KivSketcherSettings::GetSketcherSettings(), KivDrwSketcherSettings::GetSketcherSettings());
+    EXPECT_TRUE(box.diagnostics.empty());
+}
+
+TEST_F(FirstStart, KeepsWhatThereIsAndGathersWithoutWriting)
+{
+    box.Write(file, "int Ruler = 1\n");
+    EXPECT_EQ(ResetAndWriteSettings(0), 1);
+    EXPECT_EQ(Attributes(), 1);
+    EXPECT_EQ(ResetAndWriteSettings(1), 1);
+    EXPECT_EQ(Attributes(), 218);
+    int ruler = 0;
+    KivDrwRepository()->ReadSetting("Ruler", &ruler, 1);
+    EXPECT_EQ(ruler, 1);
+    EXPECT_EQ(box.Bytes(file), "int Ruler = 1\n") << "only its caller saves";
+
+    KivSettingRepository::Withhold(true);
+    EXPECT_EQ(ResetAndWriteSettings(1), 0);
+}
+
+TEST_F(FirstStart, YieldsToASiteDefaultThatComesLater)
+{
+    KivDrwOptionsServices::InitOptionsOnDisk();
+    box.NameLayers({"site"});
+    box.Write(box.File("site"), "int Ruler = 1\n");
+    KivSettingRepository::ForgetAll();
+    EXPECT_EQ(KivDrwRead(KivDrwRepository(), KivDrwKeys::Ruler), 1);
+}
+
+TEST_F(FirstStart, WritesNothingOverAFileThatCannotBeRead)
+{
+    std::filesystem::create_directories(file);
+    KivDrwOptionsServices::InitOptionsOnDisk();
+    EXPECT_TRUE(std::filesystem::is_directory(file));
+    EXPECT_EQ(KivDrwRead(KivDrwRepository(), KivDrwKeys::Drw_settings_GridSecondaryStep), 10);
+    EXPECT_FALSE(box.diagnostics.empty());
+}
+
+TEST(ComputedDefaults, TitleBlocksComeFromTheFirstInstallationThatHasThem)
+{
+    KivSettingsSandbox box;
+    const std::string a = (box.root / "a").string(), b = (box.root / "b").string();
+    const std::string tail = "/VBScript/FrameTitleBlock";
+    box.SetVariable("KivInstallPath", a + ":" + b);
+    EXPECT_EQ(DefaultFrameAndTitleBlockPath(), (b + tail).c_str());
+    std::filesystem::create_directories(a + tail);
+    EXPECT_EQ(DefaultFrameAndTitleBlockPath(), (a + tail).c_str());
+    box.SetVariable("KivInstallPath", "");
+    EXPECT_TRUE(DefaultFrameAndTitleBlockPath().IsEmpty());
+}
+
+TEST(ComputedDefaults, StyleFilesAreFoundOnceAndSorted)
+{
+    KivSettingsSandbox box;
+    const auto s1 = box.root / "s1", s2 = box.root / "s2", s3 = box.root / "s3";
+    box.SetVariable("KivCollectionStandard", s1.string() + "::" + s2.string());
+    box.SetVariable("KivDefaultCollectionStandard", s3.string());
+    KivListOfUnicodeString list;
+    list.Append("kept");
+    EXPECT_EQ(GetGPSPath(list), S_OK);
+    ASSERT_EQ(list.Size(), 4);
+    EXPECT_EQ(list[2], (s1 / "generativeparameters").c_str());
+    EXPECT_EQ(list[4], (s3 / "generativeparameters").c_str());
+
+    for (const char* name : {"Style.XML", "a.xml", "notes.txt", "xml", ".xm"})
+        box.Write(s1 / "generativeparameters" / name, "");
+    for (const char* name : {"a.xml", "b.Xml"}) box.Write(s3 / "generativeparameters" / name, "");
+    EXPECT_EQ(GetGPSList(list), S_OK);
+    ASSERT_EQ(list.Size(), 3);
+    EXPECT_EQ(list[1], "Style.XML");
+    EXPECT_EQ(list[2], "a.xml");
+    EXPECT_EQ(list[3], "b.Xml");
+
+    box.SetVariable("KivCollectionStandard", "::");
+    box.SetVariable("KivDefaultCollectionStandard", std::nullopt);
+    EXPECT_EQ(GetGPSPath(list), E_FAIL);
+    EXPECT_EQ(GetGPSList(list), S_OK);
+    EXPECT_EQ(list.Size(), 0);
+    const KivUnicodeString same("x");
+    EXPECT_EQ(CompareStrings(&same, &same), -1);
+}
+
+} // namespace

@@ -1,0 +1,200 @@
+#include "Command/KivCommandHeader.h"
+#include "KivDrwCommitSettingEditor.h"
+#include "KivDrwOptAdminEditor.h"
+#include "KivDrwOptAnnotEditor.h"
+#include "KivDrwOptGalEditor.h"
+#include "KivDrwOptGeoEditor.h"
+#include "KivDrwOptLayoutEditor.h"
+#include "KivDrwOptViewEditor.h"
+#include "KivDrwRepository.h"
+#include "KivDrwSketcherSettings.h"
+#include "KivIDrwDraftingSettingAtt.h"
+#include "Support/KivSettingsSandbox.h"
+
+#include <gtest/gtest.h>
+#include <set>
+
+namespace {
+
+template <class Editor> KivVar<Editor> Made()
+{
+    return KivVar<Editor>::Adopt(new Editor);
+}
+
+class Editors : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        KivDrwRepository()->AddListener([this](const auto&) { heard += "repository "; });
+        for (const auto& [event, word] :
+             {std::pair(KivSketcherSettings::GridModification(), "grid "),
+              std::pair(KivSketcherSettings::SnapModification(), "snap "),
+              std::pair(KivSketcherSettings::CpltModification(), "completion "),
+              std::pair(KivSketcherSettings::GeomUIModification(), "geometry "),
+              std::pair(KivSketcherSettings::Visu3DUIModification(), "visualisation ")})
+            callbacks.push_back(KivDrwSketcherSettings::GetSketcherSettings()->AddCallback(
+                event, [this, said = word](KivCallbackEvent, KivNotification*) { heard += said; }));
+    }
+    void TearDown() override
+    {
+        for (const KivCallbackId callback : callbacks)
+            KivDrwSketcherSettings::GetSketcherSettings()->RemoveCallback(callback);
+    }
+    void Write(const char* key, int value) { KivDrwRepository()->WriteSetting(key, &value, 1, 0); }
+    std::string Heard() { return std::exchange(heard, {}); }
+
+    KivSettingsSandbox box;
+    std::string heard;
+    std::vector<KivCallbackId> callbacks;
+};
+
+TEST_F(Editors, CommitOnceUntilOneIsClosed)
+{
+    Write("Ruler", 1);
+    {
+        const auto first = Made<KivDrwOptGalEditor>();
+        EXPECT_EQ(Heard(), "repository ");
+        Write("Ruler", 0);
+        const auto second = Made<KivDrwOptViewEditor>();
+        EXPECT_EQ(Heard(), "") << "committed twice";
+        EXPECT_EQ(KivDrwCommitSettingEditor::InitializeForCommit(), 0);
+    }
+    const auto third = Made<KivDrwOptGeoEditor>();
+    EXPECT_EQ(Heard(), "repository ");
+    KivDrwCommitSettingEditor::SetCommitToFalse();
+    KivSettingRepository::Withhold(true);
+    EXPECT_EQ(KivDrwCommitSettingEditor::InitializeForCommit(), 0);
+    KivSettingRepository::Withhold(false);
+    EXPECT_EQ(KivDrwCommitSettingEditor::InitializeForCommit(), 1) << "the next one tries again";
+}
+
+TEST_F(Editors, TellTheSketcherWhatTheirTabChanged)
+{
+    const auto general = Made<KivDrwOptGalEditor>();
+    const auto geometry = Made<KivDrwOptGeoEditor>();
+    const auto view = Made<KivDrwOptViewEditor>();
+    Heard();
+    general->CommitModification(nullptr);
+    EXPECT_EQ(Heard(), "grid snap ");
+    Write("Ruler", 1);
+    general->CancelModification(nullptr);
+    EXPECT_EQ(Heard(), "repository grid snap ");
+    general->ResetUserSettingsValue();
+    EXPECT_EQ(Heard(), "") << "deliberate";
+    geometry->CommitModification(nullptr);
+    EXPECT_EQ(Heard(), "") << "deliberate";
+    geometry->CancelModification(nullptr);
+    geometry->ResetUserSettingsValue();
+    EXPECT_EQ(Heard(), "visualisation geometry completion visualisation geometry completion ");
+    view->CommitModification(nullptr);
+    view->CancelModification(nullptr);
+    view->ResetUserSettingsValue();
+    EXPECT_EQ(Heard(), "");
+    KivSettingRepository::Withhold(true);
+    geometry->CancelModification(nullptr);
+    general->CommitModification(nullptr);
+    EXPECT_EQ(Heard(), "");
+}
+
+TEST_F(Editors, ResetTheKeysOfTheirTabOnly)
+{
+    const auto keys = [](std::vector<const char*> list) {
+        return std::set<std::string>(list.begin(), list.end());
+    };
+    EXPECT_EQ(keys(KivDrwOptGalEditor::ResetKeys()).size(), 25U);
+    EXPECT_EQ(keys(KivDrwOptGalEditor::ResetKeys()).count("DrwAreaFillTol"), 1U);
+    EXPECT_EQ(keys(KivDrwOptViewEditor::ResetKeys()).count("DrwAutoLevelOfDetail"), 0U);
+    EXPECT_EQ(keys(KivDrwOptLayoutEditor::ResetKeys()).count("DrwFrameAndTitleBlockFile"), 0U);
+    EXPECT_EQ(KivDrwOptViewEditor::ResetKeys().size(), 37U);
+
+    Write("DrwAreaFillTol", 3);
+    Write("Ruler", 1);
+    Write("DrwBalloonAssoc", 0);
+    const auto general = Made<KivDrwOptGalEditor>();
+    general->ResetUserSettingsValue();
+    int left = -1;
+    EXPECT_EQ(KivDrwRepository()->ReadSetting("DrwAreaFillTol", &left, 1), E_FAIL);
+    EXPECT_EQ(KivDrwRepository()->ReadSetting("Ruler", &left, 1), E_FAIL);
+    EXPECT_EQ(KivDrwRepository()->ReadSetting("DrwBalloonAssoc", &left, 1), S_OK);
+}
+
+// The host's controller component, as far as the Administration editor meets it.
+class FakeController : public KivClass<FakeController, KivBaseUnknown> {
+public:
+    static constexpr const char* Name = "KivDrwDraftingSettingCtrl";
+    static constexpr KivClassKind Kind = KivClassKind::MainClass;
+    static inline std::string log;
+    static inline bool prevented = false;
+
+    HRESULT SaveRepository()
+    {
+        log += "save ";
+        return S_OK;
+    }
+    HRESULT Rollback()
+    {
+        log += "rollback ";
+        return S_OK;
+    }
+    HRESULT ResetToAdminValuesByName(const KivVariant& names)
+    {
+        log += "reset " + std::to_string(names.texts.size()) + " ";
+        return S_OK;
+    }
+    HRESULT GetLockUserDefault(unsigned char& v) { return Answer(v); }
+    HRESULT GetPreventSetAsDefault(unsigned char& v) { return Answer(v); }
+    HRESULT GetPreventBackgroundAccess(unsigned char& v) { return Answer(v); }
+
+private:
+    static HRESULT Answer(unsigned char& v)
+    {
+        v = prevented;
+        return S_OK;
+    }
+};
+
+TEST_F(Editors, AdministrationDoesNothingWithoutItsController)
+{
+    const auto editor = Made<KivDrwOptAdminEditor>();
+    editor->CommitModification(nullptr);
+    editor->CancelModification(nullptr);
+    editor->ResetUserSettingsValue();
+    EXPECT_EQ(Heard(), "");
+}
+
+TEST_F(Editors, AdministrationWorksThroughItsControllerAndGreysCommands)
+{
+    const long before = KivBaseUnknown::LiveObjects();
+    KivClassDictionary::Add(FakeController::MetaObject(), KivIASettingController::MetaObject(),
+                            [](KivBaseUnknown* implementation) -> KivBaseUnknown* {
+                                return new KivIASettingController::Forwarder<FakeController>(
+                                    static_cast<FakeController*>(implementation));
+                            });
+    {
+        const auto editor = Made<KivDrwOptAdminEditor>();
+        editor->CommitModification(nullptr);
+        EXPECT_EQ(FakeController::log, "") << "without the attributes nothing is saved";
+        editor->CancelModification(nullptr);
+        editor->ResetUserSettingsValue();
+        EXPECT_EQ(std::exchange(FakeController::log, {}), "rollback reset 11 ");
+
+        KivClassDictionary::Add(FakeController::MetaObject(), KivIDrwDraftingSettingAtt::MetaObject(),
+                                [](KivBaseUnknown* implementation) -> KivBaseUnknown* {
+                                    return new KivIDrwDraftingSettingAtt::Forwarder<FakeController>(
+                                        static_cast<FakeController*>(implementation));
+                                });
+        std::vector<KivCommandHeader*> headers;
+        // One of the four is not registered.
+        for (const char* name : {"DrwSetAsDefault", "DrwResetDefaults", "KivDrwEditFrame"})
+            headers.push_back(KivCommandHeader::Declare(name));
+        for (const bool prevented : {true, false}) {
+            FakeController::prevented = prevented;
+            editor->CommitModification(nullptr);
+            for (const KivCommandHeader* header : headers) EXPECT_EQ(header->IsAvailable(), !prevented);
+        }
+        EXPECT_EQ(FakeController::log, "save save ");
+    }
+    EXPECT_EQ(KivBaseUnknown::LiveObjects(), before);
+}
+
+} // namespace

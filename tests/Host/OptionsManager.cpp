@@ -1,0 +1,119 @@
+#include "Base/KivEnvironment.h"
+#include "Options/KivOptionsSession.h"
+#include "Support/KivSettingsSandbox.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class OptionsManager : public testing::Test {
+protected:
+    static void SetUpTestSuite() { ASSERT_TRUE(KivUserSettingsManager::LoadPages("KivDuiSettings")); }
+    void SetUp() override { _before = KivBaseUnknown::LiveObjects(); }
+    void TearDown() override
+    {
+        manager.Get()->Release();
+        manager = {};
+        EXPECT_EQ(KivBaseUnknown::LiveObjects(), _before);
+    }
+
+    KivSettingsSandbox box;
+    struct Handle {
+        KivUserSettingsManager* made = nullptr;
+        KivUserSettingsManager* Get()
+        {
+            if (!made) made = new KivUserSettingsManager;
+            return made;
+        }
+        KivUserSettingsManager* operator->() { return Get(); }
+        KivUserSettingsManager& operator*() { return *Get(); }
+    } manager;
+
+private:
+    long _before = 0;
+};
+
+TEST_F(OptionsManager, FindsTheTenFactoriesThroughTheDictionary)
+{
+    const char* const tabs[] = {"Admin", "Annot",  "Gal",   "Gen",  "Geo",
+                                "Int",   "Layout", "Manip", "Trel", "View"};
+    const auto factories = manager->Factories();
+    ASSERT_EQ(factories.size(), 10U);
+    for (const char* tab : tabs) {
+        const KivUnicodeString editor = "KivDrwOpt" + KivUnicodeString(tab) + "Editor";
+        int supporters = 0;
+        for (const auto& factory : factories) {
+            if (!factory->Support(editor)) continue;
+            ++supporters;
+            const std::string factoryName = std::string(editor.View()) + "Factory";
+            const KivMetaClass* meta = factory->GetImpl()->GetMetaObject();
+            EXPECT_EQ(meta->Name(), factoryName);
+            EXPECT_EQ(meta->Kind(), KivClassKind::Extension);
+            EXPECT_STREQ(meta->LateType(), "KivEditorManager2");
+            EXPECT_STREQ(meta->Framework(), "DraftingUI");
+            EXPECT_TRUE(meta->IsAKindOf("KivExtensionAdapter"));
+            EXPECT_TRUE(factory->IsAKindOf(("KivI" + factoryName.substr(3)).c_str()));
+            const auto first = KivVar<KivBaseUnknown>::Adopt(factory->Create("KivIUserSettings"));
+            const auto second = KivVar<KivBaseUnknown>::Adopt(factory->Create("KivIUserSettings"));
+            ASSERT_TRUE(first && second);
+            EXPECT_FALSE(first->IsEqual(second.Get()));
+            EXPECT_TRUE(first->GetImpl()->IsAKindOf("KivEditor"));
+            EXPECT_EQ(first->GetImpl()->GetMetaObject()->CreateItself(), nullptr)
+                << "only factories make editors";
+            const long alive = KivBaseUnknown::LiveObjects();
+            EXPECT_EQ(factory->Create("KivINobody"), nullptr);
+            EXPECT_EQ(factory->Create(""), nullptr);
+            EXPECT_EQ(KivBaseUnknown::LiveObjects(), alive);
+        }
+        EXPECT_EQ(supporters, 1) << tab;
+    }
+    for (const auto& factory : factories) EXPECT_FALSE(factory->Support("") || factory->Support("KivEditor"));
+    EXPECT_EQ(manager->CreateEditors().size(), 10U);
+}
+
+TEST_F(OptionsManager, OffersThePagesThatHaveSomethingToShow)
+{
+    KivOptionsSession session(*manager);
+    ASSERT_EQ(session.Pages().size(), 1U);
+    const KivOptionsSession::Page& page = session.Pages()[0];
+    EXPECT_EQ(page.title, "General");
+    EXPECT_NE(page.frame->FindDialog("DrwSet"), nullptr);
+    EXPECT_EQ(session.FindPage("general"), &page);
+    EXPECT_EQ(session.FindPage("kivdrwoptgaleditor"), &page);
+    EXPECT_EQ(session.FindPage("Fonts"), nullptr);
+}
+
+TEST_F(OptionsManager, SaysWhichLibraryCannotBeLoaded)
+{
+    EXPECT_FALSE(KivUserSettingsManager::LoadPages("KivNobody"));
+    ASSERT_EQ(box.diagnostics.size(), 1U);
+    EXPECT_EQ(box.diagnostics[0].file, "libKivNobody.so");
+}
+
+TEST_F(OptionsManager, AdaptersAndEditorsAndPagesMayDieInAnyOrder)
+{
+    auto editors = manager->CreateEditors();
+    KivEditorPage* page = new KivEditorPage(nullptr, "page", 0UL);
+    for (const auto& editor : editors) editor.settings->BuildEditor(page);
+    delete page;
+    for (const auto& editor : editors) {
+        editor.settings->SetUserSettingsValue(nullptr);
+        editor.settings->CancelModification(nullptr);
+    }
+    // The factories and their manager go first: an editor stands alone.
+    const KivVar<KivIUserSettings> last = editors[2].settings;
+    editors.clear();
+    last->CommitModification(nullptr);
+}
+
+// Static objects with destructors would run code of ours after the framework is gone.
+TEST_F(OptionsManager, NothingOfOursRunsAtExit)
+{
+    for (const char* library : {"libKivFramework.so", "libKivDuiSettings.so"}) {
+        const std::string path = std::string(KivInstallRoot().View()) + "/lib/" + library;
+        EXPECT_NE(std::system(("nm -D --undefined-only '" + path + "' | grep -q __cxa_atexit").c_str()), 0)
+            << library;
+    }
+}
+
+} // namespace
