@@ -15,7 +15,9 @@ constexpr qsizetype kPicturesKept = 500; // a window that is dragged between scr
 
 void Complain(const KivString& name, const char* what)
 {
-    KivReport({.text = FromQt(WindowText(what)), .file = "icons/" + KivUnicodeString(name) + ".svg"});
+    KivReport({.severity = KivDiagnostic::Severity::Note,
+               .text = FromQt(WindowText(what)),
+               .file = "icons/" + KivUnicodeString(name) + ".svg"});
 }
 
 } // namespace

@@ -11,14 +11,16 @@ IconView::IconView(QStyle::PixelMetric size, QWidget* parent) : QWidget(parent),
 
 void IconView::SetIcon(const KivString& name)
 {
+    if (name == _name) return;
     _name = name;
+    updateGeometry();
     update();
 }
 
 QSize IconView::sizeHint() const
 {
     const int extent = style()->pixelMetric(_size, nullptr, this);
-    return {extent, extent};
+    return {extent, _name.IsEmpty() ? 0 : extent};
 }
 
 void IconView::paintEvent(QPaintEvent*)

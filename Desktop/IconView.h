@@ -5,7 +5,8 @@
 #include <QStyle>
 #include <QWidget>
 
-// A place on a surface that shows an icon; empty, but as large, when there is none.
+// A place on a surface that shows an icon. Empty, but as large, when the icon is missing; as wide still when
+// none is named, so that surfaces with and without icons align.
 class IconView : public QWidget {
 public:
     // The size is a style's metric, as QStyle::PM_LargeIconSize.

@@ -17,6 +17,8 @@
 
 #include <QGridLayout>
 
+#include <algorithm>
+
 namespace {
 
 template <class Native> NativePiece* Make(KivDialog& node, QWidget* parent)
@@ -60,6 +62,16 @@ Qt::Alignment Alignment(unsigned int attachment)
     return alignment;
 }
 
+// Spinners that have a column to themselves are all as wide as it: they line up on both sides.
+bool FillsColumn(const NativeCell& cell, const NativeGrid& grid)
+{
+    return cell.columns == 1 &&
+           std::all_of(grid.Cells().begin(), grid.Cells().end(), [&](const NativeCell& other) {
+               return other.column != cell.column || other.columns > 1 ||
+                      other.node->IsAKindOf(KivDlgSpinner::Name);
+           });
+}
+
 void Fill(KivDialog& frame, QWidget* surface, NativeGroup* inGroup)
 {
     const NativeGrid grid(frame);
@@ -72,7 +84,8 @@ void Fill(KivDialog& frame, QWidget* surface, NativeGroup* inGroup)
     for (const NativeCell& cell : grid.Cells()) {
         NativePiece* piece = MakePiece(*cell.node, surface);
         if (!piece) continue;
-        const unsigned int attachment = cell.node->GetGridConstraints().attachment;
+        unsigned int attachment = cell.node->GetGridConstraints().attachment;
+        if (FillsColumn(cell, grid)) attachment |= KivDlgAttachLeft | KivDlgAttachRight;
         layout->addWidget(piece->Widget(), cell.row, cell.column, cell.rows, cell.columns,
                           Alignment(attachment));
         if (auto* group = dynamic_cast<NativeGroup*>(piece)) {
@@ -85,11 +98,12 @@ void Fill(KivDialog& frame, QWidget* surface, NativeGroup* inGroup)
     layout->setRowStretch(grid.Rows(), 1);
 }
 
-// Only when all pieces stand do labels find the fields that they lead to.
+// Only when all pieces stand do labels find the fields that they lead to. Frames come after what is in them:
+// when they are shown they measure it.
 void RefreshAll(const KivDialog& node)
 {
-    if (NativePiece* piece = NativePiece::Of(&node)) piece->Refresh();
     for (const KivDialog* child : node.Children()) RefreshAll(*child);
+    if (NativePiece* piece = NativePiece::Of(&node)) piece->Refresh();
 }
 
 } // namespace

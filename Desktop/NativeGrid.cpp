@@ -1,5 +1,6 @@
 #include "NativeGrid.h"
 
+#include "Dialog/KivDlgSpinner.h"
 #include "Dialog/KivDlgToolsOptionsFrame.h"
 
 #include <algorithm>
@@ -87,12 +88,15 @@ void NativeGrid::Place(const KivDialog& frame, int row, int column)
 }
 
 // What is attached to the left and followed by nothing may use the rest of its row: else one long title would
-// push the fields of all other rows aside.
+// push the fields of all other rows aside. Spinners stay in their column: they are as wide as their
+// neighbours.
 void NativeGrid::WidenLastOfRow()
 {
     for (NativeCell& cell : _cells) {
         const unsigned int attachment = cell.node->GetGridConstraints().attachment;
-        if (!(attachment & KivDlgAttachLeft) || (attachment & KivDlgAttachRight)) continue;
+        if (!(attachment & KivDlgAttachLeft) || (attachment & KivDlgAttachRight) ||
+            cell.node->IsAKindOf(KivDlgSpinner::Name))
+            continue;
         const bool followed = std::any_of(_cells.begin(), _cells.end(), [&](const NativeCell& other) {
             return other.column > cell.column && other.row < cell.row + cell.rows &&
                    cell.row < other.row + other.rows;

@@ -3,6 +3,7 @@
 #include "Dialog/KivUserHand.h"
 #include "NativeDescription.h"
 #include "NativeText.h"
+#include "Parameter/KivControlUnit.h"
 
 #include <QAction>
 #include <QFocusEvent>
@@ -182,8 +183,11 @@ QSize NativeSpinner::sizeHint() const
     const int letters = asked > 0 ? std::min(asked, kMostLetters) : kUsualLetters;
     QStyleOptionSpinBox option;
     initStyleOption(&option);
-    // The unit is counted among the letters; what is shown is never cut.
-    const int width = std::max(fontMetrics().horizontalAdvance(QString(letters, u'0')),
+    const std::string_view unit =
+        TreeNode() ? KivControlUnit::Of(TreeNode()->GetUnit()).suffix : std::string_view();
+    const QString suffix = QString::fromUtf8(unit.data(), static_cast<qsizetype>(unit.size()));
+    // What is shown is never cut.
+    const int width = std::max(fontMetrics().horizontalAdvance(QString(letters, u'0') + suffix),
                                fontMetrics().horizontalAdvance(_shown + u' '));
     return style()->sizeFromContents(QStyle::CT_SpinBox, &option,
                                      QSize(width, lineEdit()->sizeHint().height()), this);

@@ -32,7 +32,9 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
     : QDialog(parent), _session(std::move(session)), _memory(std::move(memory)), _list(new QListWidget(this)),
       _stack(new QStackedWidget(this)), _messages(new OptionsMessageStrip(this)),
       _diagnostics([strip = QPointer<QWidget>(_messages)](const KivDiagnostic& diagnostic) {
-          if (strip) static_cast<OptionsMessageStrip*>(strip.data())->Add(ToQt(diagnostic.Words()));
+          // A note (an icon that nobody has drawn) is nothing that a user can mend.
+          if (strip && diagnostic.severity != KivDiagnostic::Severity::Note)
+              static_cast<OptionsMessageStrip*>(strip.data())->Add(ToQt(diagnostic.Words()));
       })
 {
     setWindowTitle(WindowText("OptionsTitle"));
@@ -140,6 +142,7 @@ void OptionsWindow::PageChosen(int page)
     PageView(page).Build();
     _stack->setCurrentIndex(page);
     const QString title = ToQt(_session->Pages()[static_cast<std::size_t>(page)].title);
+    PageView(page).setAccessibleName(title);
     _reset->setToolTip(WindowText("ResetHelp").arg(title));
     _reset->setAccessibleDescription(_reset->toolTip());
     OrderTab();
@@ -229,16 +232,16 @@ void OptionsWindow::showEvent(QShowEvent* event)
 
 QSize OptionsWindow::sizeHint() const
 {
-    // Wide enough for the page that is shown.
+    // As large as the page that is shown needs.
     const QFontMetrics metrics(font());
-    QSize page;
-    if (const QWidget* surface = CurrentPage() >= 0 ? PageView(CurrentPage()).widget() : nullptr)
-        page = surface->sizeHint();
+    const QSize usual(kLettersWide * metrics.averageCharWidth(), kLinesHigh * metrics.lineSpacing());
+    const QWidget* surface = CurrentPage() >= 0 ? PageView(CurrentPage()).widget() : nullptr;
+    if (!surface) return usual;
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-    const int beside = _list->width() + bar + 4 * layout()->contentsMargins().left();
-    return QSize(std::max(kLettersWide * metrics.averageCharWidth(), page.width() + beside),
-                 kLinesHigh * metrics.lineSpacing())
-        .expandedTo(minimumSizeHint());
+    const QMargins margins = layout()->contentsMargins();
+    const int beside = _list->width() + bar + 2 * (margins.left() + margins.right());
+    const int below = _ok->sizeHint().height() + 2 * (margins.top() + margins.bottom());
+    return usual.expandedTo(surface->sizeHint() + QSize(beside, below));
 }
 
 QSize OptionsWindow::FreeSize() const

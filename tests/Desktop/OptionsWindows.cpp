@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -34,16 +35,23 @@ protected:
         KivCommand::DrainDelayedDestruction();
         EXPECT_EQ(KivBaseUnknown::LiveObjects(), before);
     }
-    void Open(OptionsMemory memory)
+    void Open(const OptionsMemory& memory)
     {
-        window = std::make_unique<OptionsWindow>(OpenTestSession(), std::move(memory));
+        window = std::make_unique<OptionsWindow>(OpenTestSession(), memory);
         window->show();
         window->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        ASSERT_TRUE(!memory.Page().IsEmpty() || window->ShowPage("TestEditor"));
     }
-    NativeSpinner* Spinner(int page = 0)
+    // Libraries that are loaded offer pages beside the test's own.
+    KivDialog* Frame() { return window->Session()->FindPage("TestEditor")->frame.Get(); }
+    int PageNumber(const char* name)
     {
-        KivDialog* frame = window->Session()->Pages()[static_cast<std::size_t>(page)].frame.Get();
+        return static_cast<int>(window->Session()->FindPage(name) - window->Session()->Pages().data());
+    }
+    NativeSpinner* Spinner()
+    {
+        KivDialog* frame = Frame();
         return static_cast<NativeSpinner*>(NativePiece::Of(frame->FindDialog("editorH_dialog"))->Widget());
     }
     QPushButton* Button(const char* text)
@@ -66,17 +74,18 @@ protected:
 
 TEST_F(OptionsWindows, PagesAreBuiltWhenFirstShownAndKeysWalkThem)
 {
-    ASSERT_EQ(window->PageCount(), 2);
-    EXPECT_TRUE(window->PageView(0).IsBuilt());
-    EXPECT_FALSE(window->PageView(1).IsBuilt());
+    const int first = PageNumber("TestEditor"), last = PageNumber("OtherTestEditor");
+    ASSERT_EQ(last, window->PageCount() - 1);
+    EXPECT_TRUE(window->PageView(first).IsBuilt());
+    EXPECT_FALSE(window->PageView(last).IsBuilt());
     QTest::keyClick(Spinner(), Qt::Key_PageDown, Qt::ControlModifier);
-    EXPECT_EQ(window->CurrentPage(), 1);
-    EXPECT_TRUE(window->PageView(1).IsBuilt());
+    EXPECT_EQ(window->CurrentPage(), last);
+    EXPECT_TRUE(window->PageView(last).IsBuilt());
     EXPECT_TRUE(Button("Reset")->toolTip().contains("OtherTestEditor"));
     QTest::keyClick(window.get(), Qt::Key_PageDown, Qt::ControlModifier);
-    EXPECT_EQ(window->CurrentPage(), 1);
+    EXPECT_EQ(window->CurrentPage(), last);
     QTest::keyClick(window.get(), Qt::Key_PageUp, Qt::ControlModifier);
-    EXPECT_EQ(window->CurrentPage(), 0);
+    EXPECT_EQ(window->CurrentPage(), first);
 
     // From the last field of either page Tab leads to the buttons.
     for (const char* page : {"TestEditor", "othertesteditor"}) {
@@ -168,9 +177,7 @@ TEST_F(OptionsWindows, ResetFillsTheShownPage)
 
 TEST_F(OptionsWindows, F1ShowsTheLongHelpOfTheField)
 {
-    const auto* page = window->Session()->Pages()[0].frame.Get();
-    QWidget* check =
-        NativePiece::Of(const_cast<KivEditorPage*>(page)->FindDialog("checkGrid_dialog"))->Widget();
+    QWidget* check = NativePiece::Of(Frame()->FindDialog("checkGrid_dialog"))->Widget();
     check->setFocus();
     QTest::keyClick(check, Qt::Key_F1);
     QWidget* panel = check->findChild<QWidget*>("NativePanel");
@@ -186,12 +193,13 @@ TEST_F(OptionsWindows, SizeAndPageAreRememberedAndNeverTooLarge)
     const QTemporaryDir directory;
     const OptionsMemory memory(directory.filePath("desktop.ini"));
     Open(memory);
-    window->resize(640, 400);
+    window->resize(window->screen()->availableGeometry().size() * 3 / 4);
+    const QSize chosen = window->size();
     window->ShowPage("OtherTestEditor");
     window->reject();
     Open(memory);
-    EXPECT_EQ(window->size(), QSize(640, 400));
-    EXPECT_EQ(window->CurrentPage(), 1);
+    EXPECT_EQ(window->size(), chosen);
+    EXPECT_EQ(window->CurrentPage(), PageNumber("OtherTestEditor"));
     window->resize(100, 100000);
     window->reject();
     Open(memory);
@@ -201,10 +209,21 @@ TEST_F(OptionsWindows, SizeAndPageAreRememberedAndNeverTooLarge)
     EXPECT_FALSE(window->isVisible());
 }
 
+TEST_F(OptionsWindows, MayBeLeftToDeleteItself)
+{
+    for (const bool ok : {true, false}) {
+        const QPointer<OptionsWindow> own = new OptionsWindow(OpenTestSession(), OptionsMemory(QString()));
+        own->setAttribute(Qt::WA_DeleteOnClose);
+        own->open();
+        ok ? own->accept() : own->reject();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_FALSE(own);
+    }
+}
+
 TEST_F(OptionsWindows, WhatPagesCondemnGoesBetweenEvents)
 {
-    KivDialog* frame = window->Session()->Pages()[0].frame.Get();
-    const KivWeakPtr<KivDialog> group = frame->FindDialog("frameColour");
+    const KivWeakPtr<KivDialog> group = Frame()->FindDialog("frameColour");
     group->RequestDelayedDestruction();
     EXPECT_TRUE(group);
     QTest::qWait(1);

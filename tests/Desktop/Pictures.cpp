@@ -66,6 +66,7 @@ TEST_F(Pictures, TheWindowFollowsThePaletteScaleAndDirection)
     const auto open = [] {
         auto window = std::make_unique<OptionsWindow>(OpenTestSession(), OptionsMemory(QString()));
         window->Messages().Clear();
+        EXPECT_TRUE(window->ShowPage("TestEditor"));
         window->show();
         QTest::qWait(10);
         return window;
@@ -74,7 +75,7 @@ TEST_F(Pictures, TheWindowFollowsThePaletteScaleAndDirection)
     const QImage light = Take(*window, "light");
     const QImage twice = Take(*window, "light-2", 2.0);
     EXPECT_EQ(twice.width(), 2 * light.width());
-    KivDialog* frame = window->Session()->Pages()[0].frame.Get();
+    KivDialog* frame = window->Session()->FindPage("TestEditor")->frame.Get();
     QWidget* closed = NativePiece::Of(frame->FindDialog("checkSnapLock"))->Widget();
     QWidget* opened = NativePiece::Of(frame->FindDialog("checkGridLock"))->Widget();
     const QColor ink = QApplication::palette().color(QPalette::WindowText);
@@ -94,10 +95,11 @@ TEST_F(Pictures, TheWindowFollowsThePaletteScaleAndDirection)
 TEST_F(Pictures, RefusalsMessagesAndPanelsAreSeen)
 {
     OptionsWindow window(OpenTestSession(), OptionsMemory(QString()));
+    ASSERT_TRUE(window.ShowPage("TestEditor"));
     window.show();
     window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    KivDialog* frame = window.Session()->Pages()[0].frame.Get();
+    KivDialog* frame = window.Session()->FindPage("TestEditor")->frame.Get();
     QWidget* field = NativePiece::Of(frame->FindDialog("editorH_dialog"))->Widget();
     const QImage before = Take(*field, "field");
     field->setFocus();

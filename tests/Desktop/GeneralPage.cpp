@@ -1,0 +1,105 @@
+#include "Base/KivEnvironment.h"
+#include "NativePiece.h"
+#include "OptionsMessageStrip.h"
+#include "OptionsPageView.h"
+#include "OptionsWindow.h"
+#include "Support/KivSettingsSandbox.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QPixmap>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+// The drafting library's own page, loaded at run time, in the real window and on real files.
+class GeneralPage : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        if (!QFile::exists(Library())) GTEST_SKIP() << "built without the drafting library";
+        ASSERT_TRUE(KivUserSettingsManager::LoadPages("KivDuiSettings"));
+        KivSettingsSandbox::Write(sandbox.File("site"),
+                                  "kivsettings 1\nlock int Drw_settings_GridSnapPt = 1\n");
+        sandbox.NameLayers({"site"});
+        KivSettingRepository::ForgetAll();
+    }
+    void Open()
+    {
+        auto* const manager = new KivUserSettingsManager;
+        window = std::make_unique<OptionsWindow>(std::make_unique<KivOptionsSession>(*manager),
+                                                 OptionsMemory(QString()));
+        manager->Release();
+        window->show();
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        ASSERT_TRUE(window->ShowPage("KivDrwOptGalEditor"));
+        QTest::qWait(1);
+    }
+    KivDialog* Node(const char* name)
+    {
+        return window->Session()->FindPage("KivDrwOptGalEditor")->frame.Get()->FindDialog(name);
+    }
+    QWidget* WidgetOf(const char* name) { return NativePiece::Of(Node(name))->Widget(); }
+    static QString Library()
+    {
+        return QString::fromUtf8(KivInstallRoot().ConvertToChar()) + "/lib/libKivDuiSettings.so";
+    }
+
+    KivSettingsSandbox sandbox;
+    std::unique_ptr<OptionsWindow> window;
+};
+
+TEST_F(GeneralPage, IsChangedCommittedAndCancelledThroughTheWindow)
+{
+    Open();
+    const bool shown = static_cast<QAbstractButton*>(WidgetOf("checkGrid_dialog"))->isChecked();
+    QTest::keyClick(WidgetOf("checkGrid_dialog"), Qt::Key_Space);
+    window->reject();
+    Open();
+    EXPECT_EQ(static_cast<QAbstractButton*>(WidgetOf("checkGrid_dialog"))->isChecked(), shown);
+    QTest::keyClick(WidgetOf("checkGrid_dialog"), Qt::Key_Space);
+    window->accept();
+    KivSettingRepository::ForgetAll();
+    Open();
+    EXPECT_NE(static_cast<QAbstractButton*>(WidgetOf("checkGrid_dialog"))->isChecked(), shown);
+
+    EXPECT_FALSE(WidgetOf("checkSnap_dialog")->isEnabled());
+    EXPECT_TRUE(WidgetOf("checkSnap_dialog")->accessibleDescription().contains("site"));
+    EXPECT_TRUE(window->Messages().Messages().isEmpty())
+        << window->Messages().Messages().join('\n').toStdString();
+}
+
+TEST_F(GeneralPage, EveryControlIsNamedDescribedAndInLine)
+{
+    Open();
+    int controls = 0;
+    const QList<QWidget*> widgets = window->PageView(window->CurrentPage()).findChildren<QWidget*>();
+    for (const QWidget* widget : widgets) {
+        const auto* piece = dynamic_cast<const NativePiece*>(widget);
+        if (!piece || widget == window->PageView(window->CurrentPage()).widget() ||
+            !widget->isVisibleTo(window.get()))
+            continue;
+        ++controls;
+        const std::string name = widget->objectName().toStdString();
+        EXPECT_FALSE(widget->accessibleName().isEmpty()) << name;
+        EXPECT_NE(widget->accessibleName(), widget->objectName()) << name;
+        const auto* label = dynamic_cast<const QLabel*>(widget);
+        EXPECT_FALSE(label && !label->buddy()) << name;
+        EXPECT_FALSE(!widget->isEnabled() && widget->toolTip().isEmpty()) << name;
+        EXPECT_FALSE(dynamic_cast<const QAbstractButton*>(widget) && widget->toolTip().isEmpty()) << name;
+    }
+    EXPECT_GE(controls, 30);
+    const auto left = [&](const char* name) { return WidgetOf(name)->mapTo(window.get(), QPoint()).x(); };
+    EXPECT_EQ(left("editorGridSpacing_dialog"), left("editorGridGraduation_dialog"));
+    EXPECT_EQ(left("editorGridSpacingV_dialog"), left("editorGridGraduationV_dialog"));
+    EXPECT_EQ(left("comboBackgroundColor_dialog"), left("comboBackgroundColorDD_dialog"));
+
+    const QString directory = qEnvironmentVariable("KIV_TEST_PICTURES");
+    EXPECT_TRUE(directory.isEmpty() || window->grab().save(QDir(directory).filePath("general.png")));
+}
+
+} // namespace
