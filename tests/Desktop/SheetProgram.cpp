@@ -73,6 +73,11 @@ TEST_F(SheetProgram, AWrongCommandLineIsExplained)
     EXPECT_EQ(err.str(), "");
     EXPECT_EQ(Prepare({"--page=general", "--length-unit", "in", "--scheme", "dark"}), -1) << err.str();
     KivParmEngine::Instance().SetCurrentUnit(KivParmDictionary::LengthType, "MM");
+
+    fs::create_directory(box.root / "layer");
+    KivSettingRepository::ForgetAll();
+    EXPECT_EQ(Prepare({"--admin", (box.root / "layer").string(), "--page", "General"}), -1) << err.str();
+    EXPECT_TRUE(box.Names("layer").empty()) << "a layer that is only looked at is not filled with defaults";
 }
 
 TEST_F(SheetProgram, TheSheetFollowsOkAndGoesBackOnCancel)
