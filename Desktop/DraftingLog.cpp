@@ -46,7 +46,9 @@ DraftingLog::DraftingLog(const DraftingDiagnostics& diagnostics, QWidget* parent
     layout->addWidget(_text);
     layout->addWidget(buttons);
     resize(fontMetrics().averageCharWidth() * 90, fontMetrics().height() * 14);
-    connect(&_diagnostics, &DraftingDiagnostics::Said, this, &DraftingLog::Fill);
+    _filling.setSingleShot(true);
+    connect(&_filling, &QTimer::timeout, this, &DraftingLog::Fill);
+    connect(&_diagnostics, &DraftingDiagnostics::Said, &_filling, qOverload<>(&QTimer::start));
     Fill();
 }
 

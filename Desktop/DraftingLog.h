@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QTimer>
 
 class DraftingDiagnostics;
 class QPlainTextEdit;
@@ -18,4 +19,5 @@ private:
 
     const DraftingDiagnostics& _diagnostics;
     QPlainTextEdit* _text;
+    QTimer _filling; // once for all that is said in one event
 };

@@ -5,6 +5,7 @@
 #include "NativeText.h"
 
 #include <QEvent>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QStyle>
 #include <QToolButton>
@@ -63,6 +64,9 @@ void DraftingMessage::Say(const KivDiagnostic& diagnostic)
     if (!_text.isEmpty() && diagnostic.severity < _severity) return;
     _severity = diagnostic.severity;
     _text = ToQt(diagnostic.Words());
+    KivDiagnostic brief = diagnostic;
+    brief.file = FromQt(QFileInfo(ToQt(diagnostic.file)).fileName());
+    _short = ToQt(brief.Words()).replace('\n', ' ');
     _message->setIcon(style()->standardIcon(IconOf(_severity)));
     _message->setAccessibleName(_text);
     _message->setToolTip(DraftingText("MessageTip").arg(_text.toHtmlEscaped()));
@@ -87,8 +91,7 @@ void DraftingMessage::Dismiss()
 void DraftingMessage::Fit()
 {
     const int room = width() - _dismiss->sizeHint().width() - 2 * _message->sizeHint().height();
-    const QString line = QString(_text).replace('\n', ' ');
-    _message->setText(_message->fontMetrics().elidedText(line, Qt::ElideMiddle, std::max(room, 40)));
+    _message->setText(_message->fontMetrics().elidedText(_short, Qt::ElideRight, std::max(room, 40)));
 }
 
 // The longest message is cut; it never widens the window.

@@ -40,7 +40,8 @@ private:
     const DraftingDiagnostics& _diagnostics;
     QToolButton* _message;
     QToolButton* _dismiss;
-    QString _text;
+    QString _text;  // in full
+    QString _short; // with the name of the file alone, so that what went wrong comes early
     KivDiagnostic::Severity _severity = KivDiagnostic::Severity::Note;
     QTimer _fade;
 };

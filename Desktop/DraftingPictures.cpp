@@ -3,6 +3,7 @@
 #include "DraftingText.h"
 #include "DraftingWindow.h"
 #include "NativeText.h"
+#include "OptionsPageView.h"
 #include "OptionsWindow.h"
 #include "SheetView.h"
 
@@ -26,6 +27,17 @@ QString FileName(const KivUnicodeString& title)
     return name;
 }
 
+// A picture cannot be scrolled: the window becomes as large as its page needs.
+void ShowWholePage(OptionsWindow& options)
+{
+    options.resize(980, 760);
+    QApplication::processEvents();
+    const OptionsPageView& page = options.PageView(options.CurrentPage());
+    if (!page.widget()) return;
+    const QSize missing = page.widget()->sizeHint() - page.viewport()->size();
+    options.resize(options.size() + missing.expandedTo(QSize(0, 0)).boundedTo(QSize(1200, 2400)));
+}
+
 } // namespace
 
 DraftingPictures::DraftingPictures(const std::string& directory, std::ostream& out, std::ostream& err)
@@ -44,12 +56,12 @@ bool DraftingPictures::Write(DraftingWindow& window, const KivUnicodeString& pag
     // Without a memory: pictures neither depend on how the user left the window nor change it.
     OptionsWindow options(DraftingOptions::NewSession(), OptionsMemory(QString()));
     options.show();
-    options.resize(980, 760);
     const KivOptionsSession::Page* const only = page.IsEmpty() ? nullptr : options.Session()->FindPage(page);
     bool isSaved = true;
     for (const KivOptionsSession::Page& shown : options.Session()->Pages()) {
         if (only && &shown != only) continue;
         options.ShowPage(KivUnicodeString(shown.editor));
+        ShowWholePage(options);
         isSaved = isSaved && Save(options, "options-" + FileName(shown.title));
     }
     options.reject();

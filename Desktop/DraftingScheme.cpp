@@ -35,8 +35,9 @@ void ApplyScheme(DraftingScheme scheme)
     if (scheme == DraftingScheme::System) return;
     static constexpr QColor kWhite(255, 255, 255);
     const bool isDark = scheme == DraftingScheme::Dark;
-    const Tones dark{{45, 47, 51},    {32, 34, 37},   {39, 41, 45}, {58, 61, 66},   {232, 233, 235},
-                     {134, 138, 145}, {61, 132, 214}, kWhite,       {110, 170, 240}};
+    // Fusion draws edges darker than the window: it must not be too dark itself, or they are not seen.
+    const Tones dark{{60, 63, 68},    {34, 36, 40},   {42, 44, 49}, {74, 77, 83},   {234, 235, 237},
+                     {150, 154, 160}, {61, 132, 214}, kWhite,       {110, 170, 240}};
     const Tones light{{240, 241, 243}, kWhite,         {246, 247, 249}, {233, 235, 238}, {28, 30, 33},
                       {128, 132, 138}, {38, 110, 190}, kWhite,          {20, 90, 170}};
     QApplication::setStyle("Fusion");

@@ -5,6 +5,7 @@
 #include "DraftingText.h"
 #include "DraftingVersion.h"
 #include "KivDrwOptionsServices.h"
+#include "KivDrwSketcherSettings.h"
 #include "Options/KivOptionsSession.h"
 #include "Parameter/KivControlUnit.h"
 #include "Parameter/KivParmDictionary.h"
@@ -53,7 +54,13 @@ std::optional<int> DraftingStart::Prepare(const CommandLine& line, std::ostream&
     if (const auto code = ChooseUnit(line, err)) return code;
     if (const auto code = ChooseLayer(line, err)) return code;
     KivUserSettingsManager::LoadPages("KivDuiSettings");
-    KivDrwOptionsServices::InitOptionsOnDisk();
+    if (line.administrator.empty()) {
+        KivDrwOptionsServices::InitOptionsOnDisk();
+    } else {
+        // An empty layer stays empty until something is chosen: defaults written there would stand in the way
+        // of every layer around it.
+        KivSketcherSettings::SetSketcherSettings(KivDrwSketcherSettings::GetSketcherSettings());
+    }
     return FindPage(line, err);
 }
 

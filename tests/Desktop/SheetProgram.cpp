@@ -1,0 +1,214 @@
+#include "CommandLine.h"
+#include "Dialog/KivDlgCheckButton.h"
+#include "Dialog/KivTextCatalogue.h"
+#include "Dialog/KivUserHand.h"
+#include "DraftingDiagnostics.h"
+#include "DraftingLog.h"
+#include "DraftingMessage.h"
+#include "DraftingPictures.h"
+#include "DraftingStart.h"
+#include "DraftingTree.h"
+#include "DraftingWelcome.h"
+#include "DraftingWindow.h"
+#include "KivDrwDraftingSettings.h"
+#include "KivDrwSketcherSettings.h"
+#include "OptionsWindow.h"
+#include "Parameter/KivParmDictionary.h"
+#include "Parameter/KivParmEngine.h"
+#include "SheetSettings.h"
+#include "SheetView.h"
+#include "Support/KivSettingsSandbox.h"
+
+#include <QComboBox>
+#include <QProcess>
+#include <QRadioButton>
+#include <QTest>
+#include <gtest/gtest.h>
+#include <regex>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class SheetProgram : public testing::Test {
+protected:
+    // Ends with this code, or -1 when the window would open.
+    int Prepare(std::vector<std::string> arguments)
+    {
+        out.str({});
+        err.str({});
+        return DraftingStart::Prepare(CommandLine::Parse(arguments), out, err).value_or(-1);
+    }
+    bool Erred(const char* words) const { return err.str().find(words) != std::string::npos; }
+
+    KivSettingsSandbox box;
+    std::ostringstream out, err;
+};
+
+TEST_F(SheetProgram, AWrongCommandLineIsExplained)
+{
+    const fs::path file = box.root / "file";
+    box.Write(file, "");
+    struct Case {
+        std::vector<std::string> arguments;
+        const char* said;
+    };
+    for (const Case& c :
+         {Case{{"--pages", "General"}, "--pages"}, Case{{"drawing"}, "drawing"},
+          Case{{"--page"}, "--page needs"}, Case{{"--page", "--help"}, "--page needs"},
+          Case{{"--language="}, "--language needs"}, Case{{"--help=yes"}, "--help takes no"},
+          Case{{"--scale", "0"}, "0.5 to 8"}, Case{{"--scale", "nan"}, "0.5 to 8"},
+          Case{{"--scale=2x"}, "0.5 to 8"}, Case{{"--scheme=blue"}, "light"},
+          Case{{"--language", "Klingon"}, "English"}, Case{{"--length-unit", "stone"}, "F_I_F16"},
+          Case{{"--length-unit", "DEGREE"}, "MM"}, Case{{"--admin", file.string()}, "no directory"},
+          Case{{"--page", "Nowhere"}, "General"}}) {
+        EXPECT_EQ(Prepare(c.arguments), 2) << c.said;
+        EXPECT_TRUE(Erred(c.said)) << c.said << " in: " << err.str();
+        EXPECT_EQ(out.str(), "");
+    }
+    EXPECT_EQ(Prepare({"--help"}), 0);
+    for (const CommandLine::Option& option : CommandLine::Options())
+        EXPECT_NE(out.str().find(std::string("--") + option.name), std::string::npos);
+    EXPECT_EQ(Prepare({"--version"}), 0);
+    EXPECT_EQ(err.str(), "");
+    EXPECT_EQ(Prepare({"--page=general", "--length-unit", "in", "--scheme", "dark"}), -1) << err.str();
+    KivParmEngine::Instance().SetCurrentUnit(KivParmDictionary::LengthType, "MM");
+
+    fs::create_directory(box.root / "layer");
+    KivSettingRepository::ForgetAll();
+    EXPECT_EQ(Prepare({"--admin", (box.root / "layer").string(), "--page", "General"}), -1) << err.str();
+    EXPECT_TRUE(box.Names("layer").empty()) << "a layer that is only looked at is not filled with defaults";
+}
+
+TEST_F(SheetProgram, TheSheetFollowsOkAndGoesBackOnCancel)
+{
+    ASSERT_EQ(Prepare({}), -1);
+    KivDrwDraftingSettings drafting;
+    SheetSettings settings(drafting, *KivDrwSketcherSettings::GetSketcherSettings());
+    const DraftingDiagnostics diagnostics(false);
+    DraftingWindow window(settings, diagnostics, {});
+    window.show();
+    auto* const tree = window.findChild<DraftingTree*>();
+    QTreeWidgetItem* const parameters = tree->ViewItem()->child(0);
+    const auto tick = [&] {
+        for (const KivOptionsSession::Page& page : window.Options().Current()->Session()->Pages())
+            if (auto* const found =
+                    dynamic_cast<KivDlgCheckButton*>(page.frame.Get()->FindDialog("checkGrid_dialog")))
+                return KivUserHand::Tick(*found).done;
+        return false;
+    };
+
+    window.OpenOptions("General");
+    OptionsWindow* const first = window.Options().Current();
+    window.OpenOptions();
+    EXPECT_EQ(window.Options().Current(), first) << "one at a time";
+    ASSERT_TRUE(tick());
+    first->accept();
+    EXPECT_FALSE(settings.Style().grid);
+    EXPECT_EQ(window.Options().Current(), nullptr);
+
+    window.OpenOptions();
+    ASSERT_TRUE(tick());
+    KivDrwSketcherSettings::GetSketcherSettings()->GridModify(); // as if a page told the sheet meanwhile
+    EXPECT_TRUE(settings.Style().grid);
+    window.close();
+    EXPECT_EQ(window.Options().Current(), nullptr);
+    EXPECT_FALSE(settings.Style().grid) << "closing the main window cancels";
+    EXPECT_FALSE(parameters->isHidden());
+}
+
+TEST_F(SheetProgram, TheWelcomeChangesTheSheetUnlessItIsHidden)
+{
+    KivSettingRepository& repository = box.Reopen();
+    KivDrwDraftingSettings drafting;
+    SheetSettings settings(drafting, *KivDrwSketcherSettings::GetSketcherSettings());
+    const DraftingDiagnostics diagnostics(false);
+    DraftingWindow window(settings, diagnostics, {});
+    window.Welcome();
+    auto* const welcome = window.findChild<DraftingWelcome*>();
+    ASSERT_TRUE(welcome);
+    auto* const sizes = welcome->findChild<QComboBox*>();
+    sizes->setCurrentIndex(sizes->findData("A1"));
+    for (auto* const button : welcome->findChildren<QRadioButton*>())
+        button->setChecked(!button->isChecked());
+    EXPECT_EQ(window.Sheet().Camera().Sheet(), QSizeF(594.0, 841.0));
+    delete welcome;
+
+    const int hidden = 1, shown = 0;
+    repository.WriteSetting("HideWhenStartWkb", &hidden, 1, 0);
+    repository.WriteSetting("TreeParameters", &shown, 1, 0);
+    KivDrwSketcherSettings::GetSketcherSettings()->GridModify();
+    window.Welcome();
+    EXPECT_FALSE(window.findChild<DraftingWelcome*>());
+    QTreeWidgetItem* const view = window.findChild<DraftingTree*>()->ViewItem();
+    EXPECT_TRUE(view->child(0)->isHidden());
+    EXPECT_FALSE(view->child(1)->isHidden());
+}
+
+TEST_F(SheetProgram, AnErrorStaysUntilItIsDismissedOrReplaced)
+{
+    using enum KivDiagnostic::Severity;
+    const DraftingDiagnostics diagnostics(false);
+    KivReport({.severity = Error, .text = "the disk is full", .file = "/a", .line = 3});
+    DraftingMessage message(diagnostics);
+    EXPECT_EQ(message.Text(), "/a:3: the disk is full") << "also what was said before there was a window";
+    KivReport({.severity = Note, .text = "by the way"});
+    EXPECT_EQ(message.Text(), "/a:3: the disk is full");
+    KivReport({.severity = Error, .text = std::string(9000, 'w').c_str()});
+    EXPECT_EQ(message.Text().size(), 9000);
+    EXPECT_LT(message.minimumSizeHint().width(), 600) << "a message never widens the window";
+    const DraftingLog log(diagnostics, nullptr);
+    for (int i = 0; i < 2000; ++i) KivReport({.text = "again and again"});
+    EXPECT_LE(diagnostics.All().size(), 500U);
+}
+
+TEST_F(SheetProgram, ItDrawsPicturesAndEndsInOrder)
+{
+    const QString program = QCoreApplication::applicationDirPath() + "/kivdrafting";
+    const auto run = [&](const QStringList& arguments) {
+        QProcess process;
+        process.start(program, arguments);
+        EXPECT_TRUE(process.waitForFinished(60000)) << process.errorString().toStdString();
+        out.str(process.readAllStandardOutput().toStdString());
+        err.str(process.readAllStandardError().toStdString());
+        return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    };
+    const fs::path pictures = box.root / "new" / "pictures";
+    EXPECT_EQ(run({"--screenshot", QString::fromStdString(pictures.string()), "--scale", "2"}), 0)
+        << err.str();
+    EXPECT_NE(out.str().find("drafting.png\n"), std::string::npos) << out.str();
+    EXPECT_GE(QImage(QString::fromStdString((pictures / "drafting.png").string())).width(), 2000);
+    EXPECT_TRUE(fs::exists(pictures / "options-general.png"));
+    box.Write(box.root / "file", "");
+    EXPECT_EQ(run({"--screenshot", QString::fromStdString((box.root / "file" / "x").string())}), 1);
+    EXPECT_TRUE(Erred("cannot be made")) << err.str();
+
+    QProcess window;
+    window.start(program, {"--page", "General"}); // on the platform of this test
+    ASSERT_TRUE(window.waitForStarted());
+    QTest::qWait(1500);
+    window.terminate();
+    ASSERT_TRUE(window.waitForFinished(20000));
+    EXPECT_EQ(window.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(window.exitCode(), 0) << window.readAllStandardError().toStdString();
+}
+
+TEST_F(SheetProgram, EveryTextExistsAndIsUsed)
+{
+    std::string sources;
+    const fs::path desktop = fs::path(__FILE__).parent_path() / "../../Desktop";
+    for (const auto& entry : fs::directory_iterator(desktop)) {
+        const std::string name = entry.path().filename().string();
+        if (entry.path().extension() == ".cpp" &&
+            std::regex_search(name, std::regex("^(Sheet|Drafting|Command|Main)")))
+            sources += box.Bytes(entry.path());
+    }
+    const auto& texts = KivTextCatalogue::Open("KivDrafting").Texts();
+    for (const auto& [key, text] : texts)
+        EXPECT_NE(sources.find('"' + key + '"'), std::string::npos) << key << " is not used";
+    const std::regex asked(R"re((?:Text|wrong|add|Added)\((?:\w+, )?"([A-Za-z0-9]+)")re");
+    for (std::sregex_iterator found(sources.begin(), sources.end(), asked), end; found != end; ++found)
+        EXPECT_TRUE(texts.contains((*found)[1])) << (*found)[1] << " is missing";
+}
+
+} // namespace
