@@ -40,7 +40,10 @@ KivSettingRepository::KivSettingRepository(std::string_view name, const KivUnico
 
 KivSettingStore& KivSettingRepository::Store() const
 {
-    if (!_store) _store = std::make_unique<KivSettingStore>(_name.View(), _editedLayer);
+    if (!_store) {
+        _store = std::make_unique<KivSettingStore>(_name.View(), _editedLayer);
+        _store->Bind(_boundKeys);
+    }
     return *_store;
 }
 
@@ -72,17 +75,27 @@ void KivSettingRepository::Withhold(bool withheld)
     TheRegistry().isWithheld = withheld;
 }
 
+template <class T> HRESULT KivSettingRepository::Take(const KivSettingAttribute& attribute, T& value) const
+{
+    const T* const shown = std::get_if<T>(&attribute.Shown());
+    if (!shown) {
+        Store().ReportOtherType(attribute, KivSettingTypeName(T()));
+        return E_FAIL;
+    }
+    value = *shown;
+    return S_OK;
+}
+
 template <class T> HRESULT KivSettingRepository::Read(const char* key, T* value, long count) const
 {
     const KivSettingAttribute* attribute = Store().Find(key);
-    if (!attribute || !value || count != 1) return E_FAIL;
-    const T* const shown = std::get_if<T>(&attribute->Shown());
-    if (!shown) {
-        Store().ReportOtherType(*attribute, KivSettingTypeName(T()));
-        return E_FAIL;
-    }
-    *value = *shown;
-    return S_OK;
+    return attribute && value && count == 1 ? Take(*attribute, *value) : E_FAIL;
+}
+
+template <class T> HRESULT KivSettingRepository::ReadAt(std::size_t place, T* value) const
+{
+    const KivSettingAttribute* attribute = Store().FindBound(place);
+    return attribute && value ? Take(*attribute, *value) : E_FAIL;
 }
 
 template <class T>
@@ -111,6 +124,34 @@ HRESULT KivSettingRepository::ReadSetting(const char* key, double* value, long c
 HRESULT KivSettingRepository::ReadSetting(const char* key, KivUnicodeString* value, long count) const
 {
     return Read(key, value, count);
+}
+
+void KivSettingRepository::BindKeys(std::span<const char* const> keys)
+{
+    if (keys.data() == _boundKeys.data() && keys.size() == _boundKeys.size()) return;
+    _boundKeys = keys;
+    Store().Bind(keys);
+}
+
+HRESULT KivSettingRepository::ReadBound(std::size_t place, int* value) const
+{
+    return ReadAt(place, value);
+}
+HRESULT KivSettingRepository::ReadBound(std::size_t place, unsigned int* value) const
+{
+    return ReadAt(place, value);
+}
+HRESULT KivSettingRepository::ReadBound(std::size_t place, float* value) const
+{
+    return ReadAt(place, value);
+}
+HRESULT KivSettingRepository::ReadBound(std::size_t place, double* value) const
+{
+    return ReadAt(place, value);
+}
+HRESULT KivSettingRepository::ReadBound(std::size_t place, KivUnicodeString* value) const
+{
+    return ReadAt(place, value);
 }
 
 HRESULT KivSettingRepository::WriteSetting(const char* key, const int* value, long count, int reserved)
@@ -142,10 +183,21 @@ HRESULT KivSettingRepository::GetInfo(const char* key, KivSettingInfo* info, int
     *info = {};
     info->repository = _name;
     info->key = key;
-    const KivSettingAttribute* attribute = Store().Find(key);
+    info->canLock = IsAdministrator();
+    const KivSettingAttribute* attribute = Store().FindGoverned(key);
     if (!attribute) return E_FAIL;
     Store().Describe(*attribute, *info);
     const bool isKnown = info->origin != KivSettingInfo::Origin::None || info->locked || info->lockedHere;
+    return isKnown ? S_OK : E_FAIL;
+}
+
+HRESULT KivSettingRepository::GetProvenance(const char* key, KivSettingProvenance& place) const
+{
+    place = {};
+    const KivSettingAttribute* attribute = Store().FindGoverned(key);
+    if (!attribute) return E_FAIL;
+    place = Store().Provenance(*attribute);
+    const bool isKnown = place.origin != KivSettingInfo::Origin::None || place.lockLayer;
     return isKnown ? S_OK : E_FAIL;
 }
 
@@ -230,9 +282,11 @@ bool KivSettingRepository::IsProtected() const
     return Store().IsProtected();
 }
 
-void KivSettingRepository::Refresh()
+KivSettingRepository::Keys KivSettingRepository::Refresh()
 {
-    Store().listeners.Tell(Store().Refresh());
+    Keys changed = Store().Refresh();
+    Store().listeners.Tell(changed);
+    return changed;
 }
 
 HRESULT KivSettingRepository::SetLock(const char* key, bool locked)
