@@ -20,6 +20,8 @@ public:
     // A pattern is a prefix and a star. Layers come outermost first, and the outermost one counts.
     void Add(std::string_view pattern, int layer, int line);
 
+    bool IsEmpty() const { return _places.empty(); }
+
     // The outermost lock on a key; of several in that layer the one with the shortest prefix.
     Place Find(std::string_view key) const;
 

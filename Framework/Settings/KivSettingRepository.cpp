@@ -40,10 +40,7 @@ KivSettingRepository::KivSettingRepository(std::string_view name, const KivUnico
 
 KivSettingStore& KivSettingRepository::Store() const
 {
-    if (!_store) {
-        _store = std::make_unique<KivSettingStore>(_name.View(), _editedLayer);
-        _store->Bind(_boundKeys);
-    }
+    if (!_store) _store = std::make_unique<KivSettingStore>(_name.View(), _editedLayer);
     return *_store;
 }
 
@@ -67,7 +64,10 @@ void KivSettingRepository::SetEditedLayer(const KivUnicodeString& directory)
 
 void KivSettingRepository::ForgetAll()
 {
-    for (const auto& [key, repository] : TheRegistry().repositories) repository->_store.reset();
+    for (const auto& [key, repository] : TheRegistry().repositories) {
+        repository->_shown = {};
+        repository->_store.reset();
+    }
 }
 
 void KivSettingRepository::Withhold(bool withheld)
@@ -92,11 +92,17 @@ template <class T> HRESULT KivSettingRepository::Read(const char* key, T* value,
     return attribute && value && count == 1 ? Take(*attribute, *value) : E_FAIL;
 }
 
-template <class T> HRESULT KivSettingRepository::ReadAt(std::size_t place, T* value) const
+template <class T> HRESULT KivSettingRepository::ReadUnusual(std::size_t place, T* value) const
 {
+    if (_shown.empty()) _shown = Store().Bind(_boundKeys);
     const KivSettingAttribute* attribute = Store().FindBound(place);
     return attribute && value ? Take(*attribute, *value) : E_FAIL;
 }
+template HRESULT KivSettingRepository::ReadUnusual(std::size_t, int*) const;
+template HRESULT KivSettingRepository::ReadUnusual(std::size_t, unsigned int*) const;
+template HRESULT KivSettingRepository::ReadUnusual(std::size_t, float*) const;
+template HRESULT KivSettingRepository::ReadUnusual(std::size_t, double*) const;
+template HRESULT KivSettingRepository::ReadUnusual(std::size_t, KivUnicodeString*) const;
 
 template <class T>
 HRESULT KivSettingRepository::Write(const char* key, const T* value, long count, int reserved)
@@ -130,28 +136,7 @@ void KivSettingRepository::BindKeys(std::span<const char* const> keys)
 {
     if (keys.data() == _boundKeys.data() && keys.size() == _boundKeys.size()) return;
     _boundKeys = keys;
-    Store().Bind(keys);
-}
-
-HRESULT KivSettingRepository::ReadBound(std::size_t place, int* value) const
-{
-    return ReadAt(place, value);
-}
-HRESULT KivSettingRepository::ReadBound(std::size_t place, unsigned int* value) const
-{
-    return ReadAt(place, value);
-}
-HRESULT KivSettingRepository::ReadBound(std::size_t place, float* value) const
-{
-    return ReadAt(place, value);
-}
-HRESULT KivSettingRepository::ReadBound(std::size_t place, double* value) const
-{
-    return ReadAt(place, value);
-}
-HRESULT KivSettingRepository::ReadBound(std::size_t place, KivUnicodeString* value) const
-{
-    return ReadAt(place, value);
+    _shown = {}; // until the first read: who opens a repository to ask for one key does not pay for all
 }
 
 HRESULT KivSettingRepository::WriteSetting(const char* key, const int* value, long count, int reserved)
@@ -193,10 +178,12 @@ HRESULT KivSettingRepository::GetInfo(const char* key, KivSettingInfo* info, int
 
 HRESULT KivSettingRepository::GetProvenance(const char* key, KivSettingProvenance& place) const
 {
-    place = {};
     const KivSettingAttribute* attribute = Store().FindGoverned(key);
-    if (!attribute) return E_FAIL;
-    place = Store().Provenance(*attribute);
+    if (!attribute) {
+        place = {};
+        return E_FAIL;
+    }
+    Store().Trace(*attribute, place);
     const bool isKnown = place.origin != KivSettingInfo::Origin::None || place.lockLayer;
     return isKnown ? S_OK : E_FAIL;
 }

@@ -4,11 +4,13 @@
 #include "Base/KivUnicodeString.h"
 #include "Settings/KivSettingInfo.h"
 #include "Settings/KivSettingProvenance.h"
+#include "Settings/KivSettingValue.h"
 
 #include <functional>
 #include <memory>
 #include <span>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 class KivSettingStore;
@@ -69,11 +71,14 @@ public:
     void BindKeys(std::span<const char* const> keys);
 
     // Reads the bound key at a place like ReadSetting; E_FAIL too when no key is bound there.
-    HRESULT ReadBound(std::size_t place, int* value) const;
-    HRESULT ReadBound(std::size_t place, unsigned int* value) const;
-    HRESULT ReadBound(std::size_t place, float* value) const;
-    HRESULT ReadBound(std::size_t place, double* value) const;
-    HRESULT ReadBound(std::size_t place, KivUnicodeString* value) const;
+    template <class T> HRESULT ReadBound(std::size_t place, T* value) const
+    {
+        const T* const shown = place < _shown.size() ? std::get_if<T>(_shown[place]) : nullptr;
+        if (!shown || !value) return ReadUnusual(place, value);
+        *value = *shown;
+        return S_OK;
+    }
+    bool IsBound(std::size_t place) const { return place < _boundKeys.size(); }
 
     // Delivers the attributes of all layers one by one, in the order of the files, outermost first. Not zero
     // when there is none (left). name and type: buffers of at least 256 characters; count: receives 1;
@@ -154,7 +159,8 @@ private:
     KivSettingRepository(std::string_view name, const KivUnicodeString& editedLayer);
 
     template <class T> HRESULT Read(const char* key, T* value, long count) const;
-    template <class T> HRESULT ReadAt(std::size_t place, T* value) const;
+    // A bound key that has no value, one of another type, or has not been read since all was forgotten.
+    template <class T> HRESULT ReadUnusual(std::size_t place, T* value) const;
     template <class T> HRESULT Take(const KivSettingAttribute& attribute, T& value) const;
     template <class T> HRESULT Write(const char* key, const T* value, long count, int reserved);
 
@@ -163,5 +169,6 @@ private:
     KivString _name;
     KivUnicodeString _editedLayer;
     std::span<const char* const> _boundKeys;
-    mutable std::unique_ptr<KivSettingStore> _store; // opened on first use
+    mutable std::unique_ptr<KivSettingStore> _store;        // opened on first use
+    mutable std::span<const KivSettingValue* const> _shown; // the store's, of each bound key
 };

@@ -45,8 +45,10 @@ KivSettingStore::KivSettingStore(std::string_view name, const KivUnicodeString& 
 std::size_t KivSettingStore::Meet(std::string_view key, std::size_t hash)
 {
     const std::size_t known = _table.Size();
+    const KivSettingAttribute* const before = _table.Data();
     const std::size_t index = _table.IndexOfNew(key, hash);
-    if (index == known) Govern(_table[index]);
+    if (index == known && (!_prefixLocks.IsEmpty() || !_ownPrefixLocks.IsEmpty())) Govern(_table[index]);
+    if (_table.Data() != before) AimAll();
     return index;
 }
 
@@ -85,13 +87,28 @@ const KivSettingAttribute* KivSettingStore::FindGoverned(const char* key)
     return &_table[Meet(key, KivSettingTable::Hash(key))];
 }
 
-void KivSettingStore::Bind(std::span<const char* const> keys)
+std::span<const KivSettingValue* const> KivSettingStore::Bind(std::span<const char* const> keys)
 {
+    for (const std::uint32_t index : _bound) _table[index].boundPlace = -1;
     _bound.clear();
+    _shownBound.clear();
     _bound.reserve(keys.size());
     _table.Reserve(keys.size());
-    for (const char* const key : keys)
-        _bound.push_back(static_cast<std::uint32_t>(Meet(key, KivSettingTable::Hash(key))));
+    for (const char* const key : keys) {
+        const std::size_t index = Meet(key, KivSettingTable::Hash(key));
+        _table[index].boundPlace = static_cast<int>(_bound.size());
+        _bound.push_back(static_cast<std::uint32_t>(index));
+    }
+    _shownBound.resize(_bound.size());
+    AimAll();
+    return _shownBound;
+}
+
+// After the values may have moved or many of them changed.
+void KivSettingStore::AimAll()
+{
+    for (std::size_t place = 0; place < _shownBound.size(); ++place)
+        _shownBound[place] = &_table[_bound[place]].Shown();
 }
 
 void KivSettingStore::ReadLayers()
@@ -129,6 +146,7 @@ void KivSettingStore::ReadLayers()
         }
     }
     for (KivSettingAttribute& attribute : _table) attribute.Resolve();
+    AimAll();
 }
 
 // Takes what the own file says; what has not been saved stays on top of it.
@@ -155,6 +173,7 @@ void KivSettingStore::TakeOwnFile()
     for (const auto& [index, entry] : working) _table[index].own = entry;
     GovernAllOwn();
     for (KivSettingAttribute& attribute : _table) attribute.Resolve();
+    AimAll();
 }
 
 void KivSettingStore::Change(std::size_t index, const KivSettingEntry& says)
@@ -165,6 +184,7 @@ void KivSettingStore::Change(std::size_t index, const KivSettingEntry& says)
     if (!std::exchange(attribute.isUncommitted, true)) _uncommitted.emplace_back(index, attribute.own);
     attribute.own = says;
     attribute.Resolve();
+    Aim(attribute);
     if (attribute.key.back() == '*') GovernAllOwn();
 }
 
@@ -265,6 +285,7 @@ KivSettingStore::Keys KivSettingStore::Rollback()
     for (const auto& [index, before] : _uncommitted) {
         _table[index].own = before;
         _table[index].Resolve();
+        Aim(_table[index]);
     }
     ForgetUncommitted();
     GovernAllOwn();
@@ -304,10 +325,10 @@ KivSettingStore::Keys KivSettingStore::Save(Receipt& result)
     return ChangedSince(shown);
 }
 
-KivSettingProvenance KivSettingStore::Provenance(const KivSettingAttribute& attribute) const
+void KivSettingStore::Trace(const KivSettingAttribute& attribute, KivSettingProvenance& place) const
 {
     using Origin = KivSettingInfo::Origin;
-    KivSettingProvenance place;
+    place = {};
     place.origin = attribute.origin;
     if (attribute.origin == Origin::User) {
         if (_isAdministrator) place.origin = Origin::Administrator;
@@ -339,12 +360,12 @@ KivSettingProvenance KivSettingStore::Provenance(const KivSettingAttribute& attr
         break;
     }
     place.canLock = _isAdministrator && !place.locked && !attribute.isUnderOwnPrefix;
-    return place;
 }
 
 void KivSettingStore::Describe(const KivSettingAttribute& attribute, KivSettingInfo& info) const
 {
-    const KivSettingProvenance place = Provenance(attribute);
+    KivSettingProvenance place;
+    Trace(attribute, place);
     info.origin = place.origin;
     info.initial = place.initial;
     info.value = KivShownSettingText(attribute.Shown());

@@ -28,7 +28,8 @@ public:
     const KivSettingAttribute* FindGoverned(const char* key);
 
     // Makes these keys known, in this order: from now on they are found by their place in it.
-    void Bind(std::span<const char* const> keys);
+    // Answers where their values are from now on; what stands there follows every change.
+    std::span<const KivSettingValue* const> Bind(std::span<const char* const> keys);
     const KivSettingAttribute* FindBound(std::size_t place) const
     {
         return place < _bound.size() ? &_table[_bound[place]] : nullptr;
@@ -46,7 +47,7 @@ public:
     Keys Refresh();
     Keys Save(Receipt& receipt);
 
-    KivSettingProvenance Provenance(const KivSettingAttribute& attribute) const;
+    void Trace(const KivSettingAttribute& attribute, KivSettingProvenance& place) const;
     void Describe(const KivSettingAttribute& attribute, KivSettingInfo& info) const;
     // Says, once a key, that a reader expected another type than the one stored.
     void ReportOtherType(const KivSettingAttribute& attribute, const char* expected);
@@ -71,6 +72,12 @@ private:
         std::vector<std::pair<std::size_t, KivSettingEntry>>; // an attribute, and what it said before
 
     std::size_t Meet(std::string_view key, std::size_t hash);
+    void Aim(const KivSettingAttribute& attribute)
+    {
+        if (attribute.boundPlace >= 0)
+            _shownBound[static_cast<std::size_t>(attribute.boundPlace)] = &attribute.Shown();
+    }
+    void AimAll();
     void Govern(KivSettingAttribute& attribute) const;
     void GovernAllOwn();
     void ReadLayers();
@@ -93,10 +100,11 @@ private:
     std::vector<KivSettingLayer> _layers;
     KivSettingOwnFile _own;
     KivSettingTable _table;
-    KivSettingPrefixLocks _prefixLocks;    // of the layers outside
-    KivSettingPrefixLocks _ownPrefixLocks; // of the layer that is written
-    std::vector<std::uint32_t> _bound;     // the attributes of the bound keys, in their order
-    Journal _unsaved;                      // in writing order
+    KivSettingPrefixLocks _prefixLocks;              // of the layers outside
+    KivSettingPrefixLocks _ownPrefixLocks;           // of the layer that is written
+    std::vector<std::uint32_t> _bound;               // the attributes of the bound keys, in their order
+    std::vector<const KivSettingValue*> _shownBound; // and their values
+    Journal _unsaved;                                // in writing order
     Journal _uncommitted;
     std::set<std::string_view> _typesReported;
 };

@@ -28,6 +28,8 @@ struct KivSettingAttribute {
 
     KivSettingInfo::Origin origin = KivSettingInfo::Origin::None; // Shown's, kept by Resolve
 
+    int boundPlace = -1; // among the bound keys, or -1
+
     bool isUnsaved = false; // stands in the store's journal since the last save
     bool isUncommitted = false;
 
@@ -75,6 +77,7 @@ public:
 
     KivSettingAttribute& operator[](std::size_t index) { return _attributes[index]; }
     const KivSettingAttribute& operator[](std::size_t index) const { return _attributes[index]; }
+    const KivSettingAttribute* Data() const { return _attributes.data(); }
     std::size_t Size() const { return _attributes.size(); }
 
     auto begin() { return _attributes.begin(); }
