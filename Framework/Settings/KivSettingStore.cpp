@@ -36,9 +36,33 @@ KivSettingStore::KivSettingStore(std::string_view name, const KivUnicodeString& 
       _layerDirectories(KivSettingLayers::Outside(editedLayer)),
       _own(OwnPath(_isAdministrator ? editedLayer : KivSettingLayers::User(), name), _isAdministrator)
 {
+    ReadFiles();
+}
+
+// Reads what has changed on disk. What stays wrong is said once, not at every reading.
+void KivSettingStore::ReadFiles()
+{
+    std::vector<KivDiagnostic> said;
+    KivDiagnosticSink sink =
+        KivSetDiagnosticSink([&said](const KivDiagnostic& diagnostic) { said.push_back(diagnostic); });
     ReadLayers();
-    _own.Read();
-    TakeOwnFile();
+    if (_own.Read() || !_isRead) TakeOwnFile();
+    _isRead = true;
+    KivSetDiagnosticSink(std::move(sink));
+    std::set<KivUnicodeString> words;
+    for (const KivDiagnostic& diagnostic : said) {
+        if (words.insert(diagnostic.Words()).second && !_said.contains(diagnostic.Words()))
+            KivReport(diagnostic);
+    }
+    _said = std::move(words);
+}
+
+std::vector<KivUnicodeString> KivSettingStore::Files() const
+{
+    std::vector<KivUnicodeString> files;
+    for (const KivSettingLayer& layer : _layers) files.push_back(layer.path);
+    if (!_own.Path().IsEmpty()) files.push_back(_own.Path());
+    return files;
 }
 
 // The attribute of a key, which a lock on a prefix may govern before anybody has said anything of it.
@@ -295,8 +319,7 @@ KivSettingStore::Keys KivSettingStore::Rollback()
 KivSettingStore::Keys KivSettingStore::Refresh()
 {
     const AllShown shown = ShownNow();
-    ReadLayers();
-    if (_own.Read()) TakeOwnFile();
+    ReadFiles();
     return ChangedSince(shown);
 }
 

@@ -54,6 +54,7 @@ public:
 
     bool IsAdministrator() const { return _isAdministrator; }
     bool IsProtected() const { return _own.IsProtected(); }
+    std::vector<KivUnicodeString> Files() const;
 
     KivSettingListeners listeners;
     bool isInitial = false; // writes bear the mark "initial"
@@ -80,6 +81,7 @@ private:
     void AimAll();
     void Govern(KivSettingAttribute& attribute) const;
     void GovernAllOwn();
+    void ReadFiles();
     void ReadLayers();
     void TakeOwnFile();
     void Change(std::size_t index, const KivSettingEntry& says);
@@ -107,4 +109,6 @@ private:
     Journal _unsaved;                                // in writing order
     Journal _uncommitted;
     std::set<std::string_view> _typesReported;
+    bool _isRead = false;
+    std::set<KivUnicodeString> _said; // at the last reading
 };
