@@ -39,22 +39,14 @@ KivSettingStore::KivSettingStore(std::string_view name, const KivUnicodeString& 
     ReadFiles();
 }
 
-// Reads what has changed on disk. What stays wrong is said once, not at every reading.
+// Reads what has changed on disk.
 void KivSettingStore::ReadFiles()
 {
-    std::vector<KivDiagnostic> said;
-    KivDiagnosticSink sink =
-        KivSetDiagnosticSink([&said](const KivDiagnostic& diagnostic) { said.push_back(diagnostic); });
-    ReadLayers();
-    if (_own.Read() || !_isRead) TakeOwnFile();
-    _isRead = true;
-    KivSetDiagnosticSink(std::move(sink));
-    std::set<KivUnicodeString> words;
-    for (const KivDiagnostic& diagnostic : said) {
-        if (words.insert(diagnostic.Words()).second && !_said.contains(diagnostic.Words()))
-            KivReport(diagnostic);
-    }
-    _said = std::move(words);
+    _news.Say([this] {
+        ReadLayers();
+        if (_own.Read() || !_isRead) TakeOwnFile();
+        _isRead = true;
+    });
 }
 
 std::vector<KivUnicodeString> KivSettingStore::Files() const
@@ -389,18 +381,8 @@ void KivSettingStore::Describe(const KivSettingAttribute& attribute, KivSettingI
 {
     KivSettingProvenance place;
     Trace(attribute, place);
-    info.origin = place.origin;
-    info.initial = place.initial;
+    place.Fill(info);
     info.value = KivShownSettingText(attribute.Shown());
-    if (place.layer) info.layer = *place.layer;
-    if (place.file) info.file = *place.file;
-    info.line = place.line;
-    info.locked = place.locked;
-    info.lockedHere = place.lockedHere;
-    info.canLock = place.canLock;
-    if (place.lockLayer) info.lockLayer = *place.lockLayer;
-    if (place.lockFile) info.lockFile = *place.lockFile;
-    info.lockLine = place.lockLine;
 }
 
 void KivSettingStore::ReportOtherType(const KivSettingAttribute& attribute, const char* expected)

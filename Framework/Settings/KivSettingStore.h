@@ -2,6 +2,7 @@
 
 #include "Settings/KivSettingLayer.h"
 #include "Settings/KivSettingListeners.h"
+#include "Settings/KivSettingNews.h"
 #include "Settings/KivSettingOwnFile.h"
 #include "Settings/KivSettingPrefixLocks.h"
 #include "Settings/KivSettingTable.h"
@@ -110,5 +111,5 @@ private:
     Journal _uncommitted;
     std::set<std::string_view> _typesReported;
     bool _isRead = false;
-    std::set<KivUnicodeString> _said; // at the last reading
+    KivSettingNews _news;
 };

@@ -1,36 +1,14 @@
+#include "FaultyDisk.h"
 #include "Fuzz/SettingFileProperties.h"
 #include "Settings/KivSettingLayer.h"
 #include "Support/KivSettingsSandbox.h"
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <chrono>
-#include <cstdarg>
-#include <dlfcn.h>
-#include <fcntl.h>
 #include <random>
 #include <sys/stat.h>
 #include <thread>
-
-namespace {
-
-std::atomic<bool> isShareStuck{false};
-
-} // namespace
-
-// The C library's, but for a share that does not answer: this program's own comes first.
-extern "C" int open(const char* path, int flags, ...)
-{
-    static const auto next = reinterpret_cast<int (*)(const char*, int, ...)>(dlsym(RTLD_NEXT, "open"));
-    va_list more;
-    va_start(more, flags);
-    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
-    va_end(more);
-    while (isShareStuck && std::string_view(path).find("/share/") != std::string_view::npos)
-        std::this_thread::sleep_for(std::chrono::milliseconds(2));
-    return next(path, flags, mode);
-}
 
 namespace {
 
@@ -87,6 +65,10 @@ std::string Noise(std::mt19937& random)
 
 TEST(Noise, NoBytesBreakTheReaderOrTheWriter)
 {
+    for (const auto& sample : std::filesystem::directory_iterator(
+             std::filesystem::path(__FILE__).parent_path() / "../../Fuzz/settings")) {
+        EXPECT_EQ(BrokenProperty(KivSettingsSandbox::Bytes(sample.path())), nullptr) << sample.path();
+    }
     std::mt19937 random(20240607);
     for (int i = 0; i < 30000; ++i) {
         const std::string text = Noise(random);
@@ -134,7 +116,7 @@ TEST(Noise, AStuckShareCostsOneSecondAndNoLock)
     box.Write(box.File("share"), "lock int Ruler = 1\n");
     box.Write(box.File("share/deeper"), "lock Dim*\n");
     box.Reopen();
-    isShareStuck = true;
+    FaultyDisk::isShareStuck = true;
     const auto start = std::chrono::steady_clock::now();
     KivSettingRepository& repository = box.Reopen();
     const auto took = std::chrono::steady_clock::now() - start;
@@ -150,7 +132,7 @@ TEST(Noise, AStuckShareCostsOneSecondAndNoLock)
     for (int i = 0; i < 5; ++i) EXPECT_TRUE(repository.Refresh().empty());
     EXPECT_LT(std::chrono::steady_clock::now() - again, std::chrono::milliseconds(300));
     EXPECT_EQ(box.Said("does not answer in time"), 2);
-    isShareStuck = false;
+    FaultyDisk::isShareStuck = false;
     std::this_thread::sleep_for(std::chrono::milliseconds(50));
     box.Write(box.File("share"), "lock int Ruler = 5\n");
     EXPECT_EQ(repository.Refresh().size(), 1U);
@@ -202,6 +184,41 @@ TEST(Noise, ADirectoryThatOthersMayWriteToIsRefused)
     EXPECT_EQ(repository.SaveRepository(nullptr), S_OK);
     EXPECT_EQ(box.Bytes(box.File("open")), "int Ruler = 1\nint Grid = 7\n");
     EXPECT_TRUE(std::filesystem::is_symlink(box.File("user")));
+}
+
+// What a receipt says is what a power failure would leave.
+TEST(Noise, EveryFaultOfASaveHasItsReceipt)
+{
+    using Receipt = KivSettingRepository::Receipt;
+    KivSettingsSandbox box;
+    box.Write(box.File("user"), "int Ruler = 1\n");
+    KivSettingRepository& repository = box.Reopen();
+    int value = 2;
+    const auto save = [&](FaultyDisk::Fault fault) {
+        ++value;
+        repository.WriteSetting("Ruler", &value, 1, 0);
+        FaultyDisk::fault = fault;
+        const HRESULT result = repository.SaveRepository(nullptr);
+        FaultyDisk::fault = FaultyDisk::Fault::None;
+        EXPECT_EQ(result == S_OK, repository.LastReceipt() != Receipt::Refused);
+        EXPECT_EQ(box.Read(repository, "Ruler", 0), value) << "nothing in memory is lost";
+        EXPECT_EQ(box.Names("user").size(), 1U) << "no litter";
+        return repository.LastReceipt();
+    };
+    const auto onDisk = [&] { return box.Bytes(box.File("user")); };
+    EXPECT_EQ(save(FaultyDisk::Fault::FlushFile), Receipt::Refused);
+    EXPECT_EQ(save(FaultyDisk::Fault::Write), Receipt::Refused);
+    EXPECT_EQ(save(FaultyDisk::Fault::Rename), Receipt::Refused);
+    EXPECT_EQ(onDisk(), "int Ruler = 1\n");
+    EXPECT_EQ(save(FaultyDisk::Fault::FlushDirectory), Receipt::Visible);
+    EXPECT_EQ(onDisk(), "int Ruler = 6\n");
+    EXPECT_EQ(save(FaultyDisk::Fault::ShortWrites), Receipt::Durable);
+    EXPECT_EQ(onDisk(), "int Ruler = 7\n");
+    EXPECT_EQ(repository.SaveRepository(nullptr), S_OK);
+    EXPECT_EQ(repository.LastReceipt(), Receipt::Nothing);
+    for (const char* words : {"cannot be written: No space left", "cannot be replaced: Input/output error"})
+        EXPECT_EQ(box.Said(words), 1) << words;
+    EXPECT_EQ(box.Said("directory cannot be flushed"), 1);
 }
 
 } // namespace
