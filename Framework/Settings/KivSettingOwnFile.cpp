@@ -79,12 +79,12 @@ bool KivSettingOwnFile::Refuse(const KivUnicodeString& reason) const
 // Of the file itself and of what a link in its place leads to.
 KivUnicodeString KivSettingOwnFile::DirectoryTrouble() const
 {
-    for (const KivUnicodeString& path : {_path, TargetOf(_path)}) {
-        KivUnicodeString trouble =
-            KivDirectoryTrouble(KivUnicodeString(KivDirectoryOf(path.View())), _isAdministrators);
-        if (!trouble.IsEmpty()) return trouble;
-    }
-    return {};
+    const KivUnicodeString directory(KivDirectoryOf(_path.View()));
+    const KivUnicodeString target = TargetOf(_path);
+    const KivUnicodeString targets(KivDirectoryOf(target.View()));
+    KivUnicodeString trouble = KivDirectoryTrouble(directory, _isAdministrators);
+    if (trouble.IsEmpty() && targets != directory) trouble = KivDirectoryTrouble(targets, _isAdministrators);
+    return trouble;
 }
 
 bool KivSettingOwnFile::MakeDirectory(const KivUnicodeString& target) const

@@ -94,10 +94,9 @@ void KivSettingStore::GovernAllOwn()
     }
 }
 
-const KivSettingAttribute* KivSettingStore::FindGoverned(const char* key)
+// A key that nobody has met, when a lock governs it.
+const KivSettingAttribute* KivSettingStore::MeetGoverned(std::string_view key)
 {
-    if (!key) return nullptr;
-    if (const KivSettingAttribute* known = _table.Find(key)) return known;
     const bool isLocked = _prefixLocks.Find(key).layer >= 0 || _ownPrefixLocks.Find(key).layer >= 0;
     if (!isLocked || !KivIsSettingKey(key)) return nullptr;
     return &_table[Meet(key, KivSettingTable::Hash(key))];

@@ -26,7 +26,11 @@ public:
 
     const KivSettingAttribute* Find(const char* key) const { return key ? _table.Find(key) : nullptr; }
     // The same for who wants to know of locks: also a key that nobody has met may be under one.
-    const KivSettingAttribute* FindGoverned(const char* key);
+    const KivSettingAttribute* FindGoverned(const char* key)
+    {
+        const KivSettingAttribute* known = Find(key);
+        return known || !key ? known : MeetGoverned(key);
+    }
 
     // Makes these keys known, in this order: from now on they are found by their place in it.
     // Answers where their values are from now on; what stands there follows every change.
@@ -73,6 +77,7 @@ private:
     using Journal =
         std::vector<std::pair<std::size_t, KivSettingEntry>>; // an attribute, and what it said before
 
+    const KivSettingAttribute* MeetGoverned(std::string_view key);
     std::size_t Meet(std::string_view key, std::size_t hash);
     void Aim(const KivSettingAttribute& attribute)
     {
