@@ -152,13 +152,20 @@ void OptionsWindow::PageChosen(int page)
 void OptionsWindow::OrderTab()
 {
     QWidget* last = _list;
+    Qt::FocusPolicy lastPolicy = last->focusPolicy();
     QList<QWidget*> order;
     for (int page = 0; page < PageCount(); ++page) order << PageView(page).Fields();
     order << _reset << _ok << _cancel;
     for (QWidget* next : order) {
+        // An open padlock has a place as well, for when it closes; without a focus it would be passed over.
+        const Qt::FocusPolicy policy = next->focusPolicy();
+        next->setFocusPolicy(Qt::StrongFocus);
         setTabOrder(last, next);
+        last->setFocusPolicy(lastPolicy);
+        lastPolicy = policy;
         last = next;
     }
+    last->setFocusPolicy(lastPolicy);
 }
 
 // Enters what is being typed; a refused text keeps the window open.

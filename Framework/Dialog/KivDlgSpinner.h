@@ -27,7 +27,7 @@ public:
     // How a number without a unit is printed, in the manner of "%g"; null or empty: by the precision.
     void SetFormat(const char* format);
     const char* GetFormat() const { return _format.ConvertToChar(); }
-    // Characters to make room for, unit included; 0 leaves it to the view.
+    // Characters to make room for beside the unit; 0 leaves it to the view.
     void SetVisibleTextWidth(int characters);
     int GetVisibleTextWidth() const { return _textWidth; }
 

@@ -73,8 +73,12 @@ std::vector<KivDiagnostic> KivOptionsSession::Commit()
     // The editors are silent by contract; what they meet reaches the framework's sink, where it is heard
     // here.
     std::vector<KivDiagnostic> errors;
-    KivDiagnosticSink before = KivSetDiagnosticSink([&](const KivDiagnostic& diagnostic) {
-        if (diagnostic.severity == KivDiagnostic::Severity::Error) errors.push_back(diagnostic);
+    const KivDiagnosticSink before = KivSetDiagnosticSink({});
+    KivSetDiagnosticSink([&](const KivDiagnostic& diagnostic) {
+        if (diagnostic.severity == KivDiagnostic::Severity::Error)
+            errors.push_back(diagnostic);
+        else if (before)
+            before(diagnostic);
     });
     for (const Page& page : _pages) page.settings->CommitModification(kNoRepository);
     KivSetDiagnosticSink(before);

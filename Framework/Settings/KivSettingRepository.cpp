@@ -77,7 +77,10 @@ template <class T> HRESULT KivSettingRepository::Read(const char* key, T* value,
     const KivSettingAttribute* attribute = Store().Find(key);
     if (!attribute || !value || count != 1) return E_FAIL;
     const T* const shown = std::get_if<T>(&attribute->Shown());
-    if (!shown) return E_FAIL;
+    if (!shown) {
+        Store().ReportOtherType(*attribute, KivSettingTypeName(T()));
+        return E_FAIL;
+    }
     *value = *shown;
     return S_OK;
 }

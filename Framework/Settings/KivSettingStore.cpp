@@ -1,5 +1,7 @@
 #include "Settings/KivSettingStore.h"
 
+#include "Base/KivDiagnostic.h"
+
 #include "Settings/KivSettingLayers.h"
 
 #include <algorithm>
@@ -267,4 +269,16 @@ void KivSettingStore::Describe(const KivSettingAttribute& attribute, KivSettingI
         info.lockFile = _own.Path();
         info.lockLine = attribute.own.lockLine;
     }
+}
+
+void KivSettingStore::ReportOtherType(const KivSettingAttribute& attribute, const char* expected)
+{
+    if (!KivHasValue(attribute.Shown()) || !_typesReported.insert(attribute.key).second) return;
+    KivSettingInfo info;
+    Describe(attribute, info);
+    KivReport({.text = KivUnicodeString("the value is of the type ") + KivSettingTypeName(attribute.Shown()) +
+                       " instead of " + expected + "; the default is used",
+               .file = info.file,
+               .line = info.line,
+               .key = KivString(attribute.key)});
 }

@@ -5,6 +5,7 @@
 #include "Settings/KivSettingOwnFile.h"
 #include "Settings/KivSettingTable.h"
 
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -33,6 +34,8 @@ public:
     Keys Save(Receipt& receipt);
 
     void Describe(const KivSettingAttribute& attribute, KivSettingInfo& info) const;
+    // Says, once a key, that a reader expected another type than the one stored.
+    void ReportOtherType(const KivSettingAttribute& attribute, const char* expected);
 
     bool IsAdministrator() const { return _isAdministrator; }
     bool IsProtected() const { return _own.IsProtected(); }
@@ -70,4 +73,5 @@ private:
     KivSettingTable _table;
     Journal _unsaved; // in writing order
     Journal _uncommitted;
+    std::set<std::string_view> _typesReported;
 };

@@ -86,14 +86,26 @@ TEST_F(OptionsWindows, PagesAreBuiltWhenFirstShownAndKeysWalkThem)
     EXPECT_EQ(window->CurrentPage(), last);
     QTest::keyClick(window.get(), Qt::Key_PageUp, Qt::ControlModifier);
     EXPECT_EQ(window->CurrentPage(), first);
+}
 
-    // From the last field of either page Tab leads to the buttons.
-    for (const char* page : {"TestEditor", "othertesteditor"}) {
+TEST_F(OptionsWindows, TabGoesFromTheListThroughThePageToTheButtons)
+{
+    for (const char* page : {"TestEditor", "OtherTestEditor", "TestEditor"}) {
         ASSERT_TRUE(window->ShowPage(page));
-        window->PageView(window->CurrentPage()).Fields().back()->setFocus();
-        for (const char* button : {"Reset", "OK", "Cancel"}) {
+        // A padlock that closes while the window is open takes its place.
+        KivDialog* frame = window->Session()->FindPage(page)->frame.Get();
+        static_cast<KivDlgLock*>(frame->FindDialog("checkGridLock"))->SetInfo(TestPage::LockedInfo("Grid"));
+        QList<QWidget*> order;
+        for (const char* name :
+             {"checkGridLock", "checkSnapLock", "checkAllowDistortions_dialog", "editorH_dialog",
+              "editorAngleLock", "comboBackground_dialog", "comboDetailLock", "comboType_dialog",
+              "comboWeight_dialog", "comboDirection_dialog", "editorFile_dialog"})
+            order << NativePiece::Of(frame->FindDialog(name))->Widget();
+        order << Button("Reset") << Button("OK") << Button("Cancel");
+        window->findChild<QListWidget*>()->setFocus();
+        for (const QWidget* next : order) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            EXPECT_EQ(QApplication::focusWidget(), Button(button)) << page;
+            ASSERT_EQ(QApplication::focusWidget(), next) << page << " " << next->objectName().toStdString();
         }
     }
 }

@@ -95,7 +95,11 @@ TEST_F(RunTimeReaders, AnswerDefaultsWithoutAStoreAndStoredValuesWithOne)
     EXPECT_EQ(Everything(drafting), "1 0 0 1 1 1 0 0 0 0 1 1 1 2 3 4 5 6 0 255 0 2147483393 2147483393 510");
     box.Write(box.File("user"), "string Ruler = \"1\"\ndouble Drw_settings_GridSecondaryStep = 5\n");
     KivSettingRepository::ForgetAll();
-    EXPECT_EQ(Everything(drafting), kDefaults) << "a value of another type";
+    for (int twice = 0; twice < 2; ++twice)
+        EXPECT_EQ(Everything(drafting), kDefaults) << "values of another type";
+    ASSERT_EQ(box.diagnostics.size(), 2U) << "said once each";
+    EXPECT_EQ(box.diagnostics[0].key, "Ruler");
+    EXPECT_EQ(box.diagnostics[0].line, 1);
 }
 
 TEST_F(RunTimeReaders, SettersStoreWhatIsFitAndNotifyOnlyWhenAsked)

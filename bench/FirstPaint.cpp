@@ -1,0 +1,54 @@
+#include "HandWrittenDialog.h"
+#include "Options/KivOptionsSession.h"
+#include "OptionsWindow.h"
+#include "Ratio.h"
+#include "Support/KivSettingsSandbox.h"
+
+#include <QApplication>
+#include <cstdio>
+
+namespace {
+
+// From nothing to the first complete picture on the (offscreen) screen.
+void Paint(QWidget& window)
+{
+    window.show();
+    QCoreApplication::processEvents();
+    benchmark::DoNotOptimize(window.grab().width());
+}
+
+void Ours(benchmark::State& state)
+{
+    KivSettingsSandbox box;
+    KivUserSettingsManager::LoadPages("KivDuiSettings");
+    KivUserSettingsManager manager;
+    for (auto _ : state) {
+        OptionsWindow window(std::make_unique<KivOptionsSession>(manager), OptionsMemory(QString()));
+        window.resize(960, 720);
+        Paint(window);
+    }
+}
+
+void Bare(benchmark::State& state)
+{
+    for (auto _ : state) {
+        HandWrittenDialog window;
+        window.resize(960, 720);
+        Paint(window);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    int none = 1;
+    // The offscreen platform says at every window that it cannot pass on size hints.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& said) {
+        if (!said.contains("propagateSizeHints")) std::fprintf(stderr, "%s\n", qPrintable(said));
+    });
+    QApplication application(none, argv);
+    KivRatio::Add("first paint of the options / the same by hand in Qt", 1.25, &Ours, &Bare);
+    return KivRatio::Run(argc, argv);
+}

@@ -1,0 +1,205 @@
+#include "KivDrwCatalogue.h"
+#include "KivDrwRepository.h"
+#include "Options/KivOptionsSession.h"
+#include "Ratio.h"
+#include "Support/KivSettingsSandbox.h"
+
+#include <fcntl.h>
+#include <string_view>
+#include <unistd.h>
+#include <unordered_map>
+
+namespace {
+
+// The barest store: one hash table of the same keys.
+struct Hash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view key) const { return std::hash<std::string_view>{}(key); }
+};
+using Table = std::unordered_map<std::string, KivDrwValue, Hash, std::equal_to<>>;
+
+Table BareTable()
+{
+    Table table;
+    for (const KivDrwRow& row : KivDrwCatalogue::Rows()) table.emplace(row.key, row.makeDefault());
+    return table;
+}
+
+// A settings file with every key in it.
+void FillFile(KivSettingsSandbox& box)
+{
+    KivSettingRepository::ForgetAll();
+    ResetAndWriteSettings(1);
+    KivDrwRepository()->SaveRepository(nullptr);
+    if (!std::filesystem::exists(box.File("user"))) std::abort();
+}
+
+template <class T> void AddRead(const std::string& name, const KivDrwKey<T>& key)
+{
+    KivRatio::Add(
+        name, 2.0,
+        [&key](benchmark::State& state) {
+            KivSettingsSandbox box;
+            FillFile(box);
+            const KivSettingRepository* repository = KivDrwRepository();
+            T value{};
+            for (auto _ : state) {
+                benchmark::DoNotOptimize(repository->ReadSetting(key.name, &value, 1));
+                benchmark::DoNotOptimize(value);
+            }
+        },
+        [&key](benchmark::State& state) {
+            const Table table = BareTable();
+            T value{};
+            const char* wanted = key.name;
+            for (auto _ : state) {
+                benchmark::DoNotOptimize(wanted);
+                value = std::get<T>(table.find(std::string_view(wanted))->second);
+                benchmark::DoNotOptimize(value);
+            }
+        });
+}
+
+void ReadAllKeys(const KivSettingRepository& repository, std::vector<KivDrwValue>& values)
+{
+    std::size_t i = 0;
+    for (const KivDrwRow& row : KivDrwCatalogue::Rows())
+        std::visit([&](auto& value) { repository.ReadSetting(row.key, &value, 1); }, values[i++]);
+}
+
+void Open(benchmark::State& state)
+{
+    KivSettingsSandbox box;
+    FillFile(box);
+    std::vector<KivDrwValue> values;
+    for (const KivDrwRow& row : KivDrwCatalogue::Rows()) values.push_back(row.makeDefault());
+    for (auto _ : state) {
+        KivSettingRepository::ForgetAll();
+        ReadAllKeys(*KivDrwRepository(), values);
+    }
+}
+
+void BareOpen(benchmark::State& state)
+{
+    KivSettingsSandbox box;
+    FillFile(box);
+    const std::string file = box.File("user").string();
+    for (auto _ : state) {
+        std::ifstream stream(file, std::ios::binary);
+        std::vector<std::string> lines;
+        for (std::string line; std::getline(stream, line);) lines.push_back(line);
+        benchmark::DoNotOptimize(lines);
+    }
+}
+
+void WriteAll(benchmark::State& state)
+{
+    KivSettingsSandbox box;
+    FillFile(box);
+    for (auto _ : state) benchmark::DoNotOptimize(ResetAndWriteSettings(1));
+}
+
+void BareWriteAll(benchmark::State& state)
+{
+    Table table = BareTable();
+    for (auto _ : state) {
+        for (const KivDrwRow& row : KivDrwCatalogue::Rows()) {
+            const KivDrwValue value = table.find(std::string_view(row.key))->second;
+            table.find(std::string_view(row.key))->second = value;
+        }
+    }
+}
+
+void Save(benchmark::State& state)
+{
+    KivSettingsSandbox box;
+    FillFile(box);
+    KivSettingRepository* repository = KivDrwRepository();
+    int value = 0;
+    for (auto _ : state) {
+        value = 1 - value;
+        repository->WriteSetting(KivDrwKeys::Ruler.name, &value, 1, 0);
+        repository->SaveRepository(nullptr);
+        if (repository->LastReceipt() != KivSettingRepository::Receipt::Durable)
+            state.SkipWithError("not saved");
+    }
+}
+
+void BareSave(benchmark::State& state)
+{
+    KivSettingsSandbox box;
+    FillFile(box);
+    const std::string bytes = box.Bytes(box.File("user"));
+    const std::string directory = (box.root / "user").string(), file = directory + "/bare",
+                      temporary = file + ".tmp";
+    for (auto _ : state) {
+        const int handle = open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+        const bool written = write(handle, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size());
+        if (!written || fsync(handle) != 0) state.SkipWithError("not written");
+        close(handle);
+        rename(temporary.c_str(), file.c_str());
+        const int parent = open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        fsync(parent);
+        close(parent);
+    }
+}
+
+long Nodes(const KivDialog& node)
+{
+    long count = 1;
+    for (const KivDialog* child : node.Children()) count += Nodes(*child);
+    return count;
+}
+
+void BuildPage(benchmark::State& state)
+{
+    KivSettingsSandbox box;
+    FillFile(box);
+    KivUserSettingsManager::LoadPages("KivDuiSettings");
+    KivUserSettingsManager manager;
+    for (auto _ : state) {
+        const KivOptionsSession session(manager);
+        if (session.Pages().empty()) state.SkipWithError("no page");
+    }
+}
+
+// As many objects as the page has nodes, each with a name, a title and a list of children, in one tree.
+struct BareNode {
+    std::string name, title;
+    std::vector<std::unique_ptr<BareNode>> children;
+};
+
+void BareBuildPage(benchmark::State& state)
+{
+    KivSettingsSandbox box;
+    KivUserSettingsManager::LoadPages("KivDuiSettings");
+    KivUserSettingsManager manager;
+    const long nodes = [&] {
+        KivOptionsSession session(manager);
+        return Nodes(session.Root());
+    }();
+    for (auto _ : state) {
+        BareNode root;
+        for (long i = 0; i < nodes; ++i) {
+            auto node = std::make_unique<BareNode>();
+            node->name = "editorGridGraduationV_dialog";
+            node->title = "Graduations, vertical";
+            root.children.push_back(std::move(node));
+        }
+        benchmark::DoNotOptimize(root);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    AddRead("read one int", KivDrwKeys::Drw_settings_GridSecondaryStep);
+    AddRead("read one double", KivDrwKeys::Drw_settings_GridPrimarySpacing);
+    AddRead("read one string", KivDrwKeys::DrwGVSXmlTrel);
+    KivRatio::Add("open 218 keys and read all / bytes into lines", 3.0, &Open, &BareOpen);
+    KivRatio::Add("ResetAndWriteSettings(1) / 218 hash look-ups twice", 10.0, &WriteAll, &BareWriteAll);
+    KivRatio::Add("save after one change / write, flush, rename, flush", 1.15, &Save, &BareSave);
+    KivRatio::Add("open the General page in the tree / as many nodes", 30.0, &BuildPage, &BareBuildPage);
+    return KivRatio::Run(argc, argv);
+}
