@@ -3,7 +3,6 @@
 #include "Dialog/KivTextCatalogue.h"
 #include "DraftingOptions.h"
 #include "DraftingText.h"
-#include "DraftingVersion.h"
 #include "KivDrwOptionsServices.h"
 #include "KivDrwSketcherSettings.h"
 #include "Options/KivOptionsSession.h"

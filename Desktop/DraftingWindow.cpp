@@ -4,7 +4,6 @@
 #include "DraftingMessage.h"
 #include "DraftingText.h"
 #include "DraftingTree.h"
-#include "DraftingVersion.h"
 #include "DraftingWelcome.h"
 #include "OptionsWindow.h"
 #include "Settings/KivSketcherSettings.h"

@@ -6,6 +6,7 @@
 #include "DraftingWindow.h"
 #include "KivDrwDraftingSettings.h"
 #include "KivDrwSketcherSettings.h"
+#include "OffscreenPlatform.h"
 #include "Settings/KivSettingRepository.h"
 #include "SettingsWatch.h"
 #include "SheetSettings.h"
@@ -50,7 +51,7 @@ int main(int argc, char** argv)
         line.screenshots = "screenshots";
         std::cout << DraftingText("NoScreen").toStdString() << '\n';
     }
-    if (line.screenshots) qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (line.screenshots) OffscreenPlatform::Choose();
     if (line.scale != 1.0) qputenv("QT_SCALE_FACTOR", QByteArray::number(line.scale));
 
     // The arguments are ours and have been read; the toolkit gets the name alone.

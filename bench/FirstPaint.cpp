@@ -1,11 +1,11 @@
 #include "HandWrittenDialog.h"
+#include "OffscreenPlatform.h"
 #include "Options/KivOptionsSession.h"
 #include "OptionsWindow.h"
 #include "Ratio.h"
 #include "Support/KivSettingsSandbox.h"
 
 #include <QApplication>
-#include <cstdio>
 
 namespace {
 
@@ -42,12 +42,8 @@ void Bare(benchmark::State& state)
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    OffscreenPlatform::Choose();
     int none = 1;
-    // The offscreen platform says at every window that it cannot pass on size hints.
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& said) {
-        if (!said.contains("propagateSizeHints")) std::fprintf(stderr, "%s\n", qPrintable(said));
-    });
     QApplication application(none, argv);
     KivRatio::Add("first paint of the options / the same by hand in Qt", 1.25, &Ours, &Bare);
     return KivRatio::Run(argc, argv);

@@ -67,6 +67,21 @@ std::optional<std::string> Unquoted(std::string_view quoted)
     return text;
 }
 
+// Some values are names and numbers for programs.
+bool IsForPeople(std::string_view key)
+{
+    return !key.ends_with(".Icon") && !key.ends_with(".Position");
+}
+
+KivUnicodeString Lengthened(const KivUnicodeString& text)
+{
+    // In words, so that what wraps can wrap.
+    std::string longer = "[" + std::string(text.View()) + " ";
+    const std::size_t wanted = text.View().size() * 14 / 10;
+    for (std::size_t letter = 0; longer.size() < wanted; ++letter) longer += letter % 7 == 6 ? ' ' : '~';
+    return KivUnicodeString(longer + "]");
+}
+
 } // namespace
 
 const KivTextCatalogue& KivTextCatalogue::Open(const KivString& name)
@@ -77,6 +92,11 @@ const KivTextCatalogue& KivTextCatalogue::Open(const KivString& name)
         // The user's language first: what it says, English does not replace.
         place->second.Load(shelf.language, name);
         if (shelf.language != kEnglish) place->second.Load(kEnglish, name);
+        if (shelf.language == kPseudoLanguage) {
+            for (auto& [key, text] : place->second._texts) {
+                if (IsForPeople(key)) text = Lengthened(text);
+            }
+        }
         if (place->second._texts.empty())
             KivReport({.text = "there are no texts of this name; controls show their object names",
                        .file = KivUnicodeString(name) + ".texts"});
@@ -102,7 +122,7 @@ const KivString& KivTextCatalogue::GetLanguage()
 
 std::set<std::string> KivTextCatalogue::KnownLanguages()
 {
-    std::set<std::string> languages;
+    std::set<std::string> languages{kPseudoLanguage};
     for (const fs::path& module : Modules()) {
         std::error_code failed;
         for (fs::directory_iterator entry(module / "texts", failed), end; !failed && entry != end;

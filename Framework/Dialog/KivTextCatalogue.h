@@ -20,11 +20,15 @@ public:
     // A text of the framework's own catalogue; the key itself when it is missing.
     static KivUnicodeString FrameworkText(const char* key);
 
+    // Not a language: the English texts, marked at both ends and longer by 40 %, as a translation may make
+    // them. Shows at a glance what is cut off and what no catalogue holds.
+    static constexpr const char* kPseudoLanguage = "Pseudo";
+
     // The user's language, a directory name such as "English"; catalogues opened before it is set keep
     // theirs.
     static void SetLanguage(const KivString& language);
     static const KivString& GetLanguage();
-    // The languages that some module has texts in, sorted.
+    // The languages that some module has texts in, and the pseudo language; sorted.
     static std::set<std::string> KnownLanguages();
 
     // Where the modules' resources lie: share/kiv of the installation until a test names another directory.

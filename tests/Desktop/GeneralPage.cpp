@@ -1,4 +1,5 @@
 #include "Base/KivEnvironment.h"
+#include "Dialog/KivTextCatalogue.h"
 #include "NativePiece.h"
 #include "OptionsMessageStrip.h"
 #include "OptionsPageView.h"
@@ -11,6 +12,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QPixmap>
+#include <QScrollBar>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -23,8 +25,7 @@ protected:
     {
         if (!QFile::exists(Library())) GTEST_SKIP() << "built without the drafting library";
         ASSERT_TRUE(KivUserSettingsManager::LoadPages("KivDuiSettings"));
-        KivSettingsSandbox::Write(sandbox.File("site"),
-                                  "kivsettings 1\nlock int Drw_settings_GridSnapPt = 1\n");
+        KivSettingsSandbox::Write(sandbox.File("site"), "lock int Drw_settings_GridSnapPt = 1\n");
         sandbox.NameLayers({"site"});
         KivSettingRepository::ForgetAll();
     }
@@ -130,6 +131,44 @@ TEST_F(GeneralPage, EveryControlIsNamedDescribedAndInLine)
 
     const QString directory = qEnvironmentVariable("KIV_TEST_PICTURES");
     EXPECT_TRUE(directory.isEmpty() || window->grab().save(QDir(directory).filePath("general.png")));
+}
+
+TEST_F(GeneralPage, StillFitsWhenTranslationsAreLonger)
+{
+    // Read anew in the other language.
+    const auto speak = [](const char* language) {
+        KivTextCatalogue::SetLanguage(language);
+        KivTextCatalogue::SetResourceRoot("");
+    };
+    speak(KivTextCatalogue::kPseudoLanguage);
+    Open();
+    OptionsPageView& view = window->PageView(window->CurrentPage());
+    // This platform's screen is narrower than any real one; there the page scrolls.
+    window->resize(1000, window->height());
+    QTest::qWait(1);
+    EXPECT_FALSE(view.horizontalScrollBar()->isVisible());
+    QList<QWidget*> seen;
+    for (QWidget* widget : view.findChildren<QWidget*>()) {
+        const auto* piece = dynamic_cast<NativePiece*>(widget);
+        if (!piece || !widget->isVisibleTo(window.get()) || !piece->Node()->Children().empty()) continue;
+        const std::string name = widget->objectName().toStdString();
+        EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << name;
+        if (qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget)) {
+            EXPECT_GE(widget->width(), widget->sizeHint().width()) << name << " is cut off";
+        }
+        const QRect place(widget->mapTo(window.get(), QPoint()), widget->size());
+        for (const QWidget* other : seen) {
+            const QRect otherPlace(other->mapTo(window.get(), QPoint()), other->size());
+            EXPECT_FALSE(place.intersects(otherPlace))
+                << name << " lies on " << other->objectName().toStdString();
+        }
+        seen << widget;
+    }
+    EXPECT_GE(seen.size(), 30);
+    const QString directory = qEnvironmentVariable("KIV_TEST_PICTURES");
+    EXPECT_TRUE(directory.isEmpty() || window->grab().save(QDir(directory).filePath("longer.png")));
+    window.reset();
+    speak("English");
 }
 
 } // namespace

@@ -24,14 +24,9 @@ KivDrwLockDialog::KivDrwLockDialog(KivSettingRepository* repository, const KivSt
 }
 
 KivDrwLockDialog::KivDrwLockDialog(KivDialog* parent, const KivString& name, const KivSettingInfo& info)
-    : KivClass(parent, name, KivDlgGridLayout)
+    : KivClass(parent, name)
 {
     _lock = new (std::nothrow) KivDlgLock(this, name + "Lock", info, 0);
-}
-
-KivString KivDrwLockDialog::GetName() const
-{
-    return _dialog ? _dialog->GetName() : KivDlgFrame::GetName();
 }
 
 KivDialog* KivDrwLockDialog::GetDialog() const
@@ -77,47 +72,4 @@ unsigned long KivDrwLockDialog::GetSensitivity() const
     unsigned long forced = KivDlgDisabled;
     _lock->GetAssociatedDialogSensitivity(forced);
     return forced == KivDlgDisabled ? KivDlgDisabled : _dialog->GetSensitivity();
-}
-
-void KivDrwLockDialog::SetTitle(const KivUnicodeString& title)
-{
-    if (_dialog) _dialog->SetTitle(title);
-}
-KivUnicodeString KivDrwLockDialog::GetTitle() const
-{
-    return _dialog ? _dialog->GetTitle() : KivDlgFrame::GetTitle();
-}
-
-void KivDrwLockDialog::SetIconName(const KivString& normal, const KivString& focused,
-                                   const KivString& pressed, const KivString& disabled)
-{
-    if (_dialog) _dialog->SetIconName(normal, focused, pressed, disabled, 0);
-}
-
-void KivDrwLockDialog::SetHelp(const KivUnicodeString& help)
-{
-    if (_lock) _lock->SetHelp(help);
-    if (_dialog) _dialog->SetHelp(help);
-}
-KivUnicodeString KivDrwLockDialog::GetHelp() const
-{
-    return _dialog ? _dialog->GetHelp() : KivDlgFrame::GetHelp();
-}
-void KivDrwLockDialog::SetShortHelp(const KivUnicodeString& help)
-{
-    if (_lock) _lock->SetShortHelp(help);
-    if (_dialog) _dialog->SetShortHelp(help);
-}
-KivUnicodeString KivDrwLockDialog::GetShortHelp() const
-{
-    return _dialog ? _dialog->GetShortHelp() : KivDlgFrame::GetShortHelp();
-}
-void KivDrwLockDialog::SetLongHelp(const KivUnicodeString& help)
-{
-    if (_lock) _lock->SetLongHelp(help);
-    if (_dialog) _dialog->SetLongHelp(help);
-}
-KivUnicodeString KivDrwLockDialog::GetLongHelp() const
-{
-    return _dialog ? _dialog->GetLongHelp() : KivDlgFrame::GetLongHelp();
 }
