@@ -26,6 +26,14 @@ bool IsDirectory(std::string_view path)
 
 } // namespace
 
+void LayerCheck::Add(const KivDiagnostic& finding)
+{
+    for (const KivDiagnostic& other : _findings) {
+        if (other.Words() == finding.Words()) return; // of a file that was asked twice
+    }
+    _findings.push_back(finding);
+}
+
 const LayerCheck::Place* LayerCheck::LockOutside(const std::string& key) const
 {
     const auto found = _outer.find(key);
@@ -55,7 +63,8 @@ void LayerCheck::CheckValue(const KivSettingLine& line)
     } else {
         Say(line, KeySelection::UnknownWords(key) + (line.lock ? "" : "; the value has no effect"));
     }
-    if (const Place* lock = LockOutside(key)) {
+    const bool isLock = line.lock && _locks != Locks::UsersOwn; // says the same of itself
+    if (const Place* lock = isLock ? nullptr : LockOutside(key)) {
         Say(line, "the value has no effect: the key is locked at " + Words(lock->path, lock->line));
     }
     if (line.initial && _locks != Locks::UsersOwn)
@@ -71,7 +80,7 @@ void LayerCheck::CheckLock(const KivSettingLine& line)
         Say(line, KeySelection::UnknownWords(key) + "; the lock has no effect");
     }
     if (const Place* lock = LockOutside(key)) {
-        return Say(line, "the lock has no effect: the key is locked at " + Words(lock->path, lock->line) +
+        return Say(line, "the line has no effect: the key is locked at " + Words(lock->path, lock->line) +
                              " already");
     }
     const auto [own, isFirst] = _own.try_emplace(key, Place{_path, line.number});
@@ -116,8 +125,7 @@ void LayerCheck::Take(const KivUnicodeString& path, Locks locks)
     for (const KivSettingLine& line : file.Lines()) CheckLine(line);
     if (locks == Locks::Trial && !_own.empty()) {
         say(Severity::Warning,
-            "its " + std::to_string(_own.size()) +
-                " locks are not enforced: KivAdminSettingsPath names the layer, which a user can change");
+            "its locks are not enforced: KivAdminSettingsPath names the layer, and a user can change that");
     }
     for (const auto& [key, place] : _own) _outer.try_emplace(key, place);
 }

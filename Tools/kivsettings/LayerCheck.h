@@ -16,8 +16,8 @@ public:
 
     // Takes one file. It need not be there.
     void Take(const KivUnicodeString& path, Locks locks);
-    // Takes what somebody else found.
-    void Add(const KivDiagnostic& finding) { _findings.push_back(finding); }
+    // Takes what somebody else found, once.
+    void Add(const KivDiagnostic& finding);
 
     const std::vector<KivDiagnostic>& Findings() const { return _findings; }
     // Some file is there, but could not be read.
