@@ -1,5 +1,6 @@
 #include "NativePadlock.h"
 
+#include "Dialog/KivUserHand.h"
 #include "NativePanel.h"
 #include "NativeText.h"
 
@@ -53,7 +54,7 @@ NativePadlock::NativePadlock(KivDialog& node, QWidget* parent)
     : QAbstractButton(parent), NativePieceFor(node, this)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    connect(this, &QAbstractButton::clicked, this, [this] { OpenReason(); });
+    connect(this, &QAbstractButton::clicked, this, [this] { Pressed(); });
 }
 
 QSize NativePadlock::PadlockSize(const QWidget& widget)
@@ -66,12 +67,17 @@ QSize NativePadlock::PadlockSize(const QWidget& widget)
 
 void NativePadlock::ShowNode()
 {
-    setFocusPolicy(IsLocked() ? Qt::StrongFocus : Qt::NoFocus);
-    const QString reason = ToQt(TreeNode()->GetReason());
-    setAccessibleName(WindowText(IsLocked() ? "PadlockClosed" : "PadlockOpen"));
+    const bool isSwitch = IsSwitch();
+    setFocusPolicy(IsClosed() || isSwitch ? Qt::StrongFocus : Qt::NoFocus);
+    // What can be checked is a switch to screen readers.
+    setCheckable(isSwitch);
+    setChecked(isSwitch && IsClosed());
+    QString reason = ToQt(TreeNode()->GetReason());
+    if (isSwitch) reason += "\n" + WindowText(IsClosed() ? "PadlockUnlock" : "PadlockLock");
+    setAccessibleName(WindowText(isSwitch ? "PadlockSwitch" : IsClosed() ? "PadlockClosed" : "PadlockOpen"));
     setAccessibleDescription(reason);
     setToolTip(reason);
-    setWhatsThis(WindowText("PadlockHelp"));
+    setWhatsThis(WindowText(isSwitch ? "PadlockSwitchHelp" : "PadlockHelp"));
     update();
 }
 
@@ -87,7 +93,7 @@ void NativePadlock::paintEvent(QPaintEvent*)
         painter.translate(kGrid, 0.0);
         painter.scale(-1.0, 1.0);
     }
-    DrawPadlock(painter, IsLocked(), palette().color(QPalette::Active, QPalette::WindowText));
+    DrawPadlock(painter, IsClosed(), palette().color(QPalette::Active, QPalette::WindowText));
     painter.restore();
     if (!hasFocus()) return;
     QStyleOptionFocusRect option;
@@ -105,8 +111,11 @@ void NativePadlock::keyPressEvent(QKeyEvent* event)
     }
 }
 
-void NativePadlock::OpenReason()
+void NativePadlock::Pressed()
 {
-    if (IsLocked())
+    if (IsSwitch()) {
+        KivUserHand::Press(*TreeNode());
+    } else if (IsClosed()) {
         NativePanel::Open(*this, accessibleName(), ToQt(TreeNode()->GetReason()), NativePanel::Copy::Offered);
+    }
 }

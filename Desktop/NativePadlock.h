@@ -6,7 +6,7 @@
 #include <QAbstractButton>
 
 // A padlock. Closed, it is a control that Tab reaches and that opens the reason as a small panel; open, it is
-// pale and only answers to the pointer that rests on it.
+// pale and only answers to the pointer that rests on it. An administrator's is a switch, closed or open.
 class NativePadlock : public QAbstractButton, public NativePieceFor<KivDlgLock> {
 public:
     NativePadlock(KivDialog& node, QWidget* parent);
@@ -20,8 +20,11 @@ protected:
     bool StaysReachable() const override { return true; }
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    // Only the node knows whether it is closed.
+    void nextCheckState() override {}
 
 private:
-    bool IsLocked() const { return TreeNode() && TreeNode()->IsLocked(); }
-    void OpenReason();
+    bool IsClosed() const { return TreeNode() && TreeNode()->IsClosed(); }
+    bool IsSwitch() const { return TreeNode() && TreeNode()->IsSwitch(); }
+    void Pressed();
 };

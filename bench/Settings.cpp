@@ -60,6 +60,58 @@ template <class T> void AddRead(const std::string& name, const KivDrwKey<T>& key
         });
 }
 
+// By the place that is known when the program is built, against one load from an array of values.
+template <class T> void AddReadByKey(const std::string& name, const KivDrwKey<T>& key)
+{
+    KivRatio::Add(
+        name, 3.0,
+        [&key](benchmark::State& state) {
+            KivSettingsSandbox box;
+            FillFile(box);
+            const KivSettingRepository* repository = KivDrwRepository();
+            T value{};
+            for (auto _ : state) {
+                benchmark::DoNotOptimize(repository->ReadBound(key.place, &value));
+                benchmark::DoNotOptimize(value);
+            }
+        },
+        [&key](benchmark::State& state) {
+            std::vector<KivDrwValue> values;
+            for (const KivDrwRow& row : KivDrwCatalogue::Rows()) values.push_back(row.makeDefault());
+            T value{};
+            std::size_t place = key.place;
+            for (auto _ : state) {
+                benchmark::DoNotOptimize(place);
+                value = std::get<T>(values[place]);
+                benchmark::DoNotOptimize(value);
+            }
+        });
+}
+
+void Locker(benchmark::State& state)
+{
+    KivSettingsSandbox box;
+    FillFile(box);
+    const KivSettingRepository* repository = KivDrwRepository();
+    KivSettingProvenance place;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(repository->GetProvenance(KivDrwKeys::RotSnapAngle.name, place));
+        benchmark::DoNotOptimize(place);
+    }
+}
+
+void BareLocker(benchmark::State& state)
+{
+    KivSettingsSandbox box;
+    FillFile(box);
+    const KivSettingRepository* repository = KivDrwRepository();
+    double value = 0.0;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(repository->ReadSetting(KivDrwKeys::RotSnapAngle.name, &value, 1));
+        benchmark::DoNotOptimize(value);
+    }
+}
+
 void ReadAllKeys(const KivSettingRepository& repository, std::vector<KivDrwValue>& values)
 {
     std::size_t i = 0;
@@ -197,6 +249,10 @@ int main(int argc, char** argv)
     AddRead("read one int", KivDrwKeys::Drw_settings_GridSecondaryStep);
     AddRead("read one double", KivDrwKeys::Drw_settings_GridPrimarySpacing);
     AddRead("read one string", KivDrwKeys::DrwGVSXmlTrel);
+    AddReadByKey("read one int by its place / array load", KivDrwKeys::Drw_settings_GridSecondaryStep);
+    AddReadByKey("read one double by its place / array load", KivDrwKeys::Drw_settings_GridPrimarySpacing);
+    AddReadByKey("read one string by its place / array load", KivDrwKeys::DrwGVSXmlTrel);
+    KivRatio::Add("origin and lock of one key / read it", 1.5, &Locker, &BareLocker);
     KivRatio::Add("open 218 keys and read all / bytes into lines", 3.0, &Open, &BareOpen);
     KivRatio::Add("ResetAndWriteSettings(1) / 218 hash look-ups twice", 10.0, &WriteAll, &BareWriteAll);
     KivRatio::Add("save after one change / write, flush, rename, flush", 1.15, &Save, &BareSave);

@@ -1,5 +1,7 @@
 #include "Dialog/KivDlgLock.h"
 
+#include "Settings/KivSettingRepository.h"
+
 KivDlgLock::KivDlgLock(KivDialog* parent, const KivString& name, const KivSettingInfo& info,
                        unsigned long style)
     : KivClass(parent, name, style), _info(info)
@@ -12,6 +14,23 @@ void KivDlgLock::SetInfo(const KivSettingInfo& info)
     for (const KivWeakPtr<KivDialog>& dialog : _associated) {
         if (dialog) dialog->EnablingChanged();
     }
+}
+
+bool KivDlgLock::Toggle()
+{
+    KivSettingRepository* repository = KivSettingRepository::GetRepository(_info.repository.ConvertToChar());
+    const bool locked = !_info.lockedHere;
+    if (!IsSwitch() || !repository) return false;
+    if (repository->SetLock(_info.key.ConvertToChar(), locked) != S_OK) return false;
+    // One that an outer layer locks is closed already.
+    for (const KivString& companion : _info.companions) {
+        repository->SetLock(companion.ConvertToChar(), locked);
+    }
+    KivSettingInfo info;
+    repository->GetInfo(_info.key.ConvertToChar(), &info, 0);
+    info.companions = _info.companions;
+    SetInfo(info);
+    return true;
 }
 
 void KivDlgLock::AddAssociatedDialog(KivDialog* dialog)

@@ -15,6 +15,13 @@ public:
     // Another record of the same setting, after the administrator has changed its lock.
     void SetInfo(const KivSettingInfo& info);
     bool IsLocked() const { return _info.locked; }
+    // Whether it looks closed: locked, or closed by the administrator who edits the layer.
+    bool IsClosed() const { return _info.locked || _info.lockedHere; }
+    // An administrator's, who locks and unlocks the setting for the users of the layer that he edits.
+    bool IsSwitch() const { return _info.canLock; }
+    // Turns the switch over in the repository's working state, the companions of the setting along with it.
+    // False, and nothing changed, when it is none.
+    bool Toggle();
 
     // The record in words.
     KivUnicodeString GetReason() const { return _info.Words(); }

@@ -3,6 +3,7 @@
 #include "Dialog/KivComboColor.h"
 #include "Dialog/KivDlgCheckButton.h"
 #include "Dialog/KivDlgEditor.h"
+#include "Dialog/KivDlgLock.h"
 #include "Dialog/KivDlgSpinner.h"
 #include "Dialog/KivTextCatalogue.h"
 
@@ -43,6 +44,15 @@ KivHandAnswer KivUserHand::Tick(KivDlgCheckButton& button)
     const KivHandAnswer reach = Reach(button);
     if (reach) button.SetState(button.GetState() == KivDlgChecked ? KivDlgUnchecked : KivDlgChecked, 1);
     return reach;
+}
+
+KivHandAnswer KivUserHand::Press(KivDlgLock& lock)
+{
+    if (lock.IsCondemned() || !lock.IsShown())
+        return Refused(KivTextCatalogue::FrameworkText("HandNotShown"));
+    if (lock.Toggle()) return Done();
+    return Refused(lock.IsClosed() ? lock.GetReason()
+                                   : KivTextCatalogue::FrameworkText("HandNotAdministrator"));
 }
 
 KivHandAnswer KivUserHand::Choose(KivDlgCombo& combo, int line)

@@ -7,6 +7,7 @@ class KivDialog;
 class KivDlgCheckButton;
 class KivDlgCombo;
 class KivDlgEditor;
+class KivDlgLock;
 class KivDlgSpinner;
 
 // What came of a user's action: done, or refused with the reason to show him.
@@ -23,6 +24,9 @@ struct KivHandAnswer {
 namespace KivUserHand {
 
 KivHandAnswer Tick(KivDlgCheckButton& button);
+// Turns the padlock of an administrator, also that of a control which its page has disabled: whether users
+// may change a setting does not depend on another one.
+KivHandAnswer Press(KivDlgLock& lock);
 KivHandAnswer Choose(KivDlgCombo& combo, int line);
 KivHandAnswer ChooseColour(KivComboColor& combo, unsigned int red, unsigned int green, unsigned int blue);
 KivHandAnswer Type(KivDlgEditor& editor, const KivUnicodeString& text);

@@ -82,6 +82,7 @@ KivSettingFile::KivSettingFile(std::string text) : _text(std::make_unique<const 
         line.begin = begin;
         line.end = end;
         line.number = number;
+        _hasPatterns = _hasPatterns || line.isPattern;
         _damaged = _damaged || line.kind == KivSettingLine::Kind::Damaged;
         if (line.kind == KivSettingLine::Kind::Other) _lines.pop_back();
         begin = end;

@@ -23,6 +23,9 @@ public:
     // Every line but blank ones and comments, in order.
     const std::vector<KivSettingLine>& Lines() const { return _lines; }
 
+    // Whether a line locks all keys with a prefix.
+    bool HasPatterns() const { return _hasPatterns; }
+
     // A damaged line, or a version that this one does not know.
     bool IsDamaged() const { return _damaged; }
 
@@ -50,4 +53,5 @@ private:
     std::vector<KivSettingLine> _lines;
     bool _damaged = false;
     bool _newer = false;
+    bool _hasPatterns = false;
 };

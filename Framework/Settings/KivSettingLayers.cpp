@@ -95,6 +95,22 @@ std::vector<KivUnicodeString> KivSettingLayers::Administrator()
     return layers;
 }
 
+std::vector<KivUnicodeString> KivSettingLayers::Outside(const KivUnicodeString& edited)
+{
+    std::vector<KivUnicodeString> layers = Administrator();
+    if (edited.IsEmpty()) return layers;
+    const auto at = std::find(layers.begin(), layers.end(), edited);
+    layers.erase(at == layers.end() ? layers.begin() : at, layers.end());
+    return layers;
+}
+
+KivUnicodeString KivSettingLayers::FileIn(const KivUnicodeString& directory, std::string_view repository)
+{
+    KivUnicodeString path = directory;
+    if (!path.IsEmpty()) path.Append("/");
+    return path.Append(repository).Append(".kivsettings");
+}
+
 bool KivSettingLayers::AreEnforced()
 {
     return !OfSystem().empty();

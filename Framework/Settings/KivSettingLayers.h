@@ -2,6 +2,7 @@
 
 #include "Base/KivUnicodeString.h"
 
+#include <string_view>
 #include <vector>
 
 // Which directories hold settings on this machine. All paths are absolute and end without a slash.
@@ -10,6 +11,13 @@ public:
     // The administrator's, outermost first: those that the system's file names, one a line ("#" starts a
     // comment), else those of KivAdminSettingsPath, separated by colons.
     static std::vector<KivUnicodeString> Administrator();
+
+    // Of those, what binds the layer in that directory: those outside of it; a directory that is none of them
+    // stands alone. All of them for an empty one, which is the user's.
+    static std::vector<KivUnicodeString> Outside(const KivUnicodeString& edited);
+
+    // The file of a repository in a layer's directory; its name alone for an empty one.
+    static KivUnicodeString FileIn(const KivUnicodeString& directory, std::string_view repository);
 
     // The system's file names them, so that a user cannot choose other ones.
     static bool AreEnforced();

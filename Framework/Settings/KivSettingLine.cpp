@@ -44,6 +44,14 @@ bool IsKeyWord(std::string_view word)
     return !word.empty() && word.size() <= 255 && !(word[0] >= '0' && word[0] <= '9');
 }
 
+// A pattern and nothing else.
+bool IsPattern(std::string_view rest)
+{
+    if (rest.empty() || rest.back() != '*') return false;
+    rest.remove_suffix(1);
+    return rest.empty() || (IsKeyWord(rest) && std::all_of(rest.begin(), rest.end(), &IsKeyCharacter));
+}
+
 void Spoil(KivSettingLine& line, const char* reason)
 {
     line.kind = KivSettingLine::Kind::Damaged;
@@ -57,6 +65,11 @@ bool KivIsSettingKey(std::string_view key)
     return IsKeyWord(key) && std::all_of(key.begin(), key.end(), &IsKeyCharacter);
 }
 
+bool KivIsSettingPattern(std::string_view pattern)
+{
+    return IsPattern(pattern);
+}
+
 void KivParseSettingLine(std::string_view text, KivSettingLine& line)
 {
     std::string_view rest = Trimmed(text);
@@ -65,6 +78,12 @@ void KivParseSettingLine(std::string_view text, KivSettingLine& line)
     std::string_view word = TakeWord(rest);
     if (word == "lock") {
         line.lock = true;
+        if (IsPattern(rest)) {
+            line.kind = KivSettingLine::Kind::Attribute;
+            line.isPattern = true;
+            line.key = rest;
+            return;
+        }
         word = TakeWord(rest);
         if (rest.empty() && IsKeyWord(word)) {
             line.kind = KivSettingLine::Kind::Attribute;

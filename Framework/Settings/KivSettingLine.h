@@ -10,6 +10,7 @@
 //
 //   [lock] [initial] type Key = value      type: int, unsigned, float, double, string
 //   lock Key                               locks the key without giving it a value
+//   lock Prefix*                           locks every key that begins so; "lock *" every key
 struct KivSettingLine {
     enum class Kind {
         Other,     // blank, comment
@@ -19,10 +20,11 @@ struct KivSettingLine {
     };
 
     Kind kind = Kind::Other;
-    std::string_view key; // empty when it cannot be read
+    std::string_view key; // with a pattern's star; empty when it cannot be read
     std::size_t hash = 0; // of the key, as the table wants it
     KivSettingValue value;
     bool lock = false;
+    bool isPattern = false; // of a lock on all keys with a prefix
     bool initial = false;
     const char* reason = nullptr; // what is wrong with an unknown or damaged line
 
@@ -36,6 +38,9 @@ void KivParseSettingLine(std::string_view text, KivSettingLine& line);
 
 // Letters, digits and underscores, no digit in front, at most 255 of them.
 bool KivIsSettingKey(std::string_view key);
+
+// The beginning of a key, which may be empty, and a star.
+bool KivIsSettingPattern(std::string_view pattern);
 
 // Appends the line that states an entry, without a line end.
 void KivAppendSettingLine(std::string& text, const KivSettingChange& change);

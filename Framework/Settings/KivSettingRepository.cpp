@@ -64,7 +64,10 @@ void KivSettingRepository::SetEditedLayer(const KivUnicodeString& directory)
 
 void KivSettingRepository::ForgetAll()
 {
-    for (const auto& [key, repository] : TheRegistry().repositories) repository->_store.reset();
+    for (const auto& [key, repository] : TheRegistry().repositories) {
+        repository->_shown = {};
+        repository->_store.reset();
+    }
 }
 
 void KivSettingRepository::Withhold(bool withheld)
@@ -72,18 +75,34 @@ void KivSettingRepository::Withhold(bool withheld)
     TheRegistry().isWithheld = withheld;
 }
 
+template <class T> HRESULT KivSettingRepository::Take(const KivSettingAttribute& attribute, T& value) const
+{
+    const T* const shown = std::get_if<T>(&attribute.Shown());
+    if (!shown) {
+        Store().ReportOtherType(attribute, KivSettingTypeName(T()));
+        return E_FAIL;
+    }
+    value = *shown;
+    return S_OK;
+}
+
 template <class T> HRESULT KivSettingRepository::Read(const char* key, T* value, long count) const
 {
     const KivSettingAttribute* attribute = Store().Find(key);
-    if (!attribute || !value || count != 1) return E_FAIL;
-    const T* const shown = std::get_if<T>(&attribute->Shown());
-    if (!shown) {
-        Store().ReportOtherType(*attribute, KivSettingTypeName(T()));
-        return E_FAIL;
-    }
-    *value = *shown;
-    return S_OK;
+    return attribute && value && count == 1 ? Take(*attribute, *value) : E_FAIL;
 }
+
+template <class T> HRESULT KivSettingRepository::ReadUnusual(std::size_t place, T* value) const
+{
+    if (_shown.empty()) _shown = Store().Bind(_boundKeys);
+    const KivSettingAttribute* attribute = Store().FindBound(place);
+    return attribute && value ? Take(*attribute, *value) : E_FAIL;
+}
+template HRESULT KivSettingRepository::ReadUnusual(std::size_t, int*) const;
+template HRESULT KivSettingRepository::ReadUnusual(std::size_t, unsigned int*) const;
+template HRESULT KivSettingRepository::ReadUnusual(std::size_t, float*) const;
+template HRESULT KivSettingRepository::ReadUnusual(std::size_t, double*) const;
+template HRESULT KivSettingRepository::ReadUnusual(std::size_t, KivUnicodeString*) const;
 
 template <class T>
 HRESULT KivSettingRepository::Write(const char* key, const T* value, long count, int reserved)
@@ -111,6 +130,13 @@ HRESULT KivSettingRepository::ReadSetting(const char* key, double* value, long c
 HRESULT KivSettingRepository::ReadSetting(const char* key, KivUnicodeString* value, long count) const
 {
     return Read(key, value, count);
+}
+
+void KivSettingRepository::BindKeys(std::span<const char* const> keys)
+{
+    if (keys.data() == _boundKeys.data() && keys.size() == _boundKeys.size()) return;
+    _boundKeys = keys;
+    _shown = {}; // until the first read: who opens a repository to ask for one key does not pay for all
 }
 
 HRESULT KivSettingRepository::WriteSetting(const char* key, const int* value, long count, int reserved)
@@ -142,10 +168,23 @@ HRESULT KivSettingRepository::GetInfo(const char* key, KivSettingInfo* info, int
     *info = {};
     info->repository = _name;
     info->key = key;
-    const KivSettingAttribute* attribute = Store().Find(key);
+    info->canLock = IsAdministrator();
+    const KivSettingAttribute* attribute = Store().FindGoverned(key);
     if (!attribute) return E_FAIL;
     Store().Describe(*attribute, *info);
     const bool isKnown = info->origin != KivSettingInfo::Origin::None || info->locked || info->lockedHere;
+    return isKnown ? S_OK : E_FAIL;
+}
+
+HRESULT KivSettingRepository::GetProvenance(const char* key, KivSettingProvenance& place) const
+{
+    const KivSettingAttribute* attribute = Store().FindGoverned(key);
+    if (!attribute) {
+        place = {};
+        return E_FAIL;
+    }
+    Store().Trace(*attribute, place);
+    const bool isKnown = place.origin != KivSettingInfo::Origin::None || place.lockLayer;
     return isKnown ? S_OK : E_FAIL;
 }
 
@@ -230,9 +269,11 @@ bool KivSettingRepository::IsProtected() const
     return Store().IsProtected();
 }
 
-void KivSettingRepository::Refresh()
+KivSettingRepository::Keys KivSettingRepository::Refresh()
 {
-    Store().listeners.Tell(Store().Refresh());
+    Keys changed = Store().Refresh();
+    Store().listeners.Tell(changed);
+    return changed;
 }
 
 HRESULT KivSettingRepository::SetLock(const char* key, bool locked)

@@ -3,14 +3,18 @@
 #include "Base/KivResult.h"
 #include "Base/KivUnicodeString.h"
 #include "Settings/KivSettingInfo.h"
+#include "Settings/KivSettingProvenance.h"
+#include "Settings/KivSettingValue.h"
 
 #include <functional>
 #include <memory>
 #include <span>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 class KivSettingStore;
+struct KivSettingAttribute;
 
 // One named, persistent set of typed settings, resolved over the administrator's layers and the user's own
 // file. One object a name and process, used from the user-interface thread; owned by the framework.
@@ -58,6 +62,24 @@ public:
     // key; the reserved argument is 0.
     HRESULT GetInfo(const char* key, KivSettingInfo* info, int reserved) const;
 
+    // The same in short, by one look-up that copies nothing. E_FAIL for a key that no layer knows.
+    HRESULT GetProvenance(const char* key, KivSettingProvenance& place) const;
+
+    // Makes an ordered list of keys known, whose text has to outlive the repository: from now on the key at
+    // each place is read by that place, without a look-up. Binding the same list again costs nothing; another
+    // one takes its place.
+    void BindKeys(std::span<const char* const> keys);
+
+    // Reads the bound key at a place like ReadSetting; E_FAIL too when no key is bound there.
+    template <class T> HRESULT ReadBound(std::size_t place, T* value) const
+    {
+        const T* const shown = place < _shown.size() ? std::get_if<T>(_shown[place]) : nullptr;
+        if (!shown || !value) return ReadUnusual(place, value);
+        *value = *shown;
+        return S_OK;
+    }
+    bool IsBound(std::size_t place) const { return place < _boundKeys.size(); }
+
     // Delivers the attributes of all layers one by one, in the order of the files, outermost first. Not zero
     // when there is none (left). name and type: buffers of at least 256 characters; count: receives 1;
     // restart: not zero starts anew. A repository whose user file exists but could not be read never looks
@@ -82,8 +104,8 @@ public:
     // of the working state. Keys that are not there are passed over.
     HRESULT ResetToAdminValues(const char* const* keys, int count);
 
-    // Told after a commit, rollback, save or refresh which keys show another value. May be removed while it
-    // is called.
+    // Told after a commit, rollback, save or refresh which keys show another value or have got another
+    // lock. May be removed while it is called.
     ListenerId AddListener(Listener listener);
     void RemoveListener(ListenerId listener);
 
@@ -91,8 +113,9 @@ public:
     // saves are refused and say so.
     bool IsProtected() const;
 
-    // Takes what another process has saved since; uncommitted changes of this one stay on top.
-    void Refresh();
+    // Takes what other processes and administrators have saved since; uncommitted changes of this one stay on
+    // top. Answers what listeners are told: the keys with another value or lock.
+    Keys Refresh();
 
     // Writes a value as the user's with the mark "initial": present everywhere, but an administrator's
     // unlocked value wins over it until somebody writes the key again. While a scope is alive every
@@ -114,8 +137,9 @@ public:
     // file.
     static void SetEditedLayer(const KivUnicodeString& directory);
 
-    // Administrator mode only: locks or unlocks a key in the edited layer, part of the working state. E_FAIL
-    // for a key that an outer layer locks, and for users.
+    // Administrator mode only: locks or unlocks a key in the edited layer, part of the working state; a
+    // prefix and a star ("Dim*", "*") stand for every key that begins so. E_FAIL for a key that an outer
+    // layer locks, for unlocking one that the layer locks by a prefix, and for users.
     HRESULT SetLock(const char* key, bool locked);
     bool IsAdministrator() const;
 
@@ -135,11 +159,16 @@ private:
     KivSettingRepository(std::string_view name, const KivUnicodeString& editedLayer);
 
     template <class T> HRESULT Read(const char* key, T* value, long count) const;
+    // A bound key that has no value, one of another type, or has not been read since all was forgotten.
+    template <class T> HRESULT ReadUnusual(std::size_t place, T* value) const;
+    template <class T> HRESULT Take(const KivSettingAttribute& attribute, T& value) const;
     template <class T> HRESULT Write(const char* key, const T* value, long count, int reserved);
 
     KivSettingStore& Store() const;
 
     KivString _name;
     KivUnicodeString _editedLayer;
-    mutable std::unique_ptr<KivSettingStore> _store; // opened on first use
+    std::span<const char* const> _boundKeys;
+    mutable std::unique_ptr<KivSettingStore> _store;        // opened on first use
+    mutable std::span<const KivSettingValue* const> _shown; // the store's, of each bound key
 };

@@ -9,21 +9,10 @@
 
 namespace {
 
-constexpr const char* kEnding = ".kivsettings";
-
+// Empty where there is no place for it.
 KivUnicodeString OwnPath(const KivUnicodeString& directory, std::string_view name)
 {
-    return directory.IsEmpty() ? directory : (directory + "/").Append(name).Append(kEnding);
-}
-
-// The layers outside of the edited one; a directory that is none of them stands alone.
-std::vector<KivUnicodeString> Outside(const KivUnicodeString& edited)
-{
-    std::vector<KivUnicodeString> layers = KivSettingLayers::Administrator();
-    if (edited.IsEmpty()) return layers;
-    const auto at = std::find(layers.begin(), layers.end(), edited);
-    layers.erase(at == layers.end() ? layers.begin() : at, layers.end());
-    return layers;
+    return directory.IsEmpty() ? directory : KivSettingLayers::FileIn(directory, name);
 }
 
 void TakeLine(const KivSettingLine& line, bool isAdministrators, KivSettingEntry& entry)
@@ -44,7 +33,7 @@ void TakeLine(const KivSettingLine& line, bool isAdministrators, KivSettingEntry
 KivSettingStore::KivSettingStore(std::string_view name, const KivUnicodeString& editedLayer)
     : _name(name), _isAdministrator(!editedLayer.IsEmpty()),
       _ownLayer(_isAdministrator ? KivSettingLayers::NameOf(editedLayer) : "user"),
-      _layerDirectories(Outside(editedLayer)),
+      _layerDirectories(KivSettingLayers::Outside(editedLayer)),
       _own(OwnPath(_isAdministrator ? editedLayer : KivSettingLayers::User(), name), _isAdministrator)
 {
     ReadLayers();
@@ -52,17 +41,98 @@ KivSettingStore::KivSettingStore(std::string_view name, const KivUnicodeString& 
     TakeOwnFile();
 }
 
+// The attribute of a key, which a lock on a prefix may govern before anybody has said anything of it.
+std::size_t KivSettingStore::Meet(std::string_view key, std::size_t hash)
+{
+    const std::size_t known = _table.Size();
+    const KivSettingAttribute* const before = _table.Data();
+    const std::size_t index = _table.IndexOfNew(key, hash);
+    if (index == known && (!_prefixLocks.IsEmpty() || !_ownPrefixLocks.IsEmpty())) Govern(_table[index]);
+    if (_table.Data() != before) AimAll();
+    return index;
+}
+
+void KivSettingStore::Govern(KivSettingAttribute& attribute) const
+{
+    const KivSettingPrefixLocks::Place outside = _prefixLocks.Find(attribute.key);
+    attribute.lockLayer = outside.layer;
+    attribute.lockLine = outside.line;
+    const KivSettingPrefixLocks::Place here = _ownPrefixLocks.Find(attribute.key);
+    attribute.isUnderOwnPrefix = here.layer >= 0;
+    attribute.ownPrefixLine = here.line;
+}
+
+// After a lock on a prefix came or went in the written layer.
+void KivSettingStore::GovernAllOwn()
+{
+    if (!_isAdministrator) return;
+    _ownPrefixLocks.Clear();
+    for (const KivSettingAttribute& attribute : _table) {
+        if (attribute.own.lock && KivIsSettingPattern(attribute.key))
+            _ownPrefixLocks.Add(attribute.key, 0, attribute.own.lockLine);
+    }
+    for (KivSettingAttribute& attribute : _table) {
+        const KivSettingPrefixLocks::Place here = _ownPrefixLocks.Find(attribute.key);
+        attribute.isUnderOwnPrefix = here.layer >= 0;
+        attribute.ownPrefixLine = here.line;
+    }
+}
+
+const KivSettingAttribute* KivSettingStore::FindGoverned(const char* key)
+{
+    if (!key) return nullptr;
+    if (const KivSettingAttribute* known = _table.Find(key)) return known;
+    const bool isLocked = _prefixLocks.Find(key).layer >= 0 || _ownPrefixLocks.Find(key).layer >= 0;
+    if (!isLocked || !KivIsSettingKey(key)) return nullptr;
+    return &_table[Meet(key, KivSettingTable::Hash(key))];
+}
+
+std::span<const KivSettingValue* const> KivSettingStore::Bind(std::span<const char* const> keys)
+{
+    for (const std::uint32_t index : _bound) _table[index].boundPlace = -1;
+    _bound.clear();
+    _shownBound.clear();
+    _bound.reserve(keys.size());
+    _table.Reserve(keys.size());
+    for (const char* const key : keys) {
+        const std::size_t index = Meet(key, KivSettingTable::Hash(key));
+        _table[index].boundPlace = static_cast<int>(_bound.size());
+        _bound.push_back(static_cast<std::uint32_t>(index));
+    }
+    _shownBound.resize(_bound.size());
+    AimAll();
+    return _shownBound;
+}
+
+// After the values may have moved or many of them changed.
+void KivSettingStore::AimAll()
+{
+    for (std::size_t place = 0; place < _shownBound.size(); ++place)
+        _shownBound[place] = &_table[_bound[place]].Shown();
+}
+
 void KivSettingStore::ReadLayers()
 {
-    _layers = KivReadAdministratorLayers(_layerDirectories, (KivUnicodeString(_name) + kEnding).View());
+    _layers =
+        KivReadAdministratorLayers(_layerDirectories, KivSettingLayers::FileIn({}, _name.View()).View());
+    _prefixLocks.Clear();
+    for (int layer = 0; layer < static_cast<int>(_layers.size()); ++layer) {
+        const KivSettingFile& file = _layers[static_cast<std::size_t>(layer)].file;
+        if (!file.HasPatterns()) continue;
+        for (const KivSettingLine& line : file.Lines()) {
+            if (line.isPattern) _prefixLocks.Add(line.key, layer, line.number);
+        }
+    }
     for (KivSettingAttribute& attribute : _table) {
         attribute.given = {};
-        attribute.givenLayer = attribute.lockLayer = -1;
+        attribute.givenLayer = -1;
+        Govern(attribute);
     }
     for (int layer = 0; layer < static_cast<int>(_layers.size()); ++layer) {
         for (const KivSettingLine& line : _layers[static_cast<std::size_t>(layer)].file.Lines()) {
-            if (line.key.empty() || (!line.lock && !KivHasValue(line.value))) continue; // damaged
-            KivSettingAttribute& attribute = _table[_table.IndexOfNew(line.key, line.hash)];
+            if (line.isPattern || line.key.empty()) continue;
+            if (!line.lock && !KivHasValue(line.value)) continue; // damaged
+            KivSettingAttribute& attribute = _table[Meet(line.key, line.hash)];
             if (attribute.lockLayer >= 0 && attribute.lockLayer < layer) continue;
             if (KivHasValue(line.value)) {
                 attribute.given = line.value;
@@ -76,6 +146,7 @@ void KivSettingStore::ReadLayers()
         }
     }
     for (KivSettingAttribute& attribute : _table) attribute.Resolve();
+    AimAll();
 }
 
 // Takes what the own file says; what has not been saved stays on top of it.
@@ -90,7 +161,8 @@ void KivSettingStore::TakeOwnFile()
     _table.Reserve(_own.File().Lines().size());
     for (const KivSettingLine& line : _own.File().Lines()) {
         if (line.key.empty() || (!line.lock && !KivHasValue(line.value))) continue;
-        TakeLine(line, _isAdministrator, _table[_table.IndexOfNew(line.key, line.hash)].own);
+        if (line.isPattern && !_isAdministrator) continue; // nobody is inside of the user's file
+        TakeLine(line, _isAdministrator, _table[Meet(line.key, line.hash)].own);
     }
     for (auto& [index, before] : _unsaved) before = _table[index].own;
     for (auto& [index, before] : _uncommitted) {
@@ -99,7 +171,9 @@ void KivSettingStore::TakeOwnFile()
         if (old == saved.end() || old->second.Says(before)) before = _table[index].own;
     }
     for (const auto& [index, entry] : working) _table[index].own = entry;
+    GovernAllOwn();
     for (KivSettingAttribute& attribute : _table) attribute.Resolve();
+    AimAll();
 }
 
 void KivSettingStore::Change(std::size_t index, const KivSettingEntry& says)
@@ -110,12 +184,14 @@ void KivSettingStore::Change(std::size_t index, const KivSettingEntry& says)
     if (!std::exchange(attribute.isUncommitted, true)) _uncommitted.emplace_back(index, attribute.own);
     attribute.own = says;
     attribute.Resolve();
+    Aim(attribute);
+    if (attribute.key.back() == '*') GovernAllOwn();
 }
 
 bool KivSettingStore::Write(std::string_view key, KivSettingValue value)
 {
     if (!KivIsSettingKey(key) || !KivIsSound(value)) return false;
-    const std::size_t index = _table.IndexOfNew(key);
+    const std::size_t index = Meet(key, KivSettingTable::Hash(key));
     const KivSettingAttribute& attribute = _table[index];
     if (attribute.lockLayer >= 0) return false;
     KivSettingEntry says = attribute.own;
@@ -129,9 +205,11 @@ bool KivSettingStore::Write(std::string_view key, KivSettingValue value)
 
 bool KivSettingStore::SetLock(std::string_view key, bool locked)
 {
-    if (!_isAdministrator || !KivIsSettingKey(key)) return false;
-    const std::size_t index = _table.IndexOfNew(key);
+    const bool isPattern = KivIsSettingPattern(key);
+    if (!_isAdministrator || (!isPattern && !KivIsSettingKey(key))) return false;
+    const std::size_t index = Meet(key, KivSettingTable::Hash(key));
     if (_table[index].lockLayer >= 0) return false;
+    if (!locked && !isPattern && _table[index].isUnderOwnPrefix) return false; // it would stay locked
     KivSettingEntry says = _table[index].own;
     says.lock = locked;
     says.lockLine = 0;
@@ -150,27 +228,32 @@ void KivSettingStore::DropOwn(std::string_view key)
     Change(index, says);
 }
 
-KivSettingStore::Values KivSettingStore::ShownNow() const
+KivSettingStore::AllShown KivSettingStore::ShownNow() const
 {
-    Values shown;
+    AllShown shown;
     shown.reserve(_table.Size());
-    for (const KivSettingAttribute& attribute : _table) shown.push_back(attribute.Shown());
+    for (const KivSettingAttribute& attribute : _table)
+        shown.push_back({attribute.Shown(), attribute.LockWith(attribute.own)});
     return shown;
 }
 
-KivSettingStore::Values KivSettingStore::ShownAtCommit() const
+KivSettingStore::AllShown KivSettingStore::ShownAtCommit() const
 {
-    Values shown = ShownNow();
-    for (const auto& [index, before] : _uncommitted) shown[index] = _table[index].ShownWith(before);
+    AllShown shown = ShownNow();
+    for (const auto& [index, before] : _uncommitted)
+        shown[index] = {_table[index].ShownWith(before), _table[index].LockWith(before)};
     return shown;
 }
 
-KivSettingStore::Keys KivSettingStore::ChangedSince(const Values& shown) const
+KivSettingStore::Keys KivSettingStore::ChangedSince(const AllShown& shown) const
 {
+    const Shown nothing;
     Keys changed;
     for (std::size_t i = 0; i < _table.Size(); ++i) {
-        const KivSettingValue before = i < shown.size() ? shown[i] : KivSettingValue();
-        if (!KivSameValue(before, _table[i].Shown())) changed.emplace_back(_table[i].key);
+        const Shown& before = i < shown.size() ? shown[i] : nothing;
+        const KivSettingAttribute& now = _table[i];
+        if (!KivSameValue(before.value, now.Shown()) || before.lock != now.LockWith(now.own))
+            changed.emplace_back(now.key);
     }
     return changed;
 }
@@ -190,7 +273,7 @@ void KivSettingStore::ForgetUnsaved()
 KivSettingStore::Keys KivSettingStore::Commit()
 {
     if (_uncommitted.empty()) return {};
-    const Values shown = ShownAtCommit();
+    const AllShown shown = ShownAtCommit();
     ForgetUncommitted();
     return ChangedSince(shown);
 }
@@ -198,18 +281,20 @@ KivSettingStore::Keys KivSettingStore::Commit()
 KivSettingStore::Keys KivSettingStore::Rollback()
 {
     if (_uncommitted.empty()) return {};
-    const Values shown = ShownNow();
+    const AllShown shown = ShownNow();
     for (const auto& [index, before] : _uncommitted) {
         _table[index].own = before;
         _table[index].Resolve();
+        Aim(_table[index]);
     }
     ForgetUncommitted();
+    GovernAllOwn();
     return ChangedSince(shown);
 }
 
 KivSettingStore::Keys KivSettingStore::Refresh()
 {
-    const Values shown = ShownNow();
+    const AllShown shown = ShownNow();
     ReadLayers();
     if (_own.Read()) TakeOwnFile();
     return ChangedSince(shown);
@@ -226,7 +311,7 @@ KivSettingStore::Keys KivSettingStore::Save(Receipt& result)
         result = Receipt::Nothing;
         return Commit();
     }
-    const Values shown = ShownAtCommit();
+    const AllShown shown = ShownAtCommit();
     const KivSettingOwnFile::Outcome outcome = _own.Save(changes);
     if (outcome == KivSettingOwnFile::Outcome::Refused) {
         // No point to return to: whoever is told that his changes are not safe may still take them back.
@@ -240,35 +325,59 @@ KivSettingStore::Keys KivSettingStore::Save(Receipt& result)
     return ChangedSince(shown);
 }
 
-void KivSettingStore::Describe(const KivSettingAttribute& attribute, KivSettingInfo& info) const
+void KivSettingStore::Trace(const KivSettingAttribute& attribute, KivSettingProvenance& place) const
 {
     using Origin = KivSettingInfo::Origin;
-    info.origin = attribute.origin;
-    info.value = KivShownSettingText(attribute.Shown());
+    place = {};
+    place.origin = attribute.origin;
     if (attribute.origin == Origin::User) {
-        info.initial = attribute.own.initial;
-        info.layer = _ownLayer;
-        info.file = _own.Path();
-        info.line = attribute.own.line;
-        if (_isAdministrator) info.origin = Origin::Administrator;
+        if (_isAdministrator) place.origin = Origin::Administrator;
+        place.initial = attribute.own.initial;
+        place.layer = &_ownLayer;
+        place.file = &_own.Path();
+        place.line = attribute.own.line;
     } else if (attribute.origin == Origin::Administrator) {
         const KivSettingLayer& layer = _layers[static_cast<std::size_t>(attribute.givenLayer)];
-        info.layer = layer.name;
-        info.file = layer.path;
-        info.line = attribute.givenLine;
+        place.layer = &layer.name;
+        place.file = &layer.path;
+        place.line = attribute.givenLine;
     }
-    info.locked = attribute.lockLayer >= 0;
-    info.lockedHere = !info.locked && attribute.own.lock;
-    if (info.locked) {
+    switch (attribute.LockWith(attribute.own)) {
+    case KivSettingAttribute::Lock::Open:
+        break;
+    case KivSettingAttribute::Lock::Here:
+        place.lockedHere = true;
+        place.lockLayer = &_ownLayer;
+        place.lockFile = &_own.Path();
+        place.lockLine = attribute.own.lock ? attribute.own.lockLine : attribute.ownPrefixLine;
+        break;
+    case KivSettingAttribute::Lock::Outside:
         const KivSettingLayer& layer = _layers[static_cast<std::size_t>(attribute.lockLayer)];
-        info.lockLayer = layer.name;
-        info.lockFile = layer.path;
-        info.lockLine = attribute.lockLine;
-    } else if (info.lockedHere) {
-        info.lockLayer = _ownLayer;
-        info.lockFile = _own.Path();
-        info.lockLine = attribute.own.lockLine;
+        place.locked = true;
+        place.lockLayer = &layer.name;
+        place.lockFile = &layer.path;
+        place.lockLine = attribute.lockLine;
+        break;
     }
+    place.canLock = _isAdministrator && !place.locked && !attribute.isUnderOwnPrefix;
+}
+
+void KivSettingStore::Describe(const KivSettingAttribute& attribute, KivSettingInfo& info) const
+{
+    KivSettingProvenance place;
+    Trace(attribute, place);
+    info.origin = place.origin;
+    info.initial = place.initial;
+    info.value = KivShownSettingText(attribute.Shown());
+    if (place.layer) info.layer = *place.layer;
+    if (place.file) info.file = *place.file;
+    info.line = place.line;
+    info.locked = place.locked;
+    info.lockedHere = place.lockedHere;
+    info.canLock = place.canLock;
+    if (place.lockLayer) info.lockLayer = *place.lockLayer;
+    if (place.lockFile) info.lockFile = *place.lockFile;
+    info.lockLine = place.lockLine;
 }
 
 void KivSettingStore::ReportOtherType(const KivSettingAttribute& attribute, const char* expected)

@@ -3,9 +3,12 @@
 #include "Settings/KivSettingLayer.h"
 #include "Settings/KivSettingListeners.h"
 #include "Settings/KivSettingOwnFile.h"
+#include "Settings/KivSettingPrefixLocks.h"
 #include "Settings/KivSettingTable.h"
 
+#include <cstdint>
 #include <set>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -21,6 +24,17 @@ public:
     KivSettingStore(std::string_view name, const KivUnicodeString& editedLayer);
 
     const KivSettingAttribute* Find(const char* key) const { return key ? _table.Find(key) : nullptr; }
+    // The same for who wants to know of locks: also a key that nobody has met may be under one.
+    const KivSettingAttribute* FindGoverned(const char* key);
+
+    // Makes these keys known, in this order: from now on they are found by their place in it.
+    // Answers where their values are from now on; what stands there follows every change.
+    std::span<const KivSettingValue* const> Bind(std::span<const char* const> keys);
+    const KivSettingAttribute* FindBound(std::size_t place) const
+    {
+        return place < _bound.size() ? &_table[_bound[place]] : nullptr;
+    }
+
     const KivSettingTable& Table() const { return _table; }
 
     bool Write(std::string_view key, KivSettingValue value);
@@ -33,6 +47,7 @@ public:
     Keys Refresh();
     Keys Save(Receipt& receipt);
 
+    void Trace(const KivSettingAttribute& attribute, KivSettingProvenance& place) const;
     void Describe(const KivSettingAttribute& attribute, KivSettingInfo& info) const;
     // Says, once a key, that a reader expected another type than the one stored.
     void ReportOtherType(const KivSettingAttribute& attribute, const char* expected);
@@ -47,10 +62,24 @@ public:
     bool hasDeliveredNameless = false;
 
 private:
-    using Values = std::vector<KivSettingValue>;
+    // What listeners compare.
+    struct Shown {
+        KivSettingValue value;
+        KivSettingAttribute::Lock lock = KivSettingAttribute::Lock::Open;
+    };
+    using AllShown = std::vector<Shown>;
     using Journal =
         std::vector<std::pair<std::size_t, KivSettingEntry>>; // an attribute, and what it said before
 
+    std::size_t Meet(std::string_view key, std::size_t hash);
+    void Aim(const KivSettingAttribute& attribute)
+    {
+        if (attribute.boundPlace >= 0)
+            _shownBound[static_cast<std::size_t>(attribute.boundPlace)] = &attribute.Shown();
+    }
+    void AimAll();
+    void Govern(KivSettingAttribute& attribute) const;
+    void GovernAllOwn();
     void ReadLayers();
     void TakeOwnFile();
     void Change(std::size_t index, const KivSettingEntry& says);
@@ -58,9 +87,9 @@ private:
     {
         return !_table[index].own.Says(saved);
     }
-    Values ShownNow() const;
-    Values ShownAtCommit() const;
-    Keys ChangedSince(const Values& shown) const;
+    AllShown ShownNow() const;
+    AllShown ShownAtCommit() const;
+    Keys ChangedSince(const AllShown& shown) const;
     void ForgetUncommitted();
     void ForgetUnsaved();
 
@@ -71,7 +100,11 @@ private:
     std::vector<KivSettingLayer> _layers;
     KivSettingOwnFile _own;
     KivSettingTable _table;
-    Journal _unsaved; // in writing order
+    KivSettingPrefixLocks _prefixLocks;              // of the layers outside
+    KivSettingPrefixLocks _ownPrefixLocks;           // of the layer that is written
+    std::vector<std::uint32_t> _bound;               // the attributes of the bound keys, in their order
+    std::vector<const KivSettingValue*> _shownBound; // and their values
+    Journal _unsaved;                                // in writing order
     Journal _uncommitted;
     std::set<std::string_view> _typesReported;
 };

@@ -23,10 +23,23 @@ struct KivSettingAttribute {
     int lockLayer = -1; // the outermost layer that locks the key, or -1
     int lockLine = 0;
 
+    bool isUnderOwnPrefix = false; // the written layer locks all keys with a prefix of this one's name
+    int ownPrefixLine = 0;
+
     KivSettingInfo::Origin origin = KivSettingInfo::Origin::None; // Shown's, kept by Resolve
+
+    int boundPlace = -1; // among the bound keys, or -1
 
     bool isUnsaved = false; // stands in the store's journal since the last save
     bool isUncommitted = false;
+
+    // Whom the setting is closed to: nobody, those inside of the written layer, or the writer too.
+    enum class Lock { Open, Here, Outside };
+    Lock LockWith(const KivSettingEntry& says) const
+    {
+        if (lockLayer >= 0) return Lock::Outside;
+        return says.lock || isUnderOwnPrefix ? Lock::Here : Lock::Open;
+    }
 
     // Who decides when the written layer says this.
     KivSettingInfo::Origin OriginWith(const KivSettingEntry& says) const;
@@ -64,6 +77,7 @@ public:
 
     KivSettingAttribute& operator[](std::size_t index) { return _attributes[index]; }
     const KivSettingAttribute& operator[](std::size_t index) const { return _attributes[index]; }
+    const KivSettingAttribute* Data() const { return _attributes.data(); }
     std::size_t Size() const { return _attributes.size(); }
 
     auto begin() { return _attributes.begin(); }

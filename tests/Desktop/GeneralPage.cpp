@@ -6,6 +6,7 @@
 #include "Support/KivSettingsSandbox.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -71,6 +72,35 @@ TEST_F(GeneralPage, IsChangedCommittedAndCancelledThroughTheWindow)
     EXPECT_TRUE(WidgetOf("checkSnap_dialog")->accessibleDescription().contains("site"));
     EXPECT_TRUE(window->Messages().Messages().isEmpty())
         << window->Messages().Messages().join('\n').toStdString();
+}
+
+TEST_F(GeneralPage, AnAdministratorsPadlocksAreSwitches)
+{
+    KivSettingRepository::SetEditedLayer(KivUnicodeString((sandbox.root / "site").string()));
+    KivSettingRepository::ForgetAll();
+    Open();
+    auto* const lock = static_cast<QAbstractButton*>(WidgetOf("checkGridLock"));
+    const auto is = [lock](bool closed) {
+        const QAccessibleInterface* const heard = QAccessible::queryAccessibleInterface(lock);
+        EXPECT_EQ(heard->role(), QAccessible::CheckBox);
+        EXPECT_EQ(heard->text(QAccessible::Name), "Lock for users");
+        EXPECT_EQ(static_cast<bool>(heard->state().checked), closed);
+        EXPECT_EQ(lock->focusPolicy(), Qt::StrongFocus);
+        EXPECT_TRUE(lock->toolTip().contains(closed ? "let the users" : "Press to lock"))
+            << lock->toolTip().toStdString();
+    };
+    is(false);
+    lock->setFocus();
+    QTest::keyClick(lock, Qt::Key_Space);
+    is(true);
+    QTest::keyClick(lock, Qt::Key_Return);
+    is(false);
+    QTest::mouseClick(lock, Qt::LeftButton);
+    is(true);
+    EXPECT_TRUE(WidgetOf("checkGrid_dialog")->isEnabled());
+    window->accept();
+    EXPECT_NE(sandbox.Bytes(sandbox.File("site")).find("lock Drw_settings_GridDisplay\n"), std::string::npos)
+        << sandbox.Bytes(sandbox.File("site"));
 }
 
 TEST_F(GeneralPage, EveryControlIsNamedDescribedAndInLine)

@@ -34,3 +34,9 @@ void KivDrwBackgroundColour::Write(KivSettingRepository* repository, int r, int 
     KivDrwWrite(repository, green, Stored(g));
     KivDrwWrite(repository, blue, Stored(b));
 }
+
+void KivDrwBackgroundColour::GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const
+{
+    KivDrwGetInfo(repository, red, info);
+    info.companions = {green.name, blue.name};
+}

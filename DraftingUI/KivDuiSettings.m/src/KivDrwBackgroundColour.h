@@ -14,6 +14,8 @@ struct KivDrwBackgroundColour {
     // Stores each component divided by 255, so that only 255 reads back as itself. Nothing without a
     // repository.
     void Write(KivSettingRepository* repository, int r, int g, int b) const;
+    // Deliberately the lock is that of the red key alone; whoever locks or unlocks it takes the others along.
+    void GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const;
 };
 
 inline constexpr KivDrwBackgroundColour kKivDrwSheetColour{

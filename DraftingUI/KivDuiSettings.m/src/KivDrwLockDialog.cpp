@@ -58,6 +58,11 @@ void KivDrwLockDialog::Initialize()
     SetLongHelp(KivDlgFrame::GetLongHelp());
 }
 
+void KivDrwLockDialog::SetInfo(const KivSettingInfo& info)
+{
+    if (_lock) _lock->SetInfo(info);
+}
+
 void KivDrwLockDialog::SetSensitivity(unsigned long sensitivity)
 {
     if (!_dialog || !_lock) return;

@@ -24,6 +24,9 @@ public:
     // The wrapped control; null when there is none (any more).
     virtual KivDialog* GetDialog() const;
 
+    // Another record of the same setting, after its lock or value may have changed.
+    void SetInfo(const KivSettingInfo& info);
+
     void SetSensitivity(unsigned long sensitivity);
     // KivDlgDisabled without a padlock or a control, and while locked.
     unsigned long GetSensitivity() const;

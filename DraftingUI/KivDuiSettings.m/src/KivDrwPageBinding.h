@@ -26,7 +26,7 @@ template <auto accessor> using KivValueOf = typename KivAccessorValue<decltype(a
         return KivDrwGetInfo(_repository, key, info);                                                        \
     }
 
-// The same for a background colour. Deliberate: its lock is that of its red key alone.
+// The same for a background colour.
 #define KIV_BIND_BACKGROUND(colour, SetAccessor, GetAccessor, GetInfoAccessor)                               \
     int SetAccessor(const int& r, const int& g, const int& b) override                                       \
     {                                                                                                        \
@@ -40,5 +40,6 @@ template <auto accessor> using KivValueOf = typename KivAccessorValue<decltype(a
     }                                                                                                        \
     int GetInfoAccessor(KivSettingInfo& info) override                                                       \
     {                                                                                                        \
-        return KivDrwGetInfo(_repository, colour.red, info);                                                 \
+        colour.GetInfo(_repository, info);                                                                   \
+        return S_OK;                                                                                         \
     }

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "KivDrwKeys.h"
 #include "Settings/KivSettingRepository.h"
 
-// The repository of all drafting settings; null when it cannot be had.
+// The repository of all drafting settings, its keys bound to their places; null when it cannot be had.
 inline KivSettingRepository* KivDrwRepository()
 {
-    return KivSettingRepository::GetRepository("DraftingOptions", 0, 1, nullptr);
+    KivSettingRepository* repository = KivSettingRepository::GetRepository("DraftingOptions", 0, 1, nullptr);
+    if (repository) repository->BindKeys(kKivDrwKeyNames);
+    return repository;
 }

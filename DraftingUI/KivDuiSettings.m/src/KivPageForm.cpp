@@ -10,6 +10,11 @@ KivFormGroup KivPageForm::Group(const KivString& name, const KivString& icon)
     return {*this, *frame};
 }
 
+void KivPageForm::ShowLocks()
+{
+    for (const auto& row : _rows) row->ShowLock();
+}
+
 void KivPageForm::Show()
 {
     for (const auto& row : _rows) row->Show();

@@ -17,6 +17,8 @@ public:
     // A titled group, below those that are there. The icon's name may be empty.
     KivFormGroup Group(const KivString& name, const KivString& icon);
 
+    // Shows every lock record.
+    void ShowLocks();
     // Shows every cached value.
     void Show();
     // Stores the value of the control that sent a notification.

@@ -9,6 +9,7 @@ KivPageFrame::KivPageFrame(KivDialog* parent, const KivString& name, const KivSt
 void KivPageFrame::Initialize()
 {
     for (KivBoundValue* value : _values) value->Load();
+    _form.ShowLocks();
     UpdateWidgets();
 }
 

@@ -13,9 +13,9 @@ public:
     // Titles, helps and icons of the page come from the text catalogue of that name.
     KivPageFrame(KivDialog* parent, const KivString& name, const KivString& catalogue);
 
-    // Creates the widgets, once; lock records are read here.
+    // Creates the widgets, once.
     virtual void Build() = 0;
-    // Loads all values, in accessor order, and shows them; at any time.
+    // Loads all values, in accessor order, and shows them and their locks; at any time.
     void Initialize();
     // Shows the cached values and applies the rules that depend on them.
     virtual void UpdateWidgets();

@@ -1,5 +1,10 @@
 #include "KivPageRow.h"
 
+void KivPageRow::ShowLock()
+{
+    if (KivDrwLockDialog* control = Control()) control->SetInfo(_value.Info());
+}
+
 bool KivPageRow::Take(KivCommand* from)
 {
     const KivDrwLockDialog* control = Control();

@@ -13,6 +13,8 @@ public:
 
     virtual ~KivPageRow() = default;
 
+    // Lock record to padlock.
+    void ShowLock();
     // Value to control.
     virtual void Show() = 0;
     // Control to value, if it is the sender: stores it and runs the row's rule. False when it is not.
@@ -23,7 +25,7 @@ protected:
 
     // True, and the value stored, when the control is the sender.
     virtual bool Store(KivCommand* from) = 0;
-    virtual const KivDrwLockDialog* Control() const = 0;
+    virtual KivDrwLockDialog* Control() const = 0;
 
 private:
     KivBoundValue& _value;

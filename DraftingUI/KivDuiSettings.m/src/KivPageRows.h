@@ -15,7 +15,7 @@ public:
 
 private:
     bool Store(KivCommand* from) override;
-    const KivDrwLockDialog* Control() const override { return _button.Get(); }
+    KivDrwLockDialog* Control() const override { return _button.Get(); }
 
     KivWeakPtr<KivDrwLockCheckButton> _button;
     KivCachedValue<unsigned char>& _value;
@@ -31,7 +31,7 @@ public:
 
 private:
     bool Store(KivCommand* from) override;
-    const KivDrwLockDialog* Control() const override { return _spinner.Get(); }
+    KivDrwLockDialog* Control() const override { return _spinner.Get(); }
 
     KivWeakPtr<KivDrwLockSpinner> _spinner;
     KivCachedValue<double>& _value;
@@ -47,7 +47,7 @@ public:
 
 private:
     bool Store(KivCommand* from) override;
-    const KivDrwLockDialog* Control() const override { return _spinner.Get(); }
+    KivDrwLockDialog* Control() const override { return _spinner.Get(); }
 
     KivWeakPtr<KivDrwLockSpinner> _spinner;
     KivCachedValue<int>& _value;
@@ -61,7 +61,7 @@ public:
 
 private:
     bool Store(KivCommand* from) override;
-    const KivDrwLockDialog* Control() const override { return _combo.Get(); }
+    KivDrwLockDialog* Control() const override { return _combo.Get(); }
 
     KivWeakPtr<KivDrwLockComboColor> _combo;
     KivCachedValue<KivPageColour>& _value;

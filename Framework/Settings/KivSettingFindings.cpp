@@ -1,0 +1,183 @@
+#include "Settings/KivSettingFindings.h"
+
+#include "Base/KivDiagnostic.h"
+#include "Settings/KivSettingLayer.h"
+#include "Settings/KivSettingLayers.h"
+#include "Settings/KivSettingOwnFile.h"
+#include "Settings/KivSettingPrefixLocks.h"
+
+#include <algorithm>
+#include <map>
+#include <sys/stat.h>
+
+namespace {
+
+using Kind = KivSettingFinding::Kind;
+
+// One layer's file, in the order in which they bind.
+struct Layer {
+    const KivUnicodeString& name;
+    const KivUnicodeString& path;
+    const KivSettingFile& file;
+    bool isUsers = false;
+};
+
+class Check {
+public:
+    explicit Check(std::span<const char* const> known) : _known(known.begin(), known.end()) {}
+
+    // Goes over the layers, outermost first.
+    std::vector<KivSettingFinding> Run(const std::vector<Layer>& layers)
+    {
+        const bool isListed = !_known.empty();
+        for (const Layer& layer : layers) {
+            for (const KivSettingLine& line : layer.file.Lines())
+                if (!isListed && KivHasValue(line.value)) _known.push_back(line.key);
+        }
+        std::sort(_known.begin(), _known.end());
+        for (const Layer& layer : layers) {
+            for (const KivSettingLine& line : layer.file.Lines()) {
+                if (!line.key.empty() && !line.reason) Examine(layer, line);
+            }
+            TakeLocks(layer);
+        }
+        return std::move(_findings);
+    }
+
+private:
+    struct Place {
+        const Layer* layer = nullptr;
+        int line = 0;
+    };
+
+    // "layer "site" (file, line 3)"
+    static KivUnicodeString Words(const Place& place)
+    {
+        KivUnicodeString words("layer \"");
+        words.Append(place.layer->name).Append("\" (").Append(place.layer->path);
+        return words.Append(", line " + std::to_string(place.line) + ")");
+    }
+
+    void Examine(const Layer& layer, const KivSettingLine& line)
+    {
+        const auto say = [&](const KivUnicodeString& text) {
+            _findings.push_back(
+                {Kind::NoEffect, layer.name, layer.path, line.number, KivString(line.key), text});
+        };
+        const bool isSet = KivHasValue(line.value);
+        if (line.lock && layer.isUsers) {
+            say(isSet ? "a lock in the user's own file binds nobody; its value counts"
+                      : "a lock in the user's own file binds nobody");
+        }
+        if (!IsKnown(line)) {
+            return say(line.isPattern ? "the lock has no effect: no setting's name begins so"
+                       : line.lock    ? "the lock has no effect: there is no setting of this name"
+                                      : "the value is not used: there is no setting of this name");
+        }
+        if (const Place outer = LockedBy(line.key); outer.layer) {
+            const bool locks = line.lock && !layer.isUsers;
+            if (!locks && !isSet) return;
+            return say(KivUnicodeString(locks && isSet ? "neither lock nor value have an effect: "
+                                        : locks        ? "the lock has no effect: "
+                                                       : "the value is not used: ") +
+                       Words(outer) + " locks it already");
+        }
+        if (const auto given = _given.find(line.key); line.initial && isSet && given != _given.end())
+            say("the value of the first start yields to the one of " + Words(given->second));
+    }
+
+    bool IsKnown(const KivSettingLine& line) const
+    {
+        const std::string_view wanted = line.key.substr(0, line.key.size() - (line.isPattern ? 1 : 0));
+        const auto first = std::lower_bound(_known.begin(), _known.end(), wanted);
+        return first != _known.end() && (line.isPattern ? first->starts_with(wanted) : *first == wanted);
+    }
+
+    // The lock of a layer further out on a key, or on all keys of a pattern.
+    Place LockedBy(std::string_view key) const
+    {
+        Place found;
+        if (const auto own = _locks.find(key); own != _locks.end()) found = own->second;
+        const KivSettingPrefixLocks::Place prefix = _prefixes.Find(key);
+        if (prefix.layer >= 0 &&
+            (!found.layer || _outside[static_cast<std::size_t>(prefix.layer)] < found.layer))
+            found = {_outside[static_cast<std::size_t>(prefix.layer)], prefix.line};
+        return found;
+    }
+
+    void TakeLocks(const Layer& layer)
+    {
+        if (layer.isUsers) return;
+        const int number = static_cast<int>(_outside.size());
+        _outside.push_back(&layer);
+        for (const KivSettingLine& line : layer.file.Lines()) {
+            if (line.isPattern) {
+                _prefixes.Add(line.key, number, line.number);
+            } else if (line.lock && !line.key.empty()) {
+                _locks.try_emplace(line.key, Place{&layer, line.number});
+            }
+            if (KivHasValue(line.value)) _given[line.key] = {&layer, line.number};
+        }
+    }
+
+    std::vector<std::string_view> _known; // sorted
+    std::vector<const Layer*> _outside;
+    std::map<std::string_view, Place> _locks;
+    std::map<std::string_view, Place> _given;
+    KivSettingPrefixLocks _prefixes;
+    std::vector<KivSettingFinding> _findings;
+};
+
+// What the directories themselves leave open.
+void ExamineDirectories(const std::vector<KivUnicodeString>& directories,
+                        std::vector<KivSettingFinding>& findings)
+{
+    const bool areEnforced = KivSettingLayers::AreEnforced();
+    for (const KivUnicodeString& directory : directories) {
+        const auto say = [&](const char* text) {
+            findings.push_back({Kind::Open, KivSettingLayers::NameOf(directory), directory, 0, {}, text});
+        };
+        if (!areEnforced)
+            say("its locks are not enforced: KivAdminSettingsPath names it, which every user may change");
+        struct stat status {};
+        if (stat(directory.ConvertToChar(), &status) == 0 && (status.st_mode & S_IWOTH) != 0)
+            say("its locks are not enforced: every user may write to the directory");
+    }
+}
+
+} // namespace
+
+std::vector<KivSettingFinding> KivCheckSettings(std::string_view name, std::span<const char* const> known,
+                                                const KivUnicodeString& editedLayer)
+{
+    std::vector<KivSettingFinding> findings;
+    const std::vector<KivUnicodeString> directories = KivSettingLayers::Outside(editedLayer);
+    const bool isUsers = editedLayer.IsEmpty();
+    const KivUnicodeString ownDirectory = isUsers ? KivSettingLayers::User() : editedLayer;
+    const KivUnicodeString ownName = isUsers ? "user" : KivSettingLayers::NameOf(editedLayer);
+    KivSettingOwnFile own(
+        ownDirectory.IsEmpty() ? ownDirectory : KivSettingLayers::FileIn(ownDirectory, name), !isUsers);
+
+    // What the readers say is what is wrong; its sink is put back at once.
+    std::vector<KivDiagnostic> said;
+    KivDiagnosticSink sink =
+        KivSetDiagnosticSink([&said](const KivDiagnostic& diagnostic) { said.push_back(diagnostic); });
+    const std::vector<KivSettingLayer> outside =
+        KivReadAdministratorLayers(directories, KivSettingLayers::FileIn({}, name).View());
+    own.Read();
+    KivSetDiagnosticSink(std::move(sink));
+
+    std::vector<Layer> layers;
+    for (const KivSettingLayer& layer : outside) layers.push_back({layer.name, layer.path, layer.file});
+    layers.push_back({ownName, own.Path(), own.File(), isUsers});
+
+    for (const KivDiagnostic& diagnostic : said) {
+        const auto at = std::find_if(layers.begin(), layers.end(),
+                                     [&](const Layer& layer) { return layer.path == diagnostic.file; });
+        findings.push_back({Kind::Wrong, at == layers.end() ? KivUnicodeString() : at->name, diagnostic.file,
+                            diagnostic.line, diagnostic.key, diagnostic.text});
+    }
+    ExamineDirectories(directories, findings);
+    for (KivSettingFinding& finding : Check(known).Run(layers)) findings.push_back(std::move(finding));
+    return findings;
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <bitset>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+// Locks on all keys that begin alike. What governs a key is found by one look-up for each length of prefix
+// that occurs, however many locks there are.
+class KivSettingPrefixLocks {
+public:
+    struct Place {
+        int layer = -1; // -1: there is none
+        int line = 0;
+    };
+
+    void Clear();
+
+    // A pattern is a prefix and a star. Layers come outermost first, and the outermost one counts.
+    void Add(std::string_view pattern, int layer, int line);
+
+    bool IsEmpty() const { return _places.empty(); }
+
+    // The outermost lock on a key; of several in that layer the one with the shortest prefix.
+    Place Find(std::string_view key) const;
+
+private:
+    struct Hash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
+    };
+    static constexpr std::size_t kLongest = 255; // of a key
+
+    std::unordered_map<std::string, Place, Hash, std::equal_to<>> _places; // by prefix
+    std::bitset<kLongest + 1> _lengths;                                    // that occur
+};

@@ -1,0 +1,46 @@
+#include "Settings/KivSettingTransaction.h"
+
+#include "Settings/KivSettingLine.h"
+
+#include <algorithm>
+#include <type_traits>
+
+void KivSettingTransaction::Set(const KivString& key, KivSettingValue value)
+{
+    std::erase_if(_changes, [&](const auto& change) { return change.first == key; });
+    _changes.emplace_back(key, std::move(value));
+}
+
+void KivSettingTransaction::Refuse(const KivString& key)
+{
+    Refusal refusal{key, "the value is not a finite number", {}};
+    _repository.GetInfo(key.ConvertToChar(), &refusal.locker, 0);
+    if (refusal.locker.locked) {
+        refusal.why = refusal.locker.Words();
+    } else if (!KivIsSettingKey(key.View())) {
+        refusal.why = "a setting's name has letters, digits and underscores, at most 255 of them";
+    }
+    _refusals.push_back(std::move(refusal));
+}
+
+KivSettingRepository::Receipt KivSettingTransaction::Save()
+{
+    _refusals.clear();
+    for (const auto& [key, value] : std::exchange(_changes, {})) {
+        const char* const name = key.ConvertToChar();
+        const HRESULT result = std::visit(
+            [&](const auto& plain) {
+                if constexpr (std::is_same_v<std::decay_t<decltype(plain)>, std::monostate>) {
+                    KivSettingInfo info;
+                    _repository.GetInfo(name, &info, 0);
+                    return info.locked ? E_FAIL : _repository.ResetToAdminValues(&name, 1);
+                } else {
+                    return _repository.WriteSetting(name, &plain, 1, 0);
+                }
+            },
+            value);
+        if (result != S_OK) Refuse(key);
+    }
+    _repository.SaveRepository(nullptr);
+    return _repository.LastReceipt();
+}

@@ -1,0 +1,4 @@
+#pragma once
+
+// How often this program has allocated from the free store so far.
+long CountedAllocations();

@@ -1,0 +1,79 @@
+#include "CountedAllocations.h"
+#include "KivDrwRepository.h"
+#include "KivDrwSettingAccess.h"
+#include "Support/KivSettingsSandbox.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Readers are called from drawing code, for every line of a grid.
+TEST(Reads, AllocateNothing)
+{
+    KivSettingsSandbox box;
+    box.NameLayers({"site"});
+    box.Write(box.File("site"), "lock int Ruler = 1\nlock Dim*\n");
+    box.Write(box.File("user"), "double RotSnapAngle = 30\nint Drw_settings_GridPrimarySpacing = 3\n"
+                                "string DrwGVSXmlTrel = \"" +
+                                    std::string(100, 'x') + "\"\n");
+    const KivSettingRepository& repository = *KivDrwRepository();
+    int whole = 0;
+    double real = 0.0;
+    KivUnicodeString text(std::string(200, 'y'));
+    KivSettingProvenance place;
+    // The first of each key that is of another type is reported.
+    EXPECT_EQ(repository.ReadSetting("Ruler", &real, 1), E_FAIL);
+    EXPECT_EQ(KivDrwRead(&repository, KivDrwKeys::Drw_settings_GridPrimarySpacing), 100.0);
+
+    const long before = CountedAllocations();
+    const HRESULT results[] = {
+        repository.ReadSetting("Ruler", &whole, 1),
+        repository.ReadSetting("Ruler", &real, 1),
+        repository.ReadSetting("NeverHeardOf_AndLongerThanAnyShortString", &whole, 1),
+        repository.ReadSetting("DrwGVSXmlTrel", &text, 1),
+        repository.ReadBound(KivDrwPlaces::DrwGVSXmlTrel, &text),
+        repository.GetProvenance("Ruler", place),
+    };
+    real = KivDrwRead(&repository, KivDrwKeys::RotSnapAngle) +
+           KivDrwRead(&repository, KivDrwKeys::Drw_settings_GridPrimarySpacing);
+    whole = KivDrwRead(&repository, KivDrwKeys::Ruler);
+    const long made = CountedAllocations() - before;
+    EXPECT_EQ(made, 0);
+    const HRESULT expected[] = {S_OK, E_FAIL, E_FAIL, S_OK, S_OK, S_OK};
+    for (std::size_t i = 0; i < std::size(expected); ++i) EXPECT_EQ(results[i], expected[i]) << i;
+    EXPECT_EQ(real, 130.0);
+    EXPECT_EQ(whole, 1);
+    EXPECT_EQ(text, KivUnicodeString(std::string(100, 'x')));
+    EXPECT_TRUE(place.locked);
+}
+
+// The places stay right when the table grows, when files change and after everything was forgotten.
+TEST(Reads, PlacesNameTheirKeys)
+{
+    KivSettingsSandbox box;
+    std::string bytes;
+    for (std::size_t i = 0; i < std::size(kKivDrwKeyNames); i += 2)
+        bytes += std::string("int ") + kKivDrwKeyNames[i] + " = " + std::to_string(i) + "\n";
+    const auto check = [] {
+        KivSettingRepository& repository = *KivDrwRepository();
+        for (std::size_t i = 0; i < std::size(kKivDrwKeyNames); ++i) {
+            int byName = -1, byPlace = -1;
+            EXPECT_EQ(repository.ReadSetting(kKivDrwKeyNames[i], &byName, 1),
+                      repository.ReadBound(i, &byPlace));
+            EXPECT_EQ(byName, byPlace) << kKivDrwKeyNames[i];
+        }
+        int value = -1;
+        EXPECT_EQ(repository.ReadBound(std::size(kKivDrwKeyNames), &value), E_FAIL);
+    };
+    check();
+    box.Write(box.File("user"), bytes);
+    KivDrwRepository()->Refresh();
+    check();
+    for (int i = 0; i < 2000; ++i)
+        KivDrwRepository()->WriteSetting(("K" + std::to_string(i)).c_str(), &i, 1, 0);
+    check();
+    KivSettingRepository::ForgetAll();
+    check();
+}
+
+} // namespace

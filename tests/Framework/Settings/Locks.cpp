@@ -1,0 +1,223 @@
+#include "Settings/KivSettingFindings.h"
+#include "Settings/KivSettingTransaction.h"
+#include "Support/KivSettingsSandbox.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <limits>
+
+namespace {
+
+using Keys = KivSettingRepository::Keys;
+
+class Locks : public ::testing::Test {
+protected:
+    static KivSettingInfo Info(const char* key)
+    {
+        KivSettingInfo info;
+        KivSettingRepository::GetRepository("DraftingOptions")->GetInfo(key, &info, 0);
+        return info;
+    }
+    // Who locks a key, as "layer:line".
+    static std::string Locker(const char* key)
+    {
+        const KivSettingInfo info = Info(key);
+        if (!info.locked && !info.lockedHere) return "";
+        return std::string(info.lockLayer.View()) + ":" + std::to_string(info.lockLine);
+    }
+    static HRESULT Put(const char* key, int value)
+    {
+        return KivSettingRepository::GetRepository("DraftingOptions")->WriteSetting(key, &value, 1, 0);
+    }
+    // Opens the layer for an administrator.
+    KivSettingRepository& Edit(const char* layer)
+    {
+        KivSettingRepository::SetEditedLayer(KivUnicodeString((box.root / layer).string()));
+        return box.Reopen();
+    }
+
+    KivSettingsSandbox box;
+};
+
+TEST_F(Locks, APrefixLocksWhatIsKnownAndWhatComesLater)
+{
+    box.NameLayers({"company", "site", "team"});
+    box.Write(box.File("company"), "int DimA = 1\nlock DimOwn\nint DimOwn = 1\n");
+    box.Write(box.File("site"), "int DimA = 2\nint DimOwn = 2\nlock  Dim* \nlock DimB\nint Other = 2\n");
+    box.Write(box.File("team"), "int DimA = 3\nlock int DimC = 3\nlock D*\nint Di = 3\n");
+    box.Write(box.File("user"), "int DimA = 4\nint DimC = 4\nint Dimension = 4\nint Other = 4\nlock *\n");
+    KivSettingRepository& repository = box.Reopen();
+    EXPECT_EQ(box.Read(repository, "DimA", 0), 2) << "an outer layer's value, until the layer that locks";
+    EXPECT_EQ(box.Read(repository, "DimOwn", 0), 1);
+    EXPECT_EQ(box.Read(repository, "DimC", 0), 0) << "set further in than the lock";
+    EXPECT_EQ(box.Read(repository, "Dimension", 0), 0);
+    EXPECT_EQ(box.Read(repository, "Di", 0), 3);
+    EXPECT_EQ(box.Read(repository, "Other", 0), 4);
+    EXPECT_EQ(Locker("DimA"), "site:3");
+    EXPECT_EQ(Locker("DimB"), "site:4") << "the line that names the key";
+    EXPECT_EQ(Locker("DimOwn"), "company:2");
+    EXPECT_EQ(Locker("Di"), "team:3");
+    EXPECT_EQ(Locker("DimNeverHeardOf"), "site:3");
+    EXPECT_EQ(Locker("Other"), "");
+    for (const char* key : {"DimA", "DimB", "DimC", "DimNew", "Di", "Dx"})
+        EXPECT_EQ(Put(key, 9), E_FAIL) << key;
+    EXPECT_EQ(Put("Other", 9), S_OK);
+    EXPECT_EQ(Put("dim", 9), S_OK);
+    KivSettingProvenance place;
+    EXPECT_EQ(repository.GetProvenance("DimA", place), S_OK);
+    EXPECT_TRUE(place.locked);
+    EXPECT_EQ(*place.layer, "site");
+    EXPECT_EQ(place.line, 1);
+    EXPECT_EQ(repository.GetProvenance("Never", place), E_FAIL);
+
+    box.Write(box.File("site"), "int DimA = 2\n");
+    Keys changed = repository.Refresh();
+    EXPECT_NE(std::find(changed.begin(), changed.end(), KivString("DimA")), changed.end());
+    EXPECT_EQ(Locker("DimNeverHeardOf"), "team:3");
+    box.Write(box.File("team"), "lock *\n");
+    changed = repository.Refresh();
+    EXPECT_NE(std::find(changed.begin(), changed.end(), KivString("Other")), changed.end());
+    EXPECT_EQ(Put("Anything", 9), E_FAIL);
+    EXPECT_EQ(box.Read(repository, "Other", 0), 0);
+    ASSERT_EQ(repository.SaveRepository(nullptr), S_OK);
+    EXPECT_NE(box.Bytes(box.File("user")).find("int Other = 9"), std::string::npos);
+}
+
+TEST_F(Locks, DamagedPatternsOpenNothing)
+{
+    box.NameLayers({"site"});
+    box.Write(box.File("site"), "lock Dim*\n");
+    box.Reopen();
+    EXPECT_EQ(Put("DimA", 1), E_FAIL);
+    for (const char* bytes : {"lock Di m*\n", "lock Dim*x\n", "lock Dim* = 4\n", "lock **\n", "Dim*\n",
+                              "lock 1*\n", "lock int Dim* = 4\n", "lock Dim*"}) {
+        box.Write(box.File("site"), bytes);
+        box.Reopen();
+        EXPECT_EQ(Put("DimA", 1), E_FAIL) << bytes;
+    }
+    box.Write(box.File("site"), "");
+    box.Reopen();
+    EXPECT_EQ(Put("DimA", 1), E_FAIL);
+}
+
+TEST_F(Locks, AnAdministratorLocksByPrefixAndTakesItBack)
+{
+    box.NameLayers({"company", "site"});
+    box.Write(box.File("company"), "lock Cmp*\n");
+    box.Write(box.File("site"), "# ours\r\nint DimA = 1\r\nlock Grid\r\n");
+    KivSettingRepository& site = Edit("site");
+    EXPECT_EQ(site.SetLock("Dim*", true), S_OK);
+    EXPECT_TRUE(Info("DimA").lockedHere);
+    EXPECT_TRUE(Info("DimLater").lockedHere);
+    EXPECT_FALSE(Info("DimA").canLock);
+    EXPECT_TRUE(Info("Grid").canLock);
+    EXPECT_EQ(Put("DimA", 2), S_OK) << "whoever edits the layer may change it";
+    EXPECT_EQ(site.SetLock("DimA", false), E_FAIL);
+    EXPECT_EQ(site.SetLock("Cmp*", true), E_FAIL);
+    EXPECT_EQ(site.SetLock("CmpX*", true), E_FAIL);
+    EXPECT_EQ(site.SetLock("Dim**", true), E_FAIL);
+    ASSERT_EQ(site.Rollback(), S_OK);
+    EXPECT_EQ(Locker("DimA"), "");
+    EXPECT_EQ(site.SetLock("Dim*", true), S_OK);
+    ASSERT_EQ(site.SaveRepository(nullptr), S_OK);
+    EXPECT_EQ(box.Bytes(box.File("site")), "# ours\r\nint DimA = 1\r\nlock Grid\r\nlock Dim*\r\n");
+    EXPECT_EQ(Locker("DimA"), "site:4");
+    EXPECT_EQ(site.SetLock("*", true), S_OK);
+    EXPECT_EQ(site.SetLock("Dim*", false), S_OK);
+    ASSERT_EQ(site.SaveRepository(nullptr), S_OK);
+    EXPECT_EQ(box.Bytes(box.File("site")), "# ours\r\nint DimA = 1\r\nlock Grid\r\nlock *\r\n");
+    EXPECT_EQ(site.SetLock("*", false), S_OK);
+    EXPECT_EQ(Locker("DimA"), "");
+}
+
+// A file of locks costs time in proportion to its size, whatever they are.
+TEST_F(Locks, ManyPrefixesAreResolvedInLinearTime)
+{
+    box.NameLayers({"site"});
+    std::string bytes, keys;
+    for (int i = 0; i < 50000; ++i) {
+        bytes += "lock P" + std::to_string(i) + "x*\n";
+        keys += "int P" + std::to_string(i) + "xKey = 1\n";
+    }
+    box.Write(box.File("site"), bytes);
+    box.Write(box.File("user"), keys);
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(box.Read(box.Reopen(), "P49999xKey", 0), 0);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+    EXPECT_EQ(Locker("P31415xKey"), "site:31416");
+}
+
+TEST_F(Locks, WhatHasNoEffectIsFoundWithItsPlace)
+{
+    box.NameLayers({"company", "site"});
+    box.Write(box.File("company"), "lock int Ruler = 1\nlock Gone\nlock Dim*\nlock Zebra*\nint Grid = 1\n");
+    box.Write(box.File("site"), "lock Ruler\nlock int DimA = 2\nlock DimA*\nint Ruler = 3\nint Grid = x\n"
+                                "lock Snap\nint Gone = 1\n");
+    box.Write(box.File("user"),
+              "int Ruler = 4\nlock Grid\ninitial int Grid = 4\nint Snap = 4\nint Free = 4\n");
+    const char* known[] = {"Ruler", "Grid", "Snap", "DimA", "DimB", "Free"};
+    const auto all = [&](const KivUnicodeString& edited) {
+        std::vector<std::string> words;
+        for (const KivSettingFinding& finding : KivCheckSettings("DraftingOptions", known, edited)) {
+            words.push_back(std::string(finding.layer.View()) + ":" + std::to_string(finding.line) + " " +
+                            std::string(finding.key.View()) + " " + std::string(finding.text.View()));
+            std::string& text = words.back();
+            for (std::size_t at; (at = text.find(box.root.string() + "/")) != std::string::npos;)
+                text.erase(at, box.root.string().size() + 1);
+        }
+        return words;
+    };
+    const std::string company = "layer \"company\" (company/DraftingOptions.kivsettings, line ";
+    const std::string site = "layer \"site\" (site/DraftingOptions.kivsettings, line ";
+    EXPECT_EQ(
+        all({}),
+        (std::vector<std::string>{
+            "site:5 Grid the value is no number of its type; the line is not used",
+            "site:0  the administrator's file is damaged; there is no copy of it: what can be read is in "
+            "force",
+            "company:2 Gone the lock has no effect: there is no setting of this name",
+            "company:4 Zebra* the lock has no effect: no setting's name begins so",
+            "site:1 Ruler the lock has no effect: " + company + "1) locks it already",
+            "site:2 DimA neither lock nor value have an effect: " + company + "3) locks it already",
+            "site:3 DimA* the lock has no effect: " + company + "3) locks it already",
+            "site:4 Ruler the value is not used: " + company + "1) locks it already",
+            "site:7 Gone the value is not used: there is no setting of this name",
+            "user:1 Ruler the value is not used: " + company + "1) locks it already",
+            "user:2 Grid a lock in the user's own file binds nobody",
+            "user:3 Grid the value of the first start yields to the one of " + company + "5)",
+            "user:4 Snap the value is not used: " + site + "6) locks it already",
+        }));
+    EXPECT_TRUE(box.diagnostics.empty()) << "what is found is not said a second time";
+    EXPECT_EQ(all(KivUnicodeString((box.root / "site").string())).size(), 8U);
+    std::filesystem::permissions(box.root / "site", std::filesystem::perms::all);
+    EXPECT_EQ(all({})[2], "site:0  its locks are not enforced: every user may write to the directory");
+}
+
+TEST_F(Locks, ABatchStoresWhatItMayAndNamesTheRest)
+{
+    box.NameLayers({"site"});
+    box.Write(box.File("site"), "lock int Ruler = 1\nlock Dim*\n");
+    box.Write(box.File("user"), "int Old = 1\n");
+    KivSettingTransaction batch(box.Reopen());
+    batch.Set("Ruler", 5);
+    batch.Set("Grid", 1);
+    batch.Set("DimNew", KivUnicodeString("x"));
+    batch.Set("not a key", 1);
+    batch.Set("Angle", std::numeric_limits<double>::infinity());
+    batch.Set("Grid", 2);
+    batch.Unset("Old");
+    batch.Unset("DimOld");
+    EXPECT_EQ(box.Bytes(box.File("user")), "int Old = 1\n");
+    EXPECT_EQ(batch.Save(), KivSettingRepository::Receipt::Durable);
+    EXPECT_EQ(box.Bytes(box.File("user")), "int Grid = 2\n");
+    std::string refused;
+    for (const auto& refusal : batch.Refusals()) {
+        refused += std::string(refusal.key.View()) + "/" + std::string(refusal.locker.lockLayer.View()) +
+                   std::to_string(refusal.locker.lockLine) + " ";
+        EXPECT_FALSE(refusal.why.IsEmpty());
+    }
+    EXPECT_EQ(refused, "Ruler/site1 DimNew/site2 not a key/0 Angle/0 DimOld/site2 ");
+}
+
+} // namespace
