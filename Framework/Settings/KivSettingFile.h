@@ -29,9 +29,6 @@ public:
     // A damaged line, or a version that this one does not know.
     bool IsDamaged() const { return _damaged; }
 
-    // Of a version that this one does not know.
-    bool IsNewer() const { return _newer; }
-
     // False when the last line has no end: whoever wrote the file may have been cut off.
     bool IsTerminated() const { return _text->empty() || _text->back() == '\n'; }
 

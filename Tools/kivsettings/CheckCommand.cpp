@@ -3,63 +3,42 @@
 #include "Console.h"
 #include "Json.h"
 #include "LayerCheck.h"
-#include "Settings.h"
 
 #include "Settings/KivSettingLayers.h"
 
-#include <algorithm>
-
 namespace {
 
-void TakeLayers(LayerCheck& check, const KivUnicodeString& edited)
+JsonObject AsJson(const KivSettingFinding& finding)
 {
-    std::vector<KivUnicodeString> layers = KivSettingLayers::Administrator();
-    const auto kind =
-        KivSettingLayers::AreEnforced() ? LayerCheck::Locks::Enforced : LayerCheck::Locks::Trial;
-    if (!edited.IsEmpty()) {
-        // The layer and those outside of it; one that no list names stands alone.
-        const auto at = std::find(layers.begin(), layers.end(), edited);
-        if (at == layers.end()) return check.Take(edited + Settings::FileName, LayerCheck::Locks::Enforced);
-        layers.erase(at + 1, layers.end());
-    }
-    for (const KivUnicodeString& layer : layers) check.Take(layer + Settings::FileName, kind);
-    if (edited.IsEmpty() && !KivSettingLayers::User().IsEmpty()) {
-        check.Take(KivSettingLayers::User() + Settings::FileName, LayerCheck::Locks::UsersOwn);
-    }
-}
-
-JsonObject AsJson(const KivDiagnostic& finding)
-{
-    constexpr const char* severities[] = {"note", "warning", "error"}; // in the order of Severity
+    constexpr const char* kinds[] = {"wrong", "no effect", "open"}; // in the order of Kind
     JsonObject object;
-    object.Add("severity", severities[static_cast<std::size_t>(finding.severity)]);
+    object.Add("kind", kinds[static_cast<std::size_t>(finding.kind)]);
     object.AddUnlessEmpty("file", finding.file.View()).Add("line", finding.line);
     return object.AddUnlessEmpty("key", finding.key.View()).Add("text", finding.text.View());
 }
 
+std::string AsText(const KivSettingFinding& finding)
+{
+    const KivDiagnostic words{
+        .text = finding.text, .file = finding.file, .line = finding.line, .key = finding.key};
+    return words.Words().ConvertToChar() + std::string("\n");
+}
+
 ExitCode Run(const Arguments& arguments, Console& console)
 {
-    LayerCheck check;
-    const KivDiagnosticSink before =
-        KivSetDiagnosticSink([&check](const KivDiagnostic& said) { check.Add(said); });
-    TakeLayers(check, arguments.Has("layer") ? KivSettingLayers::Absolute(arguments.Value("layer"))
-                                             : KivUnicodeString());
-    KivSetDiagnosticSink(before);
-
+    const LayerCheck check = CheckLayers(
+        arguments.Has("layer") ? KivSettingLayers::Absolute(arguments.Value("layer")) : KivUnicodeString());
     JsonArray array;
-    for (const KivDiagnostic& finding : check.Findings()) {
-        if (arguments.Has("json"))
-            console.Print(array.Element(AsJson(finding)));
-        else
-            console.Print(std::string(finding.Words().View()) + "\n");
+    for (const KivSettingFinding& finding : check.findings) {
+        console.Print(arguments.Has("json") ? array.Element(AsJson(finding)) : AsText(finding));
     }
     if (arguments.Has("json")) console.Print(array.End());
-    if (check.Findings().empty()) {
-        console.Say("nothing is wrong in " + std::to_string(check.Files()) +
-                    (check.Files() == 1 ? " file" : " files"));
+    if (check.findings.empty()) {
+        console.Say("nothing is wrong in " + std::to_string(check.files) +
+                    (check.files == 1 ? " file" : " files"));
     }
-    if (check.IsUnreadable()) return ExitCode::Trouble;
-    return check.Findings().empty() ? ExitCode::Done : ExitCode::Refused;
+    if (check.isUnreadable) return ExitCode::Trouble;
+    return check.findings.empty() ? ExitCode::Done : ExitCode::Refused;
 }
 
 constexpr Option kOptions[] = {kJsonOption};

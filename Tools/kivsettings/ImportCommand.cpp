@@ -6,11 +6,14 @@
 #include "SettingsFile.h"
 #include "ValueText.h"
 
+#include "Settings/KivSettingLine.h"
+
 namespace {
 
 // Why a line of the file cannot be taken, or empty.
 std::string Fault(const std::string& key, const KivSettingEntry& entry, bool force)
 {
+    if (KivIsSettingPattern(key)) return {};
     const KivDrwRow* const row = KivDrwCatalogue::Find(key);
     if (!row) return force ? "" : KeySelection::UnknownWords(key);
     const std::string wrong = KivHasValue(entry.value) ? WrongWith(*row, entry.value) : "";

@@ -11,11 +11,6 @@
 
 namespace {
 
-bool IsPattern(std::string_view name)
-{
-    return name.find_first_of("*?[") != std::string_view::npos;
-}
-
 bool FitsPattern(const std::string& pattern, const std::string& key)
 {
     return fnmatch(pattern.c_str(), key.c_str(), 0) == 0;
@@ -28,11 +23,21 @@ void AddOnce(std::vector<std::string>& keys, const std::string& key)
 
 } // namespace
 
-std::string KeySelection::UnknownWords(std::string_view key)
+bool KeySelection::IsPattern(std::string_view name)
+{
+    return name.find_first_of("*?[") != std::string_view::npos;
+}
+
+std::string KeySelection::Suggestion(std::string_view key)
 {
     std::vector<std::string_view> known;
     for (const KivDrwRow& row : KivDrwCatalogue::Rows()) known.emplace_back(row.key);
-    return "there is no setting \"" + std::string(key) + "\"" + DidYouMean(key, known);
+    return DidYouMean(key, known);
+}
+
+std::string KeySelection::UnknownWords(std::string_view key)
+{
+    return "there is no setting \"" + std::string(key) + "\"" + Suggestion(key);
 }
 
 bool KeySelection::Fits(const std::string& key, const std::vector<std::string>& patterns)

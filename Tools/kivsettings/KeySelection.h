@@ -21,9 +21,12 @@ std::optional<std::vector<std::string>> Named(const Settings& settings, const st
 // The page of a name, whatever its case; none is said.
 std::optional<KivDrwGroup> Page(std::string_view name, Console& console);
 
-// "there is no setting Rulr; did you mean Ruler?"
+// "; did you mean Ruler?", or empty.
+std::string Suggestion(std::string_view key);
+// "there is no setting "Rulr"; did you mean Ruler?"
 std::string UnknownWords(std::string_view key);
 
+bool IsPattern(std::string_view name);
 // Whether a name fits at least one of the patterns; no pattern fits everything.
 bool Fits(const std::string& key, const std::vector<std::string>& patterns);
 

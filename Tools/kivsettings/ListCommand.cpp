@@ -12,7 +12,7 @@ namespace {
 bool IsWanted(const Setting& setting, const Arguments& arguments)
 {
     if (arguments.Has("changed") && !setting.IsChanged()) return false;
-    return !arguments.Has("locked") || setting.info.locked || setting.info.lockedHere;
+    return !arguments.Has("locked") || setting.IsLocked();
 }
 
 std::vector<std::string> Keys(const Settings& settings, const Arguments& arguments,

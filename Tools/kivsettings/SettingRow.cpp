@@ -25,18 +25,22 @@ std::string OriginOf(const Setting& setting)
 
 Row RowOf(const Setting& setting)
 {
-    const bool isLocked = setting.info.locked || setting.info.lockedHere;
     const char* const page = setting.Page();
     return {setting.key,
             setting.TypeWord(),
             ShownValue(setting.value),
             KivHasValue(setting.fallback) ? ShownValue(setting.fallback) : "-",
             OriginOf(setting),
-            isLocked ? std::string(setting.info.lockLayer.View()) : "-",
+            LockOf(setting),
             page[0] ? page : "-"};
 }
 
 } // namespace
+
+std::string LockOf(const Setting& setting)
+{
+    return setting.IsLocked() ? std::string(setting.info.lockLayer.View()) : "-";
+}
 
 std::string SettingsAsTable(const std::vector<Setting>& settings, bool isAligned)
 {
@@ -81,7 +85,7 @@ JsonObject SettingAsJson(const Setting& setting)
     object.AddUnlessEmpty("layer", info.layer.View())
         .AddUnlessEmpty("file", info.file.View())
         .Add("line", info.line);
-    object.Add("locked", info.locked || info.lockedHere).AddUnlessEmpty("lockLayer", info.lockLayer.View());
+    object.Add("locked", setting.IsLocked()).AddUnlessEmpty("lockLayer", info.lockLayer.View());
     object.AddUnlessEmpty("lockFile", info.lockFile.View()).Add("lockLine", info.lockLine);
     return object.AddUnlessEmpty("page", setting.Page());
 }

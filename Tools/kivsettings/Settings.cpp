@@ -27,7 +27,7 @@ template <class Visitor> void ForEachAttribute(KivSettingRepository& repository,
 } // namespace
 
 // The name is a plain one, for which there is always a repository.
-Settings::Settings() : _repository(*KivSettingRepository::GetRepository("DraftingOptions")) {}
+Settings::Settings() : _repository(*KivSettingRepository::GetRepository(Name)) {}
 
 Setting Settings::Describe(const std::string& key) const
 {

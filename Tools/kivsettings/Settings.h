@@ -18,6 +18,7 @@ struct Setting {
     KivSettingValue fallback;       // the default; none for an unknown key
     KivSettingInfo info;
 
+    bool IsLocked() const { return info.locked || info.lockedHere; }
     bool IsChanged() const { return !KivSameValue(value, fallback); }
     const char* TypeWord() const { return KivSettingTypeWord(row ? fallback : value); }
     const char* Page() const { return row ? KivDrwCatalogue::NameOf(row->group) : ""; }
@@ -26,8 +27,8 @@ struct Setting {
 // The drafting settings, as the commands see them.
 class Settings {
 public:
-    // Of its file in the directory of each layer.
-    static constexpr const char* FileName = "/DraftingOptions.kivsettings";
+    // Of the repository.
+    static constexpr const char* Name = "DraftingOptions";
 
     Settings();
 

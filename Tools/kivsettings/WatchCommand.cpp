@@ -16,7 +16,7 @@ std::vector<KivUnicodeString> Files(const Arguments& arguments)
     const KivUnicodeString own = arguments.Has("layer") ? KivSettingLayers::Absolute(arguments.Value("layer"))
                                                         : KivSettingLayers::User();
     if (!own.IsEmpty()) files.push_back(own);
-    for (KivUnicodeString& file : files) file.Append(Settings::FileName);
+    for (KivUnicodeString& file : files) file = KivSettingLayers::FileIn(file, Settings::Name);
     return files;
 }
 
@@ -36,8 +36,9 @@ ExitCode Run(const Arguments& arguments, Console& console)
             const std::string key(changedKey.View());
             if (!KeySelection::Fits(key, arguments.names)) continue;
             const Setting setting = settings.Describe(key);
-            console.Print(arguments.Has("json") ? SettingAsJson(setting).Text() + "\n"
-                                                : key + "\t" + ShownValue(setting.value) + "\n");
+            console.Print(arguments.Has("json")
+                              ? SettingAsJson(setting).Text() + "\n"
+                              : key + "\t" + ShownValue(setting.value) + "\t" + LockOf(setting) + "\n");
         }
     });
     // What was saved between reading and watching.
@@ -53,7 +54,7 @@ constexpr Option kOptions[] = {kJsonOption};
 constexpr Example kExamples[] = {
     {"kivsettings watch", "prints every change until Ctrl+C"},
     {"kivsettings watch 'Drw_settings_*' --json", "one JSON object a line, for a program"},
-    {"kivsettings watch Ruler | while read -r key value; do echo \"$value\"; done", "acts on a change"},
+    {"kivsettings watch Ruler | while read -r key value lock; do echo \"$value\"; done", "acts on a change"},
 };
 
 } // namespace
@@ -64,8 +65,10 @@ constexpr Command kWatchCommand{
     .fewest = 0,
     .most = kAnyNumber,
     .summary = "print changes as other programs save them",
-    .description = "Prints key and new value, with a tab between them, whenever another program or a person\n"
-                   "changes a settings file. Ends at Ctrl+C, SIGTERM and when its output is closed.",
+    .description =
+        "Prints a line when another program or a person changes a setting's value or lock: key, new\n"
+        "value and the layer that locks it or \"-\", with tabs between them. Ends at Ctrl+C, SIGTERM\n"
+        "and when its output is closed.",
     .options = kOptions,
     .examples = kExamples,
     .needsLayer = false,

@@ -82,6 +82,27 @@ TEST_F(ToolTest, AnInnerLayerCannotTouchWhatAnOuterOneLocks)
     Expect("set --layer $root/typo Ruler=0", 3, "", "not there");
 }
 
+TEST_F(ToolTest, LocksAllThatBeginsSoByOneLine)
+{
+    box.NameLayers({"site"});
+    box.Write(box.File("site"), "# ours\n");
+    Expect("lock --layer $root/site 'Dim*' '*Snap*On' Ruler", 0, "");
+    EXPECT_EQ(box.Bytes(box.File("site")),
+              "# ours\nlock DrwTextSnappingOn\nlock DrwTextLeadSnappingOn\nlock DrwGDTSnappingOn\n"
+              "lock Ruler\nlock Dim*\n");
+    Expect("set DimCircle=1", 1, "", "line 6");
+    Expect("unlock --layer $root/site DimCircle", 1, "", "unlock it as it stands there");
+    Expect("lock --layer $root/site 'Nothing*'", 2, "", "no setting fits");
+    Expect("export --layer $root/site", 0, "# kivsettings 1\n");
+    Expect("unlock --layer $root/site 'D*' Ruler ViewName", 0, "");
+    EXPECT_EQ(box.Bytes(box.File("site")), "# ours\n");
+    box.Write(box.root / "other", "lock View*\nlock int Ruler = 1\n");
+    Expect("import --dry-run --layer $root/site $root/other", 0,
+           "+lock View*\n-int Ruler = 0\n+lock int Ruler = 1\n");
+    Expect("import --layer $root/site $root/other", 0, "");
+    EXPECT_EQ(box.Bytes(box.File("site")), "# ours\nlock View*\nlock int Ruler = 1\n");
+}
+
 TEST_F(ToolTest, ExportsWhatDiffersAndImportsIt)
 {
     box.NameLayers({"site"});
