@@ -6,6 +6,7 @@
 #include "ValueText.h"
 
 #include "Settings/KivSettingLine.h"
+#include "Settings/KivSettingTransaction.h"
 
 #include <algorithm>
 
@@ -62,13 +63,14 @@ std::optional<std::vector<Assignment>> Assignments::Parse(const std::vector<std:
     return assignments;
 }
 
-bool Assignments::Write(const std::vector<Assignment>& assignments, Settings& settings, Console& console)
+ExitCode Assignments::Store(const std::vector<Assignment>& assignments, Settings& settings, Console& console)
 {
-    bool isWhole = true;
-    for (const Assignment& assignment : assignments) {
-        if (settings.Write(assignment.key, assignment.value)) continue;
-        console.Say(assignment.key, settings.Describe(assignment.key).info.Words().View());
-        isWhole = false;
+    KivSettingTransaction transaction(settings.Repository());
+    for (const auto& [key, value] : assignments) transaction.Set(KivString(key.c_str()), value);
+    ExitCode code = Settings::AfterSaving(transaction.Save(), console);
+    for (const KivSettingTransaction::Refusal& refusal : transaction.Refusals()) {
+        console.Say(refusal.key.View(), refusal.why.View());
+        code = code | ExitCode::Refused;
     }
-    return isWhole;
+    return code;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ExitCode.h"
+
 #include "Settings/KivSettingValue.h"
 
 #include <optional>
@@ -23,8 +25,8 @@ namespace Assignments {
 std::optional<std::vector<Assignment>> Parse(const std::vector<std::string>& words, const Settings& settings,
                                              const Arguments& arguments, Console& console);
 
-// Writes each into the working state. Refused when one is locked, which is said with its locker; the others
-// are written all the same.
-bool Write(const std::vector<Assignment>& assignments, Settings& settings, Console& console);
+// Stores them in one save. Those that are locked are said with their locker; the others are stored all the
+// same.
+ExitCode Store(const std::vector<Assignment>& assignments, Settings& settings, Console& console);
 
 } // namespace Assignments

@@ -10,9 +10,7 @@ ExitCode Run(const Arguments& arguments, Console& console)
 {
     Settings settings;
     const auto assignments = Assignments::Parse(arguments.names, settings, arguments, console);
-    if (!assignments) return ExitCode::Misuse;
-    const bool isWhole = Assignments::Write(*assignments, settings, console);
-    return settings.Save(console) | (isWhole ? ExitCode::Done : ExitCode::Refused);
+    return assignments ? Assignments::Store(*assignments, settings, console) : ExitCode::Misuse;
 }
 
 constexpr Option kOptions[] = {

@@ -90,20 +90,32 @@ void Settings::Drop(const std::vector<std::string>& keys)
     _repository.ResetToAdminValues(names.data(), static_cast<int>(names.size()));
 }
 
+ExitCode Settings::SetLocks(const std::vector<std::string>& keys, bool locked, Console& console)
+{
+    ExitCode code = ExitCode::Done;
+    for (const std::string& key : keys) {
+        if (_repository.SetLock(key.c_str(), locked) == S_OK) continue;
+        const KivSettingInfo info = Describe(key).info;
+        KivUnicodeString words = info.Words();
+        if (!info.locked) words.Append(" That line locks more than this key: unlock it as it stands there.");
+        console.Say(key, words.View());
+        code = code | ExitCode::Refused;
+    }
+    return code;
+}
+
 ExitCode Settings::Save(Console& console)
 {
     _repository.SaveRepository(nullptr);
+    return AfterSaving(_repository.LastReceipt(), console);
+}
+
+ExitCode Settings::AfterSaving(KivSettingRepository::Receipt receipt, Console& console)
+{
     using Receipt = KivSettingRepository::Receipt;
-    switch (_repository.LastReceipt()) {
-    case Receipt::Nothing:
-    case Receipt::Durable:
-        return ExitCode::Done;
-    case Receipt::Visible:
+    if (receipt == Receipt::Nothing || receipt == Receipt::Durable) return ExitCode::Done;
+    if (receipt == Receipt::Visible)
         console.Say("the change is in place, but might not survive a power failure");
-        return ExitCode::Trouble;
-    case Receipt::Refused:
-        break;
-    }
     return ExitCode::Trouble;
 }
 

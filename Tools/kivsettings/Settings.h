@@ -43,8 +43,13 @@ public:
     // Drops the own value of each key.
     void Drop(const std::vector<std::string>& keys);
 
+    // Locks or unlocks each key or beginning in the edited layer; those that stay as they are are said with
+    // their locker.
+    ExitCode SetLocks(const std::vector<std::string>& keys, bool locked, Console& console);
+
     // Makes the changes durable. Trouble when they are not; the framework has said why.
     ExitCode Save(Console& console);
+    static ExitCode AfterSaving(KivSettingRepository::Receipt receipt, Console& console);
     // What a reading command ends with: trouble when the user's file could not be read.
     ExitCode AfterReading() const;
 
