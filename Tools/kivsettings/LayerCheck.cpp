@@ -3,12 +3,14 @@
 #include "KeySelection.h"
 #include "ValueText.h"
 
+#include "Base/KivDiagnostic.h"
 #include "Settings/KivSettingFile.h"
 #include "Settings/KivSettingLayers.h"
 #include "Settings/KivTimedReading.h"
 
 #include <algorithm>
 #include <chrono>
+#include <set>
 
 namespace {
 
@@ -63,10 +65,19 @@ LayerCheck CheckLayers(const KivUnicodeString& editedLayer)
     LayerCheck check;
     std::vector<const char*> known;
     for (const KivDrwRow& row : KivDrwCatalogue::Rows()) known.push_back(row.key);
-    check.findings = KivCheckSettings(Settings::Name, known, editedLayer);
+    // What is said meanwhile is of the list of layers, and said each time that it is read.
+    std::set<KivUnicodeString> said;
+    KivDiagnosticSink sink = KivSetDiagnosticSink([&](const KivDiagnostic& about) {
+        if (!said.insert(about.Words()).second) return;
+        check.findings.push_back({Kind::Wrong, {}, about.file, about.line, about.key, about.text});
+    });
+    for (KivSettingFinding& finding : KivCheckSettings(Settings::Name, known, editedLayer)) {
+        check.findings.push_back(std::move(finding));
+    }
+    const std::vector<KivUnicodeString> paths = Paths(editedLayer);
+    KivSetDiagnosticSink(std::move(sink));
     for (KivSettingFinding& finding : check.findings) SuggestName(finding);
 
-    const std::vector<KivUnicodeString> paths = Paths(editedLayer);
     // A share that does not answer must not hold up the rest.
     std::vector<KivFileContent> contents = KivReadInTime(paths, std::chrono::seconds(1), &KivReadFile);
     for (std::size_t i = 0; i < paths.size(); ++i) {

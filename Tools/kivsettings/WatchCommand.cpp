@@ -23,9 +23,8 @@ std::vector<KivUnicodeString> Files(const Arguments& arguments)
 ExitCode Run(const Arguments& arguments, Console& console)
 {
     Settings settings;
-    for (const std::string& pattern : arguments.names) {
-        if (!KeySelection::Named(settings, {pattern}, true, console)) return ExitCode::Misuse;
-    }
+    if (!KeySelection::Named(settings, arguments.names, arguments.Has("force"), console))
+        return ExitCode::Misuse;
     FileWatch watch(Files(arguments));
     if (!watch.IsOpen()) {
         console.Say("the system offers no way to watch files");
@@ -49,7 +48,7 @@ ExitCode Run(const Arguments& arguments, Console& console)
     }
 }
 
-constexpr Option kOptions[] = {kJsonOption};
+constexpr Option kOptions[] = {kJsonOption, kForceOption};
 
 constexpr Example kExamples[] = {
     {"kivsettings watch", "prints every change until Ctrl+C"},

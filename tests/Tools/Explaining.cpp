@@ -89,6 +89,7 @@ TEST_F(Explained, MisuseIsExplainedAndChangesNothing)
         {"set -- --force Ruler=1", "write KEY=VALUE"},
         {"help nothing", "no command"},
         {"get ''", "there is no setting"},
+        {"watch Rulr", "did you mean Ruler"},
     };
     for (const auto& [line, words] : lines) Expect(line, 2, "", words);
     EXPECT_TRUE(box.Names("user").empty());

@@ -111,6 +111,8 @@ TEST_F(ToolTest, ChecksEveryLineOfEveryLayer)
     box.Write(company, "lock int Ruler = 1\n");
     box.NameLayers({"company"});
     Expect("check", 0, "", "nothing is wrong in 1 file");
+    box.Write(box.root / "layers", (box.root / "company").string() + "\nrelative\n");
+    Expect("check", 1, (box.root / "layers").string() + ":2: the line is no absolute path; it is not used\n");
     box.NameLayers({});
     box.SetVariable("KivAdminSettingsPath", (box.root / "company").string());
     EXPECT_NE(Run("check").out.find("locks are not enforced: KivAdminSettingsPath"), std::string::npos);
