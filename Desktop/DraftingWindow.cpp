@@ -6,6 +6,9 @@
 #include "DraftingTree.h"
 #include "DraftingVersion.h"
 #include "DraftingWelcome.h"
+#include "OptionsWindow.h"
+#include "Settings/KivSketcherSettings.h"
+#include "SettingsWatch.h"
 #include "SheetAccessible.h"
 #include "SheetUnit.h"
 #include "SheetView.h"
@@ -108,6 +111,15 @@ void DraftingWindow::BuildStatus()
 void DraftingWindow::OpenOptions(const KivUnicodeString& page)
 {
     _options.Open(this, page);
+}
+
+void DraftingWindow::Follow(const SettingsWatch& watch, KivSketcherSettings& sketcher)
+{
+    connect(&watch, &SettingsWatch::Changed, this, [this, &sketcher] {
+        sketcher.GridModify();
+        sketcher.SnapModify();
+        if (OptionsWindow* const options = _options.Current()) options->Refill();
+    });
 }
 
 void DraftingWindow::Welcome()

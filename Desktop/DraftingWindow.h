@@ -8,7 +8,9 @@
 
 class DraftingDiagnostics;
 class DraftingTree;
+class KivSketcherSettings;
 class QLabel;
+class SettingsWatch;
 class SheetSettings;
 class SheetView;
 
@@ -25,6 +27,8 @@ public:
     DraftingOptions& Options() { return _options; }
 
     void OpenOptions(const KivUnicodeString& page = {});
+    // From now on sheets and open options show what other programs change. Both are to outlive the window.
+    void Follow(const SettingsWatch& watch, KivSketcherSettings& sketcher);
     // Asks for the size of the new drawing, unless the settings say not to.
     void Welcome();
 

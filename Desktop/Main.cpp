@@ -6,10 +6,13 @@
 #include "DraftingWindow.h"
 #include "KivDrwDraftingSettings.h"
 #include "KivDrwSketcherSettings.h"
+#include "Settings/KivSettingRepository.h"
+#include "SettingsWatch.h"
 #include "SheetSettings.h"
 
 #include <QApplication>
 #include <iostream>
+#include <optional>
 #include <vector>
 
 namespace {
@@ -61,6 +64,10 @@ int main(int argc, char** argv)
     SheetSettings settings(*KivDrwDraftingSettings::GetDraftingSettings(),
                            *KivDrwSketcherSettings::GetSketcherSettings());
     DraftingWindow window(settings, diagnostics, QString::fromStdString(line.administrator));
+    std::optional<SettingsWatch> watch;
+    if (auto* const repository = KivSettingRepository::GetRepository("DraftingOptions")) {
+        window.Follow(watch.emplace(*repository), *KivDrwSketcherSettings::GetSketcherSettings());
+    }
     const KivUnicodeString page(line.page);
     if (!line.screenshots) return ShowWindow(window, page);
     DraftingPictures pictures(*line.screenshots, std::cout, std::cerr);

@@ -12,6 +12,7 @@ public:
     NativeEditor(KivDialog& node, QWidget* parent);
 
     bool CommitText() override;
+    bool IsTyping() const override { return isModified(); }
 
 protected:
     void ShowNode() override;

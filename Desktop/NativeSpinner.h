@@ -16,6 +16,7 @@ public:
     ~NativeSpinner() override;
 
     bool CommitText() override;
+    bool IsTyping() const override;
     // The reason while a refused text stands in the field, else empty.
     const QString& Refusal() const { return _refusal; }
 
@@ -31,7 +32,6 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    bool IsTyping() const;
     void ShowValue();
     void Describe();
     void Refuse(const QString& why);

@@ -8,6 +8,7 @@
 #include "OptionsPageView.h"
 
 #include <QAbstractEventDispatcher>
+#include <QApplication>
 #include <QBoxLayout>
 #include <QDialogButtonBox>
 #include <QKeyEvent>
@@ -56,6 +57,9 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
 
     AddPages();
     ListenToKeys();
+    connect(qApp, &QApplication::focusChanged, this, [this] {
+        if (_isRefillDue) Refill();
+    });
     // What pages asked to be destroyed goes when the events are done.
     auto* events = QAbstractEventDispatcher::instance();
     connect(events, &QAbstractEventDispatcher::aboutToBlock, this,
@@ -171,8 +175,21 @@ void OptionsWindow::OrderTab()
 // Enters what is being typed; a refused text keeps the window open.
 bool OptionsWindow::CommitField()
 {
-    auto* field = dynamic_cast<NativeField*>(focusWidget());
+    NativeField* field = Field();
     return !field || field->CommitText();
+}
+
+// The field that has the focus, or null.
+NativeField* OptionsWindow::Field() const
+{
+    return dynamic_cast<NativeField*>(focusWidget());
+}
+
+void OptionsWindow::Refill()
+{
+    const NativeField* field = Field();
+    _isRefillDue = field && field->IsTyping();
+    if (!_isRefillDue && _session) _session->Refill();
 }
 
 void OptionsWindow::accept()

@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class NativeField;
 class OptionsMessageStrip;
 class OptionsPageView;
 class QListWidget;
@@ -32,6 +33,10 @@ public:
     OptionsPageView& PageView(int page) const;
     OptionsMessageStrip& Messages() const { return *_messages; }
 
+    // Shows what is in force after it was changed from elsewhere: at once, or as soon as the field in which
+    // somebody is typing has been left.
+    void Refill();
+
     // OK. The window stays open when a field holds a refused text or something could not be saved.
     void accept() override;
     void reject() override;
@@ -50,6 +55,7 @@ private:
     void PageChosen(int page);
     void OrderTab();
     bool CommitField();
+    NativeField* Field() const;
     void Reset();
     void ShowLongHelp();
     QSize FreeSize() const;
@@ -63,4 +69,5 @@ private:
     QPushButton* _cancel = nullptr;
     QPushButton* _reset = nullptr;
     OptionsDiagnostics _diagnostics;
+    bool _isRefillDue = false;
 };

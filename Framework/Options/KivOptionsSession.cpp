@@ -88,6 +88,11 @@ std::vector<KivDiagnostic> KivOptionsSession::Commit()
 void KivOptionsSession::Cancel()
 {
     for (const Page& page : _pages) page.settings->CancelModification(kNoRepository);
+    Refill();
+}
+
+void KivOptionsSession::Refill()
+{
     for (const Page& page : _pages) page.settings->SetUserSettingsValue(kNoRepository);
 }
 

@@ -39,6 +39,8 @@ public:
     std::vector<KivDiagnostic> Commit();
     // Cancel: every editor takes its changes back, and every page shows so.
     void Cancel();
+    // Shows on every page what is in force now, after it was changed from elsewhere.
+    void Refill();
     // Reset: this tab returns to the administrator's values and shows them.
     void Reset(const Page& page);
 

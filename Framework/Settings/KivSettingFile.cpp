@@ -174,7 +174,12 @@ std::string KivSettingFile::With(const std::vector<KivSettingChange>& changes) c
     }
     result += text.substr(copied);
 
-    if (text.empty()) (result += kVersionMark) += std::to_string(kVersion) + "\n";
+    // What means something in the first line alone must not come to stand there.
+    const std::string version = std::string(kVersionMark) + std::to_string(kVersion);
+    const bool isHeadless = copied > 0 && !_lines.empty() && _lines.front().begin == 0;
+    if (isHeadless && (result.starts_with(kByteOrderMark) || result.starts_with(kVersionMark)))
+        result.insert(0, version).insert(version.size(), lineEnd);
+    if (text.empty()) (result += version) += '\n';
     for (const KivSettingChange& change : changes) {
         if (change.entry.IsEmpty() || pending.find(change.key.View())->second.place) continue;
         if (!result.empty() && result.back() != '\n') result += lineEnd;

@@ -3,6 +3,7 @@
 #include "Base/KivDiagnostic.h"
 #include "Settings/KivAtomicFile.h"
 #include "Settings/KivHiddenName.h"
+#include "Settings/KivSettingDirectory.h"
 #include "Settings/KivSettingFileLock.h"
 
 #include <cerrno>
@@ -48,6 +49,11 @@ bool KivSettingOwnFile::Read()
 {
     if (_path.IsEmpty() || IsAsItWas()) return false;
     _content = KivReadFile(_path);
+    if (KivUnicodeString trouble = DirectoryTrouble(); !trouble.IsEmpty()) {
+        _content = {};
+        _content.state = KivFileContent::State::Unreadable;
+        _content.reason = std::move(trouble);
+    }
     if (IsProtected()) {
         KivReport({KivDiagnostic::Severity::Error,
                    _content.reason + "; it is left alone, and changes cannot be saved",
@@ -68,6 +74,17 @@ bool KivSettingOwnFile::Refuse(const KivUnicodeString& reason) const
                0,
                {}});
     return false;
+}
+
+// Of the file itself and of what a link in its place leads to.
+KivUnicodeString KivSettingOwnFile::DirectoryTrouble() const
+{
+    const KivUnicodeString directory(KivDirectoryOf(_path.View()));
+    const KivUnicodeString target = TargetOf(_path);
+    const KivUnicodeString targets(KivDirectoryOf(target.View()));
+    KivUnicodeString trouble = KivDirectoryTrouble(directory, _isAdministrators);
+    if (trouble.IsEmpty() && targets != directory) trouble = KivDirectoryTrouble(targets, _isAdministrators);
+    return trouble;
 }
 
 bool KivSettingOwnFile::MakeDirectory(const KivUnicodeString& target) const
@@ -131,6 +148,10 @@ KivSettingOwnFile::Outcome KivSettingOwnFile::Save(const std::vector<KivSettingC
     }
     const KivUnicodeString target = TargetOf(_path);
     if (!MakeDirectory(target)) return Outcome::Refused;
+    if (const KivUnicodeString trouble = DirectoryTrouble(); !trouble.IsEmpty()) {
+        Refuse(trouble);
+        return Outcome::Refused;
+    }
     const KivSettingFileLock lock(target, kLockPatience);
     if (!lock.IsHeld()) {
         Refuse(lock.Reason());

@@ -28,6 +28,7 @@ public:
 
 private:
     bool IsAsItWas() const;
+    KivUnicodeString DirectoryTrouble() const;
     bool Refuse(const KivUnicodeString& reason) const;
     bool MakeDirectory(const KivUnicodeString& target) const;
     bool SetAside(const KivUnicodeString& target) const;

@@ -18,4 +18,7 @@ struct KivSettingProvenance {
     const KivUnicodeString* lockLayer = nullptr; // null when it is not locked
     const KivUnicodeString* lockFile = nullptr;
     int lockLine = 0;
+
+    // Copies it into a record, whose value and names stay as they are.
+    void Fill(KivSettingInfo& info) const;
 };

@@ -276,6 +276,11 @@ KivSettingRepository::Keys KivSettingRepository::Refresh()
     return changed;
 }
 
+std::vector<KivUnicodeString> KivSettingRepository::Files() const
+{
+    return Store().Files();
+}
+
 HRESULT KivSettingRepository::SetLock(const char* key, bool locked)
 {
     return key && Store().SetLock(key, locked) ? S_OK : E_FAIL;

@@ -117,6 +117,10 @@ public:
     // top. Answers what listeners are told: the keys with another value or lock.
     Keys Refresh();
 
+    // The files that it is made of, whether they are there or not: the layers', outermost first, then the one
+    // that it writes, unless there is no place for that.
+    std::vector<KivUnicodeString> Files() const;
+
     // Writes a value as the user's with the mark "initial": present everywhere, but an administrator's
     // unlocked value wins over it until somebody writes the key again. While a scope is alive every
     // WriteSetting of the repository marks the keys that had no value of the user's.

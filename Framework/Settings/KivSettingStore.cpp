@@ -36,9 +36,25 @@ KivSettingStore::KivSettingStore(std::string_view name, const KivUnicodeString& 
       _layerDirectories(KivSettingLayers::Outside(editedLayer)),
       _own(OwnPath(_isAdministrator ? editedLayer : KivSettingLayers::User(), name), _isAdministrator)
 {
-    ReadLayers();
-    _own.Read();
-    TakeOwnFile();
+    ReadFiles();
+}
+
+// Reads what has changed on disk.
+void KivSettingStore::ReadFiles()
+{
+    _news.Say([this] {
+        ReadLayers();
+        if (_own.Read() || !_isRead) TakeOwnFile();
+        _isRead = true;
+    });
+}
+
+std::vector<KivUnicodeString> KivSettingStore::Files() const
+{
+    std::vector<KivUnicodeString> files;
+    for (const KivSettingLayer& layer : _layers) files.push_back(layer.path);
+    if (!_own.Path().IsEmpty()) files.push_back(_own.Path());
+    return files;
 }
 
 // The attribute of a key, which a lock on a prefix may govern before anybody has said anything of it.
@@ -78,10 +94,9 @@ void KivSettingStore::GovernAllOwn()
     }
 }
 
-const KivSettingAttribute* KivSettingStore::FindGoverned(const char* key)
+// A key that nobody has met, when a lock governs it.
+const KivSettingAttribute* KivSettingStore::MeetGoverned(std::string_view key)
 {
-    if (!key) return nullptr;
-    if (const KivSettingAttribute* known = _table.Find(key)) return known;
     const bool isLocked = _prefixLocks.Find(key).layer >= 0 || _ownPrefixLocks.Find(key).layer >= 0;
     if (!isLocked || !KivIsSettingKey(key)) return nullptr;
     return &_table[Meet(key, KivSettingTable::Hash(key))];
@@ -295,8 +310,7 @@ KivSettingStore::Keys KivSettingStore::Rollback()
 KivSettingStore::Keys KivSettingStore::Refresh()
 {
     const AllShown shown = ShownNow();
-    ReadLayers();
-    if (_own.Read()) TakeOwnFile();
+    ReadFiles();
     return ChangedSince(shown);
 }
 
@@ -366,18 +380,8 @@ void KivSettingStore::Describe(const KivSettingAttribute& attribute, KivSettingI
 {
     KivSettingProvenance place;
     Trace(attribute, place);
-    info.origin = place.origin;
-    info.initial = place.initial;
+    place.Fill(info);
     info.value = KivShownSettingText(attribute.Shown());
-    if (place.layer) info.layer = *place.layer;
-    if (place.file) info.file = *place.file;
-    info.line = place.line;
-    info.locked = place.locked;
-    info.lockedHere = place.lockedHere;
-    info.canLock = place.canLock;
-    if (place.lockLayer) info.lockLayer = *place.lockLayer;
-    if (place.lockFile) info.lockFile = *place.lockFile;
-    info.lockLine = place.lockLine;
 }
 
 void KivSettingStore::ReportOtherType(const KivSettingAttribute& attribute, const char* expected)

@@ -2,6 +2,7 @@
 
 #include "Settings/KivSettingLayer.h"
 #include "Settings/KivSettingListeners.h"
+#include "Settings/KivSettingNews.h"
 #include "Settings/KivSettingOwnFile.h"
 #include "Settings/KivSettingPrefixLocks.h"
 #include "Settings/KivSettingTable.h"
@@ -25,7 +26,11 @@ public:
 
     const KivSettingAttribute* Find(const char* key) const { return key ? _table.Find(key) : nullptr; }
     // The same for who wants to know of locks: also a key that nobody has met may be under one.
-    const KivSettingAttribute* FindGoverned(const char* key);
+    const KivSettingAttribute* FindGoverned(const char* key)
+    {
+        const KivSettingAttribute* known = Find(key);
+        return known || !key ? known : MeetGoverned(key);
+    }
 
     // Makes these keys known, in this order: from now on they are found by their place in it.
     // Answers where their values are from now on; what stands there follows every change.
@@ -54,6 +59,7 @@ public:
 
     bool IsAdministrator() const { return _isAdministrator; }
     bool IsProtected() const { return _own.IsProtected(); }
+    std::vector<KivUnicodeString> Files() const;
 
     KivSettingListeners listeners;
     bool isInitial = false; // writes bear the mark "initial"
@@ -71,6 +77,7 @@ private:
     using Journal =
         std::vector<std::pair<std::size_t, KivSettingEntry>>; // an attribute, and what it said before
 
+    const KivSettingAttribute* MeetGoverned(std::string_view key);
     std::size_t Meet(std::string_view key, std::size_t hash);
     void Aim(const KivSettingAttribute& attribute)
     {
@@ -80,6 +87,7 @@ private:
     void AimAll();
     void Govern(KivSettingAttribute& attribute) const;
     void GovernAllOwn();
+    void ReadFiles();
     void ReadLayers();
     void TakeOwnFile();
     void Change(std::size_t index, const KivSettingEntry& says);
@@ -107,4 +115,6 @@ private:
     Journal _unsaved;                                // in writing order
     Journal _uncommitted;
     std::set<std::string_view> _typesReported;
+    bool _isRead = false;
+    KivSettingNews _news;
 };

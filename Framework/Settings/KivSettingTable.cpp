@@ -48,7 +48,7 @@ std::size_t KivSettingTable::IndexOfNew(std::string_view key, std::size_t hash)
 void KivSettingTable::Reserve(std::size_t more)
 {
     const std::size_t total = _attributes.size() + more;
-    if (total > _attributes.capacity()) _attributes.reserve(total + total / 2);
+    if (total > _attributes.capacity()) _attributes.reserve(_attributes.empty() ? total : total + total / 2);
     std::size_t slots = _slots.size();
     while (slots < 2 * (total + 1)) slots *= 2;
     if (slots > _slots.size()) Grow(slots);

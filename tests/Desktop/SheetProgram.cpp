@@ -12,9 +12,12 @@
 #include "DraftingWindow.h"
 #include "KivDrwDraftingSettings.h"
 #include "KivDrwSketcherSettings.h"
+#include "NativePiece.h"
+#include "NativeSpinner.h"
 #include "OptionsWindow.h"
 #include "Parameter/KivParmDictionary.h"
 #include "Parameter/KivParmEngine.h"
+#include "SettingsWatch.h"
 #include "SheetSettings.h"
 #include "SheetView.h"
 #include "Support/KivSettingsSandbox.h"
@@ -115,6 +118,69 @@ TEST_F(SheetProgram, TheSheetFollowsOkAndGoesBackOnCancel)
     EXPECT_EQ(window.Options().Current(), nullptr);
     EXPECT_FALSE(settings.Style().grid) << "closing the main window cancels";
     EXPECT_FALSE(parameters->isHidden());
+}
+
+// Another program replaces the file as ours do; an administrator edits his in place.
+TEST_F(SheetProgram, WhatOthersSaveShowsWhileUncommittedChangesStayOnTop)
+{
+    box.NameLayers({"site"});
+    box.Write(box.File("site"), "int Ruler = 0\n");
+    ASSERT_EQ(Prepare({}), -1);
+    KivSettingRepository& repository = *KivSettingRepository::GetRepository("DraftingOptions");
+    ASSERT_EQ(repository.SaveRepository(nullptr), S_OK);
+    KivDrwDraftingSettings drafting;
+    KivDrwSketcherSettings& sketcher = *KivDrwSketcherSettings::GetSketcherSettings();
+    SheetSettings settings(drafting, sketcher);
+    const DraftingDiagnostics diagnostics(false);
+    DraftingWindow window(settings, diagnostics, {});
+    const SettingsWatch watch(repository);
+    window.Follow(watch, sketcher);
+    window.show();
+    window.OpenOptions("General");
+    OptionsWindow& options = *window.Options().Current();
+    const auto node = [&](const char* name) {
+        return options.Session()->FindPage("General")->frame.Get()->FindDialog(name);
+    };
+    const auto isTicked = [&](const char* name) {
+        return static_cast<KivDlgCheckButton*>(node(name))->GetState() == KivDlgChecked;
+    };
+    const auto save = [&](const std::string& lines) {
+        box.Write(box.root / "user" / "new", box.Bytes(box.File("user")) + lines);
+        fs::rename(box.root / "user" / "new", box.File("user"));
+    };
+    ASSERT_TRUE(isTicked("checkGrid_dialog") && settings.Style().grid);
+    ASSERT_TRUE(KivUserHand::Tick(*static_cast<KivDlgCheckButton*>(node("checkRotSnapAuto_dialog"))));
+    const bool mine = isTicked("checkRotSnapAuto_dialog");
+    save("int Drw_settings_GridDisplay = 0\nint RotSnapAuto = " + std::string(mine ? "0\n" : "1\n"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !settings.Style().grid; }));
+    EXPECT_FALSE(isTicked("checkGrid_dialog"));
+    EXPECT_EQ(isTicked("checkRotSnapAuto_dialog"), mine);
+
+    // What is being typed is not taken away; it shows the rest when the field is left.
+    auto* const field =
+        static_cast<NativeSpinner*>(NativePiece::Of(node("editorGridSpacing_dialog"))->Widget());
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, "7");
+    ASSERT_TRUE(field->IsTyping());
+    save("int Drw_settings_GridDisplay = 1\ndouble Drw_settings_GridPrimarySpacing = 55\n");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return settings.Style().grid; }));
+    EXPECT_TRUE(field->IsTyping());
+    EXPECT_FALSE(isTicked("checkGrid_dialog"));
+    QTest::keyClick(field, Qt::Key_Tab);
+    EXPECT_TRUE(isTicked("checkGrid_dialog"));
+    double spacing = 0.0;
+    repository.ReadSetting("Drw_settings_GridPrimarySpacing", &spacing, 1);
+    EXPECT_EQ(spacing, 7.0) << "what was typed on top of it counts";
+
+    box.Write(box.File("site"), "lock int Drw_settings_GridDisplay = 0\n");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !node("checkGrid_dialog")->IsEnabled(); }));
+    EXPECT_FALSE(settings.Style().grid || isTicked("checkGrid_dialog"));
+    options.reject();
+    KivSettingRepository::ForgetAll();
+    int stored = -1;
+    KivSettingRepository::GetRepository("DraftingOptions")->ReadSetting("RotSnapAuto", &stored, 1);
+    EXPECT_EQ(stored, !mine) << "cancelled: what the other program saved is left";
 }
 
 TEST_F(SheetProgram, TheWelcomeChangesTheSheetUnlessItIsHidden)

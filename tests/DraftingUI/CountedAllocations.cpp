@@ -17,10 +17,14 @@ long CountedAllocations()
     return allocations;
 }
 
-void* operator new(std::size_t size)
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
     ++allocations;
-    if (void* memory = std::malloc(size ? size : 1)) return memory;
+    return std::malloc(size ? size : 1);
+}
+void* operator new(std::size_t size)
+{
+    if (void* memory = operator new(size, std::nothrow)) return memory;
     throw std::bad_alloc();
 }
 void operator delete(void* memory) noexcept

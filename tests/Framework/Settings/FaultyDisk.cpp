@@ -1,0 +1,69 @@
+#include "FaultyDisk.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <cstdarg>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <string_view>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+using FaultyDisk::Fault;
+
+namespace {
+
+template <class Function> Function* Next(const char* name)
+{
+    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
+bool IsKind(int descriptor, mode_t kind)
+{
+    struct stat status {};
+    return fstat(descriptor, &status) == 0 && (status.st_mode & S_IFMT) == kind;
+}
+
+int Fail(int error)
+{
+    errno = error;
+    return -1;
+}
+
+} // namespace
+
+extern "C" int open(const char* path, int flags, ...)
+{
+    static const auto next = Next<int(const char*, int, ...)>("open");
+    va_list more;
+    va_start(more, flags);
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
+    va_end(more);
+    while (FaultyDisk::isShareStuck && std::string_view(path).find("/share/") != std::string_view::npos)
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    return next(path, flags, mode);
+}
+
+extern "C" ssize_t write(int descriptor, const void* bytes, size_t count)
+{
+    static const auto next = Next<ssize_t(int, const void*, size_t)>("write");
+    if (FaultyDisk::fault == Fault::Write && IsKind(descriptor, S_IFREG)) return Fail(ENOSPC);
+    const bool isShort = FaultyDisk::fault == Fault::ShortWrites && IsKind(descriptor, S_IFREG);
+    return next(descriptor, bytes, isShort ? std::min<size_t>(count, 3) : count);
+}
+
+extern "C" int fsync(int descriptor)
+{
+    static const auto next = Next<int(int)>("fsync");
+    const bool isFaulty = (FaultyDisk::fault == Fault::FlushFile && IsKind(descriptor, S_IFREG)) ||
+                          (FaultyDisk::fault == Fault::FlushDirectory && IsKind(descriptor, S_IFDIR));
+    return isFaulty ? Fail(EIO) : next(descriptor);
+}
+
+extern "C" int rename(const char* from, const char* to) noexcept
+{
+    static const auto next = Next<int(const char*, const char*)>("rename");
+    return FaultyDisk::fault == Fault::Rename ? Fail(EIO) : next(from, to);
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <atomic>
+
+// A file system that fails on demand: this program's own open, write, fsync and rename come before the C
+// library's.
+namespace FaultyDisk {
+
+enum class Fault { None, FlushFile, FlushDirectory, Write, ShortWrites, Rename };
+
+inline std::atomic<Fault> fault{Fault::None};
+
+// Files in a directory "share" cannot be opened before this is false again: the caller waits.
+inline std::atomic<bool> isShareStuck{false};
+
+} // namespace FaultyDisk

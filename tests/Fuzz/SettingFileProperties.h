@@ -1,0 +1,60 @@
+#pragma once
+
+#include "Base/KivDiagnostic.h"
+#include "Settings/KivSettingFile.h"
+
+#include <map>
+#include <string>
+
+// What holds of the reader and writer of settings files whatever the bytes are. Answers what does not, or
+// null.
+inline const char* BrokenProperty(std::string_view bytes)
+{
+    const KivSettingFile file{std::string(bytes)};
+    if (file.Text() != bytes) return "the text is kept as it is";
+
+    // Every line lies in the text, in order, and means the same alone.
+    std::size_t end = 0;
+    std::map<std::string, const KivSettingLine*> last;
+    for (const KivSettingLine& line : file.Lines()) {
+        if (line.begin < end || line.end <= line.begin || line.end > bytes.size())
+            return "lines are in order";
+        end = line.end;
+        if ((line.kind == KivSettingLine::Kind::Attribute) == (line.reason != nullptr))
+            return "a line is used or has a reason why not";
+        if (line.isPattern ? !KivIsSettingPattern(line.key) || KivHasValue(line.value)
+                           : !line.key.empty() && !KivIsSettingKey(line.key))
+            return "a key is a key";
+        if (!line.reason && !KivIsSound(line.value)) return "values are finite";
+        if (!line.reason) last[std::string(line.key)] = &line;
+    }
+
+    // Saving without a change changes nothing, and every value that was read is written so that it reads the
+    // same.
+    if (!bytes.empty() && file.With({}) != bytes) return "no change, no other byte";
+    std::vector<KivSettingChange> changes;
+    for (const auto& [key, line] : last)
+        changes.push_back(
+            {KivString(key), {.value = line->value, .initial = line->initial, .lock = line->lock}});
+    const KivSettingFile saved(file.With(changes));
+    std::map<std::string, int> count;
+    for (const KivSettingLine& line : saved.Lines()) {
+        const auto was = last.find(std::string(line.key));
+        if (line.reason || was == last.end()) continue;
+        ++count[was->first];
+        if (line.lock != was->second->lock || !KivSameValue(line.value, was->second->value))
+            return "what is written reads the same";
+    }
+    for (const auto& [key, line] : last) {
+        const bool saysNothing = !line->lock && !KivHasValue(line->value);
+        if (count[key] != (saysNothing ? 0 : 1)) return "a changed key stands there once";
+    }
+    if (saved.With(changes) != saved.Text()) return "saving twice is saving once";
+
+    // Withdrawing all of it leaves the other lines as they were.
+    for (KivSettingChange& change : changes) change.entry = {};
+    const KivSettingFile bare(file.With(changes));
+    for (const KivSettingLine& line : bare.Lines())
+        if (!line.reason) return "what was withdrawn is gone";
+    return nullptr;
+}
