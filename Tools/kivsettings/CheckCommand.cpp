@@ -1,0 +1,70 @@
+#include "Arguments.h"
+#include "Commands.h"
+#include "Console.h"
+#include "Json.h"
+#include "LayerCheck.h"
+
+#include "Settings/KivSettingLayers.h"
+
+namespace {
+
+JsonObject AsJson(const KivSettingFinding& finding)
+{
+    constexpr const char* kinds[] = {"wrong", "no effect", "open"}; // in the order of Kind
+    JsonObject object;
+    object.Add("kind", kinds[static_cast<std::size_t>(finding.kind)]);
+    object.AddUnlessEmpty("file", finding.file.View()).Add("line", finding.line);
+    return object.AddUnlessEmpty("key", finding.key.View()).Add("text", finding.text.View());
+}
+
+std::string AsText(const KivSettingFinding& finding)
+{
+    const KivDiagnostic words{
+        .text = finding.text, .file = finding.file, .line = finding.line, .key = finding.key};
+    return words.Words().ConvertToChar() + std::string("\n");
+}
+
+ExitCode Run(const Arguments& arguments, Console& console)
+{
+    const LayerCheck check = CheckLayers(
+        arguments.Has("layer") ? KivSettingLayers::Absolute(arguments.Value("layer")) : KivUnicodeString());
+    JsonArray array;
+    for (const KivSettingFinding& finding : check.findings) {
+        console.Print(arguments.Has("json") ? array.Element(AsJson(finding)) : AsText(finding));
+    }
+    if (arguments.Has("json")) console.Print(array.End());
+    if (check.findings.empty()) {
+        console.Say("nothing is wrong in " + std::to_string(check.files) +
+                    (check.files == 1 ? " file" : " files"));
+    }
+    if (check.isUnreadable) return ExitCode::Trouble;
+    return check.findings.empty() ? ExitCode::Done : ExitCode::Refused;
+}
+
+constexpr Option kOptions[] = {kJsonOption};
+
+constexpr Example kExamples[] = {
+    {"kivsettings check", "every layer of this machine and the user's file"},
+    {"kivsettings check --layer /etc/kiv/site", "one layer before it is deployed, and those outside of it"},
+    {"kivsettings check --system-layers ./layers", "another machine's list of layers"},
+};
+
+} // namespace
+
+constexpr Command kCheckCommand{
+    .name = "check",
+    .arguments = "",
+    .fewest = 0,
+    .most = 0,
+    .summary = "examine every line of every layer",
+    .description =
+        "Reads the files of all layers, outermost first, then the user's, and prints each line that\n"
+        "is wrong or has no effect, and why: damaged lines, keys that do not exist, values of\n"
+        "another type or out of range, keys that stand twice, values and locks of keys that a layer\n"
+        "further out locks, locks that are not enforced. The exit code is 1 when there is one, 3\n"
+        "when a file cannot be read.",
+    .options = kOptions,
+    .examples = kExamples,
+    .needsLayer = false,
+    .run = &Run,
+};

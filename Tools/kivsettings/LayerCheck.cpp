@@ -1,0 +1,91 @@
+#include "LayerCheck.h"
+
+#include "KeySelection.h"
+#include "ValueText.h"
+
+#include "Base/KivDiagnostic.h"
+#include "Settings/KivSettingFile.h"
+#include "Settings/KivSettingLayers.h"
+#include "Settings/KivTimedReading.h"
+
+#include <algorithm>
+#include <chrono>
+#include <set>
+
+namespace {
+
+using Kind = KivSettingFinding::Kind;
+
+// The files of the layers, outermost first, the one that is written last.
+std::vector<KivUnicodeString> Paths(const KivUnicodeString& edited)
+{
+    std::vector<KivUnicodeString> paths = KivSettingLayers::Outside(edited);
+    const KivUnicodeString own = edited.IsEmpty() ? KivSettingLayers::User() : edited;
+    if (!own.IsEmpty()) paths.push_back(own);
+    for (KivUnicodeString& path : paths) path = KivSettingLayers::FileIn(path, Settings::Name);
+    return paths;
+}
+
+// Values of another type or out of range.
+void CheckValues(const KivUnicodeString& path, const KivSettingFile& file, LayerCheck& check)
+{
+    for (const KivSettingLine& line : file.Lines()) {
+        const KivDrwRow* const row = KivHasValue(line.value) ? KivDrwCatalogue::Find(line.key) : nullptr;
+        const std::string wrong = row ? WrongWith(*row, line.value) : "";
+        if (wrong.empty()) continue;
+        check.findings.push_back(
+            {Kind::Wrong, {}, path, line.number, KivString(line.key), KivUnicodeString(wrong)});
+    }
+}
+
+// Whoever mistyped a key wants to know which one he meant.
+void SuggestName(KivSettingFinding& finding)
+{
+    if (finding.kind != Kind::NoEffect || finding.key.IsEmpty() || KivDrwCatalogue::Find(finding.key.View()))
+        return;
+    finding.text.Append(KeySelection::Suggestion(finding.key.View()));
+}
+
+void Sort(LayerCheck& check, const std::vector<KivUnicodeString>& paths)
+{
+    const auto place = [&paths](const KivSettingFinding& finding) {
+        const auto at = std::find_if(paths.begin(), paths.end(), [&finding](const KivUnicodeString& path) {
+            return path.View().starts_with(finding.file.View()); // of the file, or of its directory
+        });
+        return std::pair(finding.file.IsEmpty() || at == paths.end() ? -1 : at - paths.begin(), finding.line);
+    };
+    std::stable_sort(check.findings.begin(), check.findings.end(),
+                     [&place](const auto& left, const auto& right) { return place(left) < place(right); });
+}
+
+} // namespace
+
+LayerCheck CheckLayers(const KivUnicodeString& editedLayer)
+{
+    LayerCheck check;
+    std::vector<const char*> known;
+    for (const KivDrwRow& row : KivDrwCatalogue::Rows()) known.push_back(row.key);
+    // What is said meanwhile is of the list of layers, and said each time that it is read.
+    std::set<KivUnicodeString> said;
+    KivDiagnosticSink sink = KivSetDiagnosticSink([&](const KivDiagnostic& about) {
+        if (!said.insert(about.Words()).second) return;
+        check.findings.push_back({Kind::Wrong, {}, about.file, about.line, about.key, about.text});
+    });
+    for (KivSettingFinding& finding : KivCheckSettings(Settings::Name, known, editedLayer)) {
+        check.findings.push_back(std::move(finding));
+    }
+    const std::vector<KivUnicodeString> paths = Paths(editedLayer);
+    KivSetDiagnosticSink(std::move(sink));
+    for (KivSettingFinding& finding : check.findings) SuggestName(finding);
+
+    // A share that does not answer must not hold up the rest.
+    std::vector<KivFileContent> contents = KivReadInTime(paths, std::chrono::seconds(1), &KivReadFile);
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        if (contents[i].state == KivFileContent::State::Unreadable) check.isUnreadable = true;
+        if (contents[i].state != KivFileContent::State::Read) continue;
+        ++check.files;
+        CheckValues(paths[i], KivSettingFile(std::move(contents[i].text)), check);
+    }
+    Sort(check, paths);
+    return check;
+}

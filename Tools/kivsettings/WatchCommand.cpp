@@ -1,0 +1,75 @@
+#include "Arguments.h"
+#include "Commands.h"
+#include "Console.h"
+#include "FileWatch.h"
+#include "KeySelection.h"
+#include "SettingRow.h"
+#include "ValueText.h"
+
+#include "Settings/KivSettingLayers.h"
+
+namespace {
+
+std::vector<KivUnicodeString> Files(const Arguments& arguments)
+{
+    std::vector<KivUnicodeString> files = KivSettingLayers::Administrator();
+    const KivUnicodeString own = arguments.Has("layer") ? KivSettingLayers::Absolute(arguments.Value("layer"))
+                                                        : KivSettingLayers::User();
+    if (!own.IsEmpty()) files.push_back(own);
+    for (KivUnicodeString& file : files) file = KivSettingLayers::FileIn(file, Settings::Name);
+    return files;
+}
+
+ExitCode Run(const Arguments& arguments, Console& console)
+{
+    Settings settings;
+    if (!KeySelection::Named(settings, arguments.names, arguments.Has("force"), console))
+        return ExitCode::Misuse;
+    FileWatch watch(Files(arguments));
+    if (!watch.IsOpen()) {
+        console.Say("the system offers no way to watch files");
+        return ExitCode::Trouble;
+    }
+    settings.Repository().AddListener([&](const KivSettingRepository::Keys& changed) {
+        for (const KivString& changedKey : changed) {
+            const std::string key(changedKey.View());
+            if (!KeySelection::Fits(key, arguments.names)) continue;
+            const Setting setting = settings.Describe(key);
+            console.Print(arguments.Has("json")
+                              ? SettingAsJson(setting).Text() + "\n"
+                              : key + "\t" + ShownValue(setting.value) + "\t" + LockOf(setting) + "\n");
+        }
+    });
+    // What was saved between reading and watching.
+    for (FileWatch::Event event = FileWatch::Event::Changed;; event = watch.Wait()) {
+        if (event != FileWatch::Event::Changed) return ExitCode::Done;
+        settings.Repository().Refresh();
+        if (!console.Flush()) return ExitCode::Done;
+    }
+}
+
+constexpr Option kOptions[] = {kJsonOption, kForceOption};
+
+constexpr Example kExamples[] = {
+    {"kivsettings watch", "prints every change until Ctrl+C"},
+    {"kivsettings watch 'Drw_settings_*' --json", "one JSON object a line, for a program"},
+    {"kivsettings watch Ruler | while read -r key value lock; do echo \"$value\"; done", "acts on a change"},
+};
+
+} // namespace
+
+constexpr Command kWatchCommand{
+    .name = "watch",
+    .arguments = "[PATTERN...]",
+    .fewest = 0,
+    .most = kAnyNumber,
+    .summary = "print changes as other programs save them",
+    .description =
+        "Prints a line when another program or a person changes a setting's value or lock: key, new\n"
+        "value and the layer that locks it or \"-\", with tabs between them. Ends at Ctrl+C, SIGTERM\n"
+        "and when its output is closed.",
+    .options = kOptions,
+    .examples = kExamples,
+    .needsLayer = false,
+    .run = &Run,
+};
