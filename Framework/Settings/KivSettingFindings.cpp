@@ -18,7 +18,8 @@ using Kind = KivSettingFinding::Kind;
 struct Layer {
     const KivUnicodeString& name;
     const KivUnicodeString& path;
-    const KivSettingFile& file;
+    const KivSettingFile& file;   // in force
+    const KivSettingFile& onDisk; // what its writer sees, and has to mend
     bool isUsers = false;
 };
 
@@ -36,7 +37,7 @@ public:
         }
         std::sort(_known.begin(), _known.end());
         for (const Layer& layer : layers) {
-            for (const KivSettingLine& line : layer.file.Lines()) {
+            for (const KivSettingLine& line : layer.onDisk.Lines()) {
                 if (!line.key.empty() && !line.reason) Examine(layer, line);
             }
             TakeLocks(layer);
@@ -168,8 +169,9 @@ std::vector<KivSettingFinding> KivCheckSettings(std::string_view name, std::span
     KivSetDiagnosticSink(std::move(sink));
 
     std::vector<Layer> layers;
-    for (const KivSettingLayer& layer : outside) layers.push_back({layer.name, layer.path, layer.file});
-    layers.push_back({ownName, own.Path(), own.File(), isUsers});
+    for (const KivSettingLayer& layer : outside)
+        layers.push_back({layer.name, layer.path, layer.file, layer.replaced ? *layer.replaced : layer.file});
+    layers.push_back({ownName, own.Path(), own.File(), own.File(), isUsers});
 
     for (const KivDiagnostic& diagnostic : said) {
         const auto at = std::find_if(layers.begin(), layers.end(),

@@ -62,14 +62,14 @@ std::vector<KivSettingLayer> KivReadAdministratorLayers(const std::vector<KivUni
     }
     std::vector<KivFileContent> contents = KivReadInTime(paths, std::chrono::seconds(1), &ReadLayerFile);
     for (std::size_t i = 0; i < directories.size(); ++i) {
-        KivSettingLayer layer{KivSettingLayers::NameOf(directories[i]), paths[i], {}};
+        KivSettingLayer layer{KivSettingLayers::NameOf(directories[i]), paths[i], {}, {}};
         const KivSettingLayerCopy copy(layer.path);
         const KivUnicodeString trouble = Examine(contents[i], copy, layer.file);
         layer.file.Report(layer.path);
         if (!trouble.IsEmpty()) {
             std::string kept;
             const bool isCopied = copy.Read(kept);
-            if (isCopied) layer.file = KivSettingFile(std::move(kept));
+            if (isCopied) layer.replaced = std::exchange(layer.file, KivSettingFile(std::move(kept)));
             KivReport({KivDiagnostic::Severity::Warning,
                        trouble + (isCopied ? "; this machine's copy of its last complete state is in force"
                                            : "; there is no copy of it: what can be read is in force"),

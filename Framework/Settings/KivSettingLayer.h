@@ -2,6 +2,7 @@
 
 #include "Settings/KivSettingFile.h"
 
+#include <optional>
 #include <vector>
 
 // One administrator layer as it is in force for one repository.
@@ -9,6 +10,7 @@ struct KivSettingLayer {
     KivUnicodeString name;
     KivUnicodeString path; // of its file, whether that is there or not
     KivSettingFile file;
+    std::optional<KivSettingFile> replaced; // what is on disk, where a copy is in force instead
 };
 
 // Reads the layers of these directories, outermost first, in at most a second. A layer that is away, slow,

@@ -93,6 +93,6 @@ std::string WrongWith(const KivDrwRow& row, const KivSettingValue& value)
         },
         value);
     return isInside ? ""
-                    : "the value is out of range: a " + std::string(kind.name) + " is " +
-                          Number(kind.minimum) + " to " + Number(kind.maximum);
+                    : "the value is out of range (" + std::string(kind.name) + ": " + Number(kind.minimum) +
+                          " to " + Number(kind.maximum) + ")";
 }

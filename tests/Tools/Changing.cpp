@@ -20,7 +20,7 @@ TEST_F(ToolTest, ChangesNothingWhenAnyValueIsMalformed)
     const std::string before = User();
     const std::pair<const char*, const char*> faults[] = {
         {"Rulr=1", "did you mean Ruler?"},
-        {"Ruler=2", "out of range: a switch is 0 to 1"},
+        {"Ruler=2", "out of range (switch: 0 to 1)"},
         {"Ruler=", "no number of its type (int)"},
         {"Ruler=1.0", "no number of its type (int)"},
         {"Ruler=99999999999", "does not fit its type"},

@@ -77,7 +77,7 @@ TEST_F(ToolTest, ChecksEveryLineOfEveryLayer)
         {site + ":2: Ruler: ", "the value is not used: layer \"company\""},
         {site + ":3: ViewName: ", "the value is of the type float instead of int"},
         {site + ":4: ViewName: ", "the key stands in line 3 too"},
-        {site + ":4: ViewName: ", "the value is out of range: a switch is 0 to 1"},
+        {site + ":4: ViewName: ", "the value is out of range (switch: 0 to 1)"},
         {site + ":5: Nothing*: ", "no effect"},
         {site + ":6: ", "the line is not used"},
         {site + ":7: Foreign: ", "the type is unknown"},
