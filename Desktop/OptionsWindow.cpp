@@ -73,6 +73,8 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
 
 OptionsWindow::~OptionsWindow()
 {
+    // Hiding the window, which QDialog's destructor does, moves the focus: there is nothing to refill then.
+    disconnect(qApp, &QApplication::focusChanged, this, nullptr);
     if (_session) _session->Cancel();
 }
 
