@@ -5,6 +5,7 @@
 #include <span>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 // The groups of settings, in writing order; each belongs to one options page.
 enum class KivDrwGroup {
@@ -38,6 +39,10 @@ namespace KivDrwCatalogue {
 std::span<const KivDrwRow> Rows();
 std::span<const KivDrwRow> Rows(KivDrwGroup group);
 std::span<const KivDrwGroup> Groups();
+
+// The keys that a reset of the group's page returns to the administrator's values: those that it edits, and
+// further ones that belong to it.
+std::vector<const char*> ResetKeys(KivDrwGroup group);
 
 // The group's own name.
 const char* NameOf(KivDrwGroup group);

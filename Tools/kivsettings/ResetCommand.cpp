@@ -11,9 +11,7 @@ ExitCode Run(const Arguments& arguments, Console& console)
     for (const std::string& name : arguments.names) {
         const auto page = KeySelection::Page(name, console);
         if (!page) return ExitCode::Misuse;
-        for (const KivDrwRow& row : KivDrwCatalogue::Rows(*page)) {
-            if (row.onPage) keys.emplace_back(row.key);
-        }
+        for (const char* key : KivDrwCatalogue::ResetKeys(*page)) keys.emplace_back(key);
     }
     Settings settings;
     settings.Drop(keys);

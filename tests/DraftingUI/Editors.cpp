@@ -1,10 +1,10 @@
 #include "Command/KivCommandHeader.h"
+#include "KivDrwCatalogue.h"
 #include "KivDrwCommitSettingEditor.h"
 #include "KivDrwOptAdminEditor.h"
 #include "KivDrwOptAnnotEditor.h"
 #include "KivDrwOptGalEditor.h"
 #include "KivDrwOptGeoEditor.h"
-#include "KivDrwOptLayoutEditor.h"
 #include "KivDrwOptViewEditor.h"
 #include "KivDrwRepository.h"
 #include "KivDrwSketcherSettings.h"
@@ -101,11 +101,11 @@ TEST_F(Editors, ResetTheKeysOfTheirTabOnly)
     const auto keys = [](std::vector<const char*> list) {
         return std::set<std::string>(list.begin(), list.end());
     };
-    EXPECT_EQ(keys(KivDrwOptGalEditor::ResetKeys()).size(), 25U);
-    EXPECT_EQ(keys(KivDrwOptGalEditor::ResetKeys()).count("DrwAreaFillTol"), 1U);
-    EXPECT_EQ(keys(KivDrwOptViewEditor::ResetKeys()).count("DrwAutoLevelOfDetail"), 0U);
-    EXPECT_EQ(keys(KivDrwOptLayoutEditor::ResetKeys()).count("DrwFrameAndTitleBlockFile"), 0U);
-    EXPECT_EQ(KivDrwOptViewEditor::ResetKeys().size(), 37U);
+    EXPECT_EQ(keys(KivDrwCatalogue::ResetKeys(KivDrwGroup::General)).size(), 25U);
+    EXPECT_EQ(keys(KivDrwCatalogue::ResetKeys(KivDrwGroup::General)).count("DrwAreaFillTol"), 1U);
+    EXPECT_EQ(keys(KivDrwCatalogue::ResetKeys(KivDrwGroup::View)).count("DrwAutoLevelOfDetail"), 0U);
+    EXPECT_EQ(keys(KivDrwCatalogue::ResetKeys(KivDrwGroup::Layout)).count("DrwFrameAndTitleBlockFile"), 0U);
+    EXPECT_EQ(KivDrwCatalogue::ResetKeys(KivDrwGroup::View).size(), 37U);
 
     Write("DrwAreaFillTol", 3);
     Write("Ruler", 1);

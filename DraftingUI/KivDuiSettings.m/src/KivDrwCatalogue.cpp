@@ -50,6 +50,17 @@ std::span<const KivDrwGroup> KivDrwCatalogue::Groups()
     return kGroups;
 }
 
+std::vector<const char*> KivDrwCatalogue::ResetKeys(KivDrwGroup group)
+{
+    std::vector<const char*> keys;
+    for (const KivDrwRow& row : Rows(group)) {
+        if (row.onPage) keys.push_back(row.key);
+    }
+    // A setting of the General page that has neither a control nor a default.
+    if (group == General) keys.push_back("DrwAreaFillTol");
+    return keys;
+}
+
 const char* KivDrwCatalogue::NameOf(KivDrwGroup group)
 {
     return kGroupNames[static_cast<std::size_t>(group)];

@@ -15,14 +15,6 @@ void TellSketcher()
 
 } // namespace
 
-std::vector<const char*> KivDrwOptGalEditor::ResetKeys()
-{
-    std::vector<const char*> keys = KivDrwTabEditor::ResetKeys();
-    // A setting of this tab that has neither a control nor a default.
-    keys.push_back("DrwAreaFillTol");
-    return keys;
-}
-
 void KivDrwOptGalEditor::AfterCommit()
 {
     TellSketcher();

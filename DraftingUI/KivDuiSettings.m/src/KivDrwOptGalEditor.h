@@ -8,8 +8,6 @@ public:
     static constexpr const char* Name = "KivDrwOptGalEditor";
     static constexpr KivDrwGroup Group = KivDrwGroup::General;
 
-    static std::vector<const char*> ResetKeys();
-
 protected:
     // Tell the sketcher: grid, then snap. A reset deliberately stays silent.
     void AfterCommit() override;

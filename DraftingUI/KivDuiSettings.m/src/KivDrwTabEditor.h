@@ -35,18 +35,8 @@ public:
         }
     }
 
-    // What a reset of the tab resets: the settings that its page edits.
-    static std::vector<const char*> ResetKeys()
-    {
-        std::vector<const char*> keys;
-        for (const KivDrwRow& row : KivDrwCatalogue::Rows(Self::Group)) {
-            if (row.onPage) keys.push_back(row.key);
-        }
-        return keys;
-    }
-
 protected:
-    std::vector<const char*> KeysToReset() const override { return Self::ResetKeys(); }
+    std::vector<const char*> KeysToReset() const override { return KivDrwCatalogue::ResetKeys(Self::Group); }
 
 private:
     KivWeakPtr<KivDlgFrame> _frame; // belongs to the page, which may die first
