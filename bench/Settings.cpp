@@ -25,6 +25,13 @@ Table BareTable()
     return table;
 }
 
+std::vector<KivDrwValue> BareValues()
+{
+    std::vector<KivDrwValue> values;
+    for (const KivDrwRow& row : KivDrwCatalogue::Rows()) values.push_back(row.makeDefault());
+    return values;
+}
+
 // A settings file with every key in it.
 void FillFile(KivSettingsSandbox& box)
 {
@@ -34,58 +41,59 @@ void FillFile(KivSettingsSandbox& box)
     if (!std::filesystem::exists(box.File("user"))) std::abort();
 }
 
+// Reads one setting of the filled repository again and again.
+template <class T, class Read> KivRatio::Measured FromRepository(Read read)
+{
+    return [read](benchmark::State& state) {
+        KivSettingsSandbox box;
+        FillFile(box);
+        const KivSettingRepository* repository = KivDrwRepository();
+        T value{};
+        for (auto _ : state) {
+            benchmark::DoNotOptimize(read(*repository, value));
+            benchmark::DoNotOptimize(value);
+        }
+    };
+}
+
+// Takes one value out of a bare container again and again.
+template <class T, class Make, class Where, class Take>
+KivRatio::Measured FromContainer(Make make, Where where, Take take)
+{
+    return [make, where, take](benchmark::State& state) {
+        const auto container = make();
+        Where wanted = where;
+        T value{};
+        for (auto _ : state) {
+            benchmark::DoNotOptimize(wanted);
+            value = std::get<T>(take(container, wanted));
+            benchmark::DoNotOptimize(value);
+        }
+    };
+}
+
 template <class T> void AddRead(const std::string& name, const KivDrwKey<T>& key)
 {
-    KivRatio::Add(
-        name, 2.0,
-        [&key](benchmark::State& state) {
-            KivSettingsSandbox box;
-            FillFile(box);
-            const KivSettingRepository* repository = KivDrwRepository();
-            T value{};
-            for (auto _ : state) {
-                benchmark::DoNotOptimize(repository->ReadSetting(key.name, &value, 1));
-                benchmark::DoNotOptimize(value);
-            }
-        },
-        [&key](benchmark::State& state) {
-            const Table table = BareTable();
-            T value{};
-            const char* wanted = key.name;
-            for (auto _ : state) {
-                benchmark::DoNotOptimize(wanted);
-                value = std::get<T>(table.find(std::string_view(wanted))->second);
-                benchmark::DoNotOptimize(value);
-            }
-        });
+    KivRatio::Add(name, 2.0, FromRepository<T>([&key](const KivSettingRepository& repository, T& value) {
+                      return repository.ReadSetting(key.name, &value, 1);
+                  }),
+                  FromContainer<T>(
+                      &BareTable, key.name, [](const Table& table, const char* wanted) -> const auto& {
+                          return table.find(std::string_view(wanted))->second;
+                      }));
 }
 
 // By the place that is known when the program is built, against one load from an array of values.
 template <class T> void AddReadByKey(const std::string& name, const KivDrwKey<T>& key)
 {
-    KivRatio::Add(
-        name, 3.0,
-        [&key](benchmark::State& state) {
-            KivSettingsSandbox box;
-            FillFile(box);
-            const KivSettingRepository* repository = KivDrwRepository();
-            T value{};
-            for (auto _ : state) {
-                benchmark::DoNotOptimize(repository->ReadBound(key.place, &value));
-                benchmark::DoNotOptimize(value);
-            }
-        },
-        [&key](benchmark::State& state) {
-            std::vector<KivDrwValue> values;
-            for (const KivDrwRow& row : KivDrwCatalogue::Rows()) values.push_back(row.makeDefault());
-            T value{};
-            std::size_t place = key.place;
-            for (auto _ : state) {
-                benchmark::DoNotOptimize(place);
-                value = std::get<T>(values[place]);
-                benchmark::DoNotOptimize(value);
-            }
-        });
+    KivRatio::Add(name, 3.0, FromRepository<T>([&key](const KivSettingRepository& repository, T& value) {
+                      return repository.ReadBound(key.place, &value);
+                  }),
+                  FromContainer<T>(
+                      &BareValues, key.place,
+                      [](const std::vector<KivDrwValue>& values, std::size_t place) -> const auto& {
+                          return values[place];
+                      }));
 }
 
 void Locker(benchmark::State& state)
@@ -123,8 +131,7 @@ void Open(benchmark::State& state)
 {
     KivSettingsSandbox box;
     FillFile(box);
-    std::vector<KivDrwValue> values;
-    for (const KivDrwRow& row : KivDrwCatalogue::Rows()) values.push_back(row.makeDefault());
+    std::vector<KivDrwValue> values = BareValues();
     for (auto _ : state) {
         KivSettingRepository::ForgetAll();
         ReadAllKeys(*KivDrwRepository(), values);

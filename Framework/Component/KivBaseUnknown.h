@@ -56,7 +56,6 @@ public:
 
 protected:
     KivBaseUnknown();
-    unsigned int References() const { return _references; }
 
 private:
     friend class KivTieLink;

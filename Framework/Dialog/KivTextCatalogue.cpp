@@ -115,11 +115,6 @@ void KivTextCatalogue::SetLanguage(const KivString& language)
     TheShelf().language = language;
 }
 
-const KivString& KivTextCatalogue::GetLanguage()
-{
-    return TheShelf().language;
-}
-
 std::set<std::string> KivTextCatalogue::KnownLanguages()
 {
     std::set<std::string> languages{kPseudoLanguage};

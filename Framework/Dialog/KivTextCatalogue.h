@@ -27,7 +27,6 @@ public:
     // The user's language, a directory name such as "English"; catalogues opened before it is set keep
     // theirs.
     static void SetLanguage(const KivString& language);
-    static const KivString& GetLanguage();
     // The languages that some module has texts in, and the pseudo language; sorted.
     static std::set<std::string> KnownLanguages();
 
