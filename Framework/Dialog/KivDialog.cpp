@@ -98,7 +98,7 @@ void KivDialog::SetVisibility(unsigned long visibility)
 {
     if (visibility == _visibility) return;
     _visibility = visibility;
-    Changed();
+    VisibilityChanged();
 }
 
 bool KivDialog::IsEnabled() const

@@ -94,6 +94,7 @@ public:
 protected:
     // Tells the view, and the views of the children where they depend on it.
     void Changed();
+    virtual void VisibilityChanged() { Changed(); }
 
 private:
     friend class KivDlgLock;

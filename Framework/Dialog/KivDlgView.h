@@ -1,6 +1,7 @@
 #pragma once
 
 class KivDialog;
+class KivDlgDialog;
 
 // Who shows a node of the tree natively. One a node; it takes itself off (SetView(nullptr)) when it goes
 // first. It holds no state of its own: after each call it asks the node for what it shows.
@@ -10,6 +11,8 @@ public:
     virtual void NodeChanged(KivDialog& node) = 0;
     // The node is being destroyed: only its address may be used.
     virtual void NodeDestroyed(KivDialog& node) = 0;
+    // Told to the view of a tree's root: a window of the tree that has no view yet is to be seen.
+    virtual void WindowShown(KivDlgDialog&) {}
 
 protected:
     ~KivDlgView() = default;

@@ -2,8 +2,11 @@
 
 #include "Dialog/KivComboColor.h"
 #include "Dialog/KivDlgCheckButton.h"
+#include "Dialog/KivDlgDialog.h"
 #include "Dialog/KivDlgEditor.h"
 #include "Dialog/KivDlgLock.h"
+#include "Dialog/KivDlgPushButton.h"
+#include "Dialog/KivDlgRadioButton.h"
 #include "Dialog/KivDlgSpinner.h"
 #include "Dialog/KivTextCatalogue.h"
 
@@ -22,11 +25,18 @@ KivHandAnswer Refused(const KivUnicodeString& why)
     return {false, why};
 }
 
+// Whether a user could see it.
+KivHandAnswer See(const KivDialog& node)
+{
+    if (node.IsCondemned() || !node.IsShown())
+        return Refused(KivTextCatalogue::FrameworkText("HandNotShown"));
+    return Done();
+}
+
 // Whether a user could reach the control at all.
 KivHandAnswer Reach(const KivDialog& control)
 {
-    if (control.IsCondemned() || !control.IsShown())
-        return Refused(KivTextCatalogue::FrameworkText("HandNotShown"));
+    if (const KivHandAnswer seen = See(control); !seen) return seen;
     if (!control.IsEnabled()) return Refused(control.WhyDisabled());
     return Done();
 }
@@ -46,10 +56,37 @@ KivHandAnswer KivUserHand::Tick(KivDlgCheckButton& button)
     return reach;
 }
 
+KivHandAnswer KivUserHand::Press(KivDlgPushButton& button)
+{
+    const KivHandAnswer reach = Reach(button);
+    if (reach) button.SendNotification(button.GetPushBActivateNotification());
+    return reach;
+}
+
+KivHandAnswer KivUserHand::Choose(KivDlgRadioButton& button)
+{
+    const KivHandAnswer reach = Reach(button);
+    if (reach && button.GetState() != KivDlgChecked) button.SetState(KivDlgChecked, 1);
+    return reach;
+}
+
+KivHandAnswer KivUserHand::Close(KivDlgDialog& window)
+{
+    const KivHandAnswer seen = See(window);
+    if (seen) window.SendNotification(window.GetDiaCloseNotification());
+    return seen;
+}
+
+KivHandAnswer KivUserHand::CloseWindow(KivDlgDialog& window)
+{
+    const KivHandAnswer seen = See(window);
+    if (seen) window.SendNotification(window.GetWindCloseNotification());
+    return seen;
+}
+
 KivHandAnswer KivUserHand::Press(KivDlgLock& lock)
 {
-    if (lock.IsCondemned() || !lock.IsShown())
-        return Refused(KivTextCatalogue::FrameworkText("HandNotShown"));
+    if (const KivHandAnswer seen = See(lock); !seen) return seen;
     if (lock.Toggle()) return Done();
     return Refused(lock.IsClosed() ? lock.GetReason()
                                    : KivTextCatalogue::FrameworkText("HandNotAdministrator"));

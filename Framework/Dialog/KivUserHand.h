@@ -6,8 +6,11 @@ class KivComboColor;
 class KivDialog;
 class KivDlgCheckButton;
 class KivDlgCombo;
+class KivDlgDialog;
 class KivDlgEditor;
 class KivDlgLock;
+class KivDlgPushButton;
+class KivDlgRadioButton;
 class KivDlgSpinner;
 
 // What came of a user's action: done, or refused with the reason to show him.
@@ -24,6 +27,11 @@ struct KivHandAnswer {
 namespace KivUserHand {
 
 KivHandAnswer Tick(KivDlgCheckButton& button);
+KivHandAnswer Press(KivDlgPushButton& button);
+KivHandAnswer Choose(KivDlgRadioButton& button);
+// Closes a window: by its close button, and in the way of the user's desktop. Nothing disables either.
+KivHandAnswer Close(KivDlgDialog& window);
+KivHandAnswer CloseWindow(KivDlgDialog& window);
 // Turns the padlock of an administrator, also that of a control which its page has disabled: whether users
 // may change a setting does not depend on another one.
 KivHandAnswer Press(KivDlgLock& lock);

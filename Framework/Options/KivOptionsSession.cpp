@@ -1,6 +1,8 @@
 #include "Options/KivOptionsSession.h"
 
+#include "Dialog/KivDlgDialog.h"
 #include "Dialog/KivTextCatalogue.h"
+#include "Dialog/KivUserHand.h"
 
 #include <algorithm>
 #include <charconv>
@@ -15,6 +17,14 @@ int PositionFrom(const KivUnicodeString& text)
     int position = 1000; // a tab that says nothing stands at the end
     std::from_chars(text.View().data(), text.View().data() + text.View().size(), position);
     return position;
+}
+
+void CollectWindows(const KivDialog& node, std::vector<KivWeakPtr<KivDlgDialog>>& windows)
+{
+    for (KivDialog* child : node.Children()) {
+        if (child->IsAKindOf(KivDlgDialog::Name)) windows.emplace_back(static_cast<KivDlgDialog*>(child));
+        CollectWindows(*child, windows);
+    }
 }
 
 } // namespace
@@ -68,8 +78,19 @@ const KivOptionsSession::Page* KivOptionsSession::FindPage(const KivUnicodeStrin
     return nullptr;
 }
 
+// What a page's window holds is stored when it is closed: it has to be there before the editors decide on it.
+void KivOptionsSession::CloseWindows()
+{
+    std::vector<KivWeakPtr<KivDlgDialog>> windows;
+    CollectWindows(*_root, windows);
+    for (const KivWeakPtr<KivDlgDialog>& window : windows) {
+        if (window) KivUserHand::CloseWindow(*window);
+    }
+}
+
 std::vector<KivDiagnostic> KivOptionsSession::Commit()
 {
+    CloseWindows();
     // The editors are silent by contract; what they meet reaches the framework's sink, where it is heard
     // here.
     std::vector<KivDiagnostic> errors;
@@ -87,6 +108,7 @@ std::vector<KivDiagnostic> KivOptionsSession::Commit()
 
 void KivOptionsSession::Cancel()
 {
+    CloseWindows();
     for (const Page& page : _pages) page.settings->CancelModification(kNoRepository);
     Refill();
 }

@@ -34,10 +34,10 @@ public:
     // The tree that holds all pages.
     KivDialog& Root() { return *_root; }
 
-    // OK: every editor commits. The errors that were met on the way, empty when all is safe; after an error
-    // nothing is lost and the session goes on.
+    // OK: every window that a page has opened is closed, then every editor commits. The errors that were met
+    // on the way, empty when all is safe; after an error nothing is lost and the session goes on.
     std::vector<KivDiagnostic> Commit();
-    // Cancel: every editor takes its changes back, and every page shows so.
+    // Cancel: the same windows are closed, then every editor takes its changes back, and every page shows so.
     void Cancel();
     // Shows on every page what is in force now, after it was changed from elsewhere.
     void Refill();
@@ -46,6 +46,7 @@ public:
 
 private:
     void Add(const KivUserSettingsManager::Editor& editor);
+    void CloseWindows();
 
     std::unique_ptr<KivDlgFrame> _root;
     std::vector<Page> _pages;

@@ -1,0 +1,19 @@
+#include "Dialog/KivComboSymbol.h"
+
+#include "Dialog/KivTextCatalogue.h"
+
+#include <string>
+
+KivComboSymbol::KivComboSymbol(KivDialog* parent, const KivString& name, unsigned long style)
+    : KivClass(parent, name, style)
+{
+    for (unsigned int symbol = 1; symbol <= kSymbols; ++symbol)
+        SetLine(KivTextCatalogue::FrameworkText(("PointSymbol" + std::to_string(symbol)).c_str()));
+    SetSelect(1);
+}
+
+void KivComboSymbol::SetSelect(unsigned int symbol)
+{
+    if (symbol >= 1 && symbol <= static_cast<unsigned int>(GetLineCount()))
+        KivDlgCombo::SetSelect(static_cast<int>(symbol) - 1);
+}

@@ -1,0 +1,25 @@
+#include "Dialog/KivDlgRadioButton.h"
+
+std::vector<KivDlgRadioButton*> KivDlgRadioButton::Choices() const
+{
+    std::vector<KivDlgRadioButton*> choices;
+    if (!GetParentDialog()) return choices;
+    for (KivDialog* sibling : GetParentDialog()->Children()) {
+        if (sibling->IsAKindOf(Name)) choices.push_back(static_cast<KivDlgRadioButton*>(sibling));
+    }
+    return choices;
+}
+
+void KivDlgRadioButton::SetState(unsigned long state, int notify)
+{
+    _state = state == KivDlgChecked ? KivDlgChecked : KivDlgUnchecked;
+    if (_state == KivDlgChecked) {
+        for (KivDlgRadioButton* other : Choices()) {
+            if (other == this || other->_state != KivDlgChecked) continue;
+            other->_state = KivDlgUnchecked;
+            other->Changed();
+        }
+    }
+    Changed();
+    if (notify) SendNotification(&_modified);
+}

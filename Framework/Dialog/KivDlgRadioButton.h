@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Dialog/KivDlgControl.h"
+
+#include <vector>
+
+// One of several choices that exclude each other: of the radio buttons with the same parent at most one is
+// checked.
+class KivDlgRadioButton : public KivClass<KivDlgRadioButton, KivDlgControl> {
+public:
+    static constexpr const char* Name = "KivDlgRadioButton";
+    using KivClass::KivClass;
+
+    // KivDlgChecked or KivDlgUnchecked; any other state counts as unchecked. Checking one unchecks the others,
+    // silently. Not zero: listeners of this one are told.
+    void SetState(unsigned long state, int notify);
+    unsigned long GetState() const { return _state; }
+
+    // The buttons of its choice, itself included, in order of creation.
+    std::vector<KivDlgRadioButton*> Choices() const;
+
+    KivNotification* GetRadBModifyNotification() const { return &_modified; }
+
+private:
+    unsigned long _state = KivDlgUnchecked;
+    mutable KivNotification _modified{"KivDlgRadBModifyNotification"};
+};
