@@ -1,5 +1,6 @@
 #include "DraftingStart.h"
 
+#include "Component/KivLibrary.h"
 #include "Dialog/KivTextCatalogue.h"
 #include "DraftingOptions.h"
 #include "DraftingText.h"
@@ -52,7 +53,7 @@ std::optional<int> DraftingStart::Prepare(const CommandLine& line, std::ostream&
     }
     if (const auto code = ChooseUnit(line, err)) return code;
     if (const auto code = ChooseLayer(line, err)) return code;
-    KivUserSettingsManager::LoadPages("KivDuiSettings");
+    for (const char* library : {"KivDuiSettings", "KivDrwSettingCtrl"}) KivLoadLibrary(library);
     if (line.administrator.empty()) {
         KivDrwOptionsServices::InitOptionsOnDisk();
     } else {

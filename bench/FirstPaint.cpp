@@ -1,3 +1,4 @@
+#include "Component/KivLibrary.h"
 #include "HandWrittenDialog.h"
 #include "OffscreenPlatform.h"
 #include "Options/KivOptionsSession.h"
@@ -20,7 +21,7 @@ void Paint(QWidget& window)
 void Ours(benchmark::State& state)
 {
     KivSettingsSandbox box;
-    KivUserSettingsManager::LoadPages("KivDuiSettings");
+    KivLoadLibrary("KivDuiSettings");
     KivUserSettingsManager manager;
     for (auto _ : state) {
         OptionsWindow window(std::make_unique<KivOptionsSession>(manager), OptionsMemory(QString()));

@@ -1,3 +1,4 @@
+#include "Component/KivLibrary.h"
 #include "KivDrwCatalogue.h"
 #include "KivDrwRepository.h"
 #include "Options/KivOptionsSession.h"
@@ -214,7 +215,7 @@ void BuildPage(benchmark::State& state)
 {
     KivSettingsSandbox box;
     FillFile(box);
-    KivUserSettingsManager::LoadPages("KivDuiSettings");
+    KivLoadLibrary("KivDuiSettings");
     KivUserSettingsManager manager;
     for (auto _ : state) {
         const KivOptionsSession session(manager);
@@ -231,7 +232,7 @@ struct BareNode {
 void BareBuildPage(benchmark::State& state)
 {
     KivSettingsSandbox box;
-    KivUserSettingsManager::LoadPages("KivDuiSettings");
+    KivLoadLibrary("KivDuiSettings");
     KivUserSettingsManager manager;
     const long nodes = [&] {
         KivOptionsSession session(manager);

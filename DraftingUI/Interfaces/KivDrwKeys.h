@@ -11,6 +11,13 @@ template <class T> struct KivDrwKey {
     std::size_t place; // in kKivDrwKeyNames
 };
 
+// The type that a key is stored in.
+template <class Key> struct KivDrwStoredIn;
+template <class T> struct KivDrwStoredIn<const KivDrwKey<T>> {
+    using Type = T;
+};
+template <class Key> using KivDrwStored = typename KivDrwStoredIn<Key>::Type;
+
 // The place of every key in the catalogue.
 namespace KivDrwPlaces {
 enum Place : std::size_t {

@@ -43,6 +43,11 @@ KivUnicodeString KivDialog::CatalogueText(const char* kind) const
     return _catalogue ? _catalogue->Find(KivCommand::GetName() + "." + kind) : KivUnicodeString();
 }
 
+KivString KivDialog::GetResourceFile(int level) const
+{
+    return level <= 0 ? KivTextCatalogue::kFramework : "";
+}
+
 KivUnicodeString KivDialog::TextOf(const Text& text, const char* kind) const
 {
     return text ? *text : CatalogueText(kind);
@@ -56,7 +61,8 @@ KivUnicodeString KivDialog::GetTitle() const
 
 KivUnicodeString KivDialog::GetSpokenTitle() const
 {
-    const KivUnicodeString title = GetTitle();
+    const KivUnicodeString own = CatalogueText("Spoken");
+    const KivUnicodeString title = own.IsEmpty() ? GetTitle() : own;
     std::string spoken;
     bool marked = false;
     for (const char c : title.View()) {
@@ -140,9 +146,14 @@ void KivDialog::SetTextCatalogue(const KivString& catalogue)
     Changed();
 }
 
+KivDialog::ChangesAsOne::~ChangesAsOne()
+{
+    if (_node && --_node->_held == 0) _node->Changed();
+}
+
 void KivDialog::Changed()
 {
-    if (_view) _view->NodeChanged(*this);
+    if (_view && _held == 0) _view->NodeChanged(*this);
 }
 
 void KivDialog::EnablingChanged()

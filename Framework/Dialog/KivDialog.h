@@ -46,7 +46,8 @@ public:
     // A "&" in a title stands before the letter that reaches the control from the keyboard.
     void SetTitle(const KivUnicodeString& title) { Set(_title, title); }
     KivUnicodeString GetTitle() const;
-    // The title as a screen reader says it: without the mark of its keyboard letter.
+    // What a screen reader says: the text "<object name>.Spoken", which a control without a title of its own
+    // has, else the title without the mark of its keyboard letter.
     KivUnicodeString GetSpokenTitle() const;
 
     // One sentence for a tooltip, a short one for the status line, and a paragraph.
@@ -88,8 +89,25 @@ public:
     // A text of this object's in its catalogue, under "<object name>.<kind>"; empty when there is none.
     KivUnicodeString CatalogueText(const char* kind) const;
 
+    // The name of a catalogue for this class's texts: a class that has one of its own answers it at level 0
+    // or below, and what its base answers one level lower above that. The framework's own comes last, then
+    // nothing.
+    virtual KivString GetResourceFile(int level) const;
+
     void SetView(KivDlgView* view) { _view = view; }
     KivDlgView* GetView() const { return _view; }
+
+    // While one exists, a node's changes are told to its view as one, at the end: for long lists of lines.
+    class ChangesAsOne {
+    public:
+        explicit ChangesAsOne(KivDialog& node) : _node(&node) { ++node._held; }
+        ~ChangesAsOne();
+        ChangesAsOne(const ChangesAsOne&) = delete;
+        ChangesAsOne& operator=(const ChangesAsOne&) = delete;
+
+    private:
+        KivWeakPtr<KivDialog> _node;
+    };
 
 protected:
     // Tells the view, and the views of the children where they depend on it.
@@ -115,4 +133,5 @@ private:
     unsigned long _visibility = KivDlgShown;
     KivWeakPtr<KivDialog> _lock, _label;
     KivDlgView* _view = nullptr;
+    int _held = 0; // by ChangesAsOne
 };

@@ -58,6 +58,16 @@ void KivDlgCombo::SetSelect(int position, int notify)
     if (notify) SendNotification(&_selectNotification);
 }
 
+void KivDlgCombo::SetSelect(const KivUnicodeString& line, int notify)
+{
+    int position = -1;
+    KivUnicodeString text;
+    for (int i = 0; position < 0 && GetLine(text, i); ++i) {
+        if (text == line) position = i;
+    }
+    SetSelect(position, notify);
+}
+
 void KivDlgCombo::SetVisibleTextWidth(int characters)
 {
     _textWidth = characters;

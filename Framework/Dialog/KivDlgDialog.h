@@ -2,16 +2,16 @@
 
 #include "Dialog/KivDialog.h"
 
-// A window of its own within a dialog's tree: a frame in the grid of nobody. It belongs to its parent, but whoever
-// made it usually asks for its delayed destruction when it is closed.
+// A window of its own within a dialog's tree: a frame in the grid of nobody. It belongs to its parent, but
+// whoever made it usually asks for its delayed destruction when it is closed.
 class KivDlgDialog : public KivClass<KivDlgDialog, KivDialog> {
 public:
     static constexpr const char* Name = "KivDlgDialog";
     // Hidden at first.
     KivDlgDialog(KivDialog* parent, const KivString& name, unsigned long style = KivDlgModelessWindow);
 
-    // The user has pressed the window's close button, or closed the window in the way of his desktop. Nothing else
-    // happens: who listens decides what it means.
+    // The user has pressed the window's close button, or closed the window in the way of his desktop. Nothing
+    // else happens: who listens decides what it means.
     KivNotification* GetDiaCloseNotification() const { return &_closed; }
     KivNotification* GetWindCloseNotification() const { return &_windowClosed; }
 

@@ -8,7 +8,13 @@ void KivDlgLabel::SetLabelledControl(KivDialog* control)
     Changed();
 }
 
+void KivDlgLabel::SetGreysWithControl(bool greys)
+{
+    _greysWithControl = greys;
+    Changed();
+}
+
 bool KivDlgLabel::IsEnabled() const
 {
-    return KivDialog::IsEnabled() && (!_control || _control->IsEnabled());
+    return KivDialog::IsEnabled() && (!_greysWithControl || !_control || _control->IsEnabled());
 }

@@ -11,9 +11,12 @@ public:
     // Ties the label to the control that it names: it greys with it, and its keyboard letter leads there.
     void SetLabelledControl(KivDialog* control);
     KivDialog* GetLabelledControl() const { return _control.Get(); }
+    // Whether it greys with its control: a label does until its page says otherwise.
+    void SetGreysWithControl(bool greys);
 
     bool IsEnabled() const override;
 
 private:
     KivWeakPtr<KivDialog> _control;
+    bool _greysWithControl = true;
 };

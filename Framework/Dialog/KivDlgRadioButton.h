@@ -11,8 +11,8 @@ public:
     static constexpr const char* Name = "KivDlgRadioButton";
     using KivClass::KivClass;
 
-    // KivDlgChecked or KivDlgUnchecked; any other state counts as unchecked. Checking one unchecks the others,
-    // silently. Not zero: listeners of this one are told.
+    // KivDlgChecked or KivDlgUnchecked; any other state counts as unchecked. Checking one unchecks the
+    // others, silently. Not zero: listeners of this one are told.
     void SetState(unsigned long state, int notify);
     unsigned long GetState() const { return _state; }
 

@@ -106,7 +106,7 @@ const KivTextCatalogue& KivTextCatalogue::Open(const KivString& name)
 
 KivUnicodeString KivTextCatalogue::FrameworkText(const char* key)
 {
-    const KivUnicodeString text = Open("KivFramework").Find(key);
+    const KivUnicodeString text = Open(kFramework).Find(key);
     return text.IsEmpty() ? KivUnicodeString(key) : text;
 }
 

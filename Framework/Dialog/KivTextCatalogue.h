@@ -17,7 +17,8 @@ class KivTextCatalogue {
 public:
     static const KivTextCatalogue& Open(const KivString& name);
 
-    // A text of the framework's own catalogue; the key itself when it is missing.
+    // The framework's own catalogue, and a text of it; the key itself when it is missing.
+    static constexpr const char* kFramework = "KivFramework";
     static KivUnicodeString FrameworkText(const char* key);
 
     // Not a language: the English texts, marked at both ends and longer by 40 %, as a translation may make

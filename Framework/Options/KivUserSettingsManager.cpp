@@ -1,11 +1,6 @@
 #include "Options/KivUserSettingsManager.h"
 
-#include "Base/KivDiagnostic.h"
-#include "Base/KivEnvironment.h"
-#include "Base/KivToken.h"
 #include "Component/KivClassDictionary.h"
-
-#include <dlfcn.h>
 
 namespace {
 
@@ -14,28 +9,6 @@ namespace {
 [[maybe_unused]] const KivMetaClass* const registered = KivUserSettingsManager::MetaObject();
 
 } // namespace
-
-bool KivUserSettingsManager::LoadPages(const KivString& library)
-{
-    const KivUnicodeString file = "lib" + KivUnicodeString(library) + ".so";
-    KivUnicodeString places;
-    if (const char* path = KivGetEnv("KivLibraryPath")) places = path;
-    places.Append(":").Append(KivInstallRoot() + "/lib");
-
-    KivUnicodeString why;
-    KivToken tokens(places);
-    for (KivUnicodeString place = tokens.GetNextToken(":"); !place.IsEmpty();
-         place = tokens.GetNextToken(":")) {
-        // Never unloaded: its meta-objects and dictionary entries are pointed at until the process ends.
-        const KivUnicodeString path = place + "/" + file;
-        if (dlopen(path.ConvertToChar(), RTLD_NOW | RTLD_GLOBAL | RTLD_NODELETE)) return true;
-        why = dlerror();
-    }
-    KivReport({.severity = KivDiagnostic::Severity::Error,
-               .text = "its options pages are not available: " + why,
-               .file = file});
-    return false;
-}
 
 std::vector<KivVar<KivEditorFactory>> KivUserSettingsManager::Factories()
 {

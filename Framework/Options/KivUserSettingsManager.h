@@ -15,11 +15,6 @@ public:
     static constexpr const char* LateType = "KivEditorManager2";
     static constexpr KivClassKind Kind = KivClassKind::MainClass;
 
-    // Loads a library of pages, "KivX" for libKivX.so, from KivLibraryPath (colon separated) or from beside
-    // the framework's own library. It stays loaded until the process ends. False, with a diagnostic, when it
-    // cannot be loaded.
-    static bool LoadPages(const KivString& library);
-
     struct Editor {
         KivString name; // the editor's class
         KivVar<KivIUserSettings> settings;

@@ -1,4 +1,5 @@
 #include "Base/KivEnvironment.h"
+#include "Component/KivLibrary.h"
 #include "Dialog/KivTextCatalogue.h"
 #include "NativePiece.h"
 #include "OptionsMessageStrip.h"
@@ -24,7 +25,7 @@ protected:
     void SetUp() override
     {
         if (!QFile::exists(Library())) GTEST_SKIP() << "built without the drafting library";
-        ASSERT_TRUE(KivUserSettingsManager::LoadPages("KivDuiSettings"));
+        ASSERT_TRUE(KivLoadLibrary("KivDuiSettings"));
         KivSettingsSandbox::Write(sandbox.File("site"), "lock int Drw_settings_GridSnapPt = 1\n");
         sandbox.NameLayers({"site"});
         KivSettingRepository::ForgetAll();

@@ -141,25 +141,47 @@ public:
         log += "reset " + std::to_string(names.texts.size()) + " ";
         return S_OK;
     }
-    HRESULT GetLockUserDefault(unsigned char& v) { return Answer(v); }
-    HRESULT GetPreventSetAsDefault(unsigned char& v) { return Answer(v); }
-    HRESULT GetPreventBackgroundAccess(unsigned char& v) { return Answer(v); }
-
-private:
-    static HRESULT Answer(unsigned char& v)
-    {
-        v = prevented;
-        return S_OK;
+#define KIV_ATTRIBUTE(T, attribute, Set, Get, GetInfo, settingKey)                                           \
+    HRESULT Set(const T&)                                                                                    \
+    {                                                                                                        \
+        return S_OK;                                                                                         \
+    }                                                                                                        \
+    HRESULT Get(T& value)                                                                                    \
+    {                                                                                                        \
+        value = prevented;                                                                                   \
+        return S_OK;                                                                                         \
+    }                                                                                                        \
+    HRESULT GetInfo(KivSettingInfo&)                                                                         \
+    {                                                                                                        \
+        return S_OK;                                                                                         \
     }
+#include "KivDrwDraftingAttributes.def"
 };
 
 TEST_F(Editors, AdministrationDoesNothingWithoutItsController)
 {
     const auto editor = Made<KivDrwOptAdminEditor>();
+    KivEditorPage page(nullptr, "page", 0UL);
+    editor->BuildEditor(&page);
+    EXPECT_TRUE(page.Children().empty());
     editor->CommitModification(nullptr);
     editor->CancelModification(nullptr);
     editor->ResetUserSettingsValue();
     EXPECT_EQ(Heard(), "");
+}
+
+TEST_F(Editors, AdministrationSaysThatItsControllerIsMissing)
+{
+    KivDlgFrame root(nullptr, "root");
+    auto* frame = new KivDrwOptAdminFrm(&root, "DrwSet");
+    frame->Build();
+    frame->Initialize();
+    ASSERT_EQ(box.diagnostics.size(), 2U);
+    const char* const file = "[File: DraftingUI/KivDuiSettings.m/src/KivDrwOptAdminFrm:";
+    EXPECT_EQ(box.Said(std::string(">> ASSERTION FAILED ON POINTER: ") + file), 1);
+    EXPECT_EQ(box.Said(std::string(">> ASSERTION FAILED ON POINTER: KivDrwOptAdminFrm ") + file), 1);
+    EXPECT_EQ(frame->GetResourceFile(-1), "KivDrwOptAdmin");
+    EXPECT_EQ(frame->GetResourceFile(1), frame->KivDialog::GetResourceFile(0));
 }
 
 TEST_F(Editors, AdministrationWorksThroughItsControllerAndGreysCommands)

@@ -1,3 +1,4 @@
+#include "Component/KivLibrary.h"
 #include "Dialog/KivComboColor.h"
 #include "Dialog/KivDlgLock.h"
 #include "Dialog/KivDlgSpinner.h"
@@ -14,7 +15,7 @@ class AdministratorMode : public testing::Test {
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(KivUserSettingsManager::LoadPages("KivDuiSettings"));
+        ASSERT_TRUE(KivLoadLibrary("KivDuiSettings"));
         box.NameLayers({"company", "site"});
         box.Write(box.File("company"), "lock int Ruler = 1\nlock float BackgroundColorGreenDitto = 1\n");
         box.Write(file, "# ours\nlock double RotSnapAngle = 45\nlock View*\n");

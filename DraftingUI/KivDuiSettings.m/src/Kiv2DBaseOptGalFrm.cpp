@@ -23,23 +23,23 @@ constexpr KivSpinnerSetup kSnapAngle{.magnitude = KivDlgMagnitudeAngle,
 
 void Kiv2DBaseOptGalFrm::Build()
 {
-    if (WithFrameRuler()) _form.Group("frameRuler", "").Line().Check("checkRuler", _showRuler);
+    if (WithFrameRuler()) Group("frameRuler", "").Line().Check("checkRuler", _showRuler);
     if (WithFrameGrid()) BuildGrid();
     if (WithFrameRotation()) BuildRotation();
     if (WithFrameColor()) BuildColor();
     if (WithFrameTree()) {
-        KivFormGroup tree = _form.Group("frameTreeVisu", "I_Formula");
+        KivFormGroup tree = Group("frameTreeVisu", "I_Formula");
         tree.Line().Check("_checkTreeParameters", _displayParam);
         tree.Line().Check("_checkTreeFormulas", _displayRelation);
     }
     if (WithFrame2DAxis()) Build2DAxis();
     if (WithFrameHideWhenStartWkb())
-        _form.Group("frmHideStartWkb", "").Line().Check("chkHideStartWkb", _hideWhenStartWkb);
+        Group("frmHideStartWkb", "").Line().Check("chkHideStartWkb", _hideWhenStartWkb);
 }
 
 void Kiv2DBaseOptGalFrm::BuildGrid()
 {
-    KivFormGroup grid = _form.Group("frameGrid", "I_DisplayGrid");
+    KivFormGroup grid = Group("frameGrid", "I_DisplayGrid");
     grid.Line().Check("checkGrid", _displayGrid);
     grid.Line().Check("checkSnap", _snapToPoint);
     grid.Line().Check("checkAllowDistortions", _allowDistortions, [this] { ApplyDistortionRule(); });
@@ -55,14 +55,14 @@ void Kiv2DBaseOptGalFrm::BuildGrid()
 
 void Kiv2DBaseOptGalFrm::BuildRotation()
 {
-    KivFormGroup rotation = _form.Group("frameRotation", "I_Rotate");
+    KivFormGroup rotation = Group("frameRotation", "I_Rotate");
     rotation.Line("labelRotSnapAngle").Spinner("spinnerRotSnapAngle", _rotationSnapAngle, kSnapAngle);
     rotation.Line().Check("checkRotSnapAuto", _rotationAutoSnap);
 }
 
 void Kiv2DBaseOptGalFrm::BuildColor()
 {
-    KivFormGroup color = _form.Group("frameColor", "I_ColorChooser");
+    KivFormGroup color = Group("frameColor", "I_ColorChooser");
     KivFormLine sheet = color.Line("labelBackgroundColor");
     sheet.Colour("comboBackgroundColor", _sheetColor);
     sheet.Check("checkGraduatedColor", _sheetColorGrad);
@@ -73,7 +73,7 @@ void Kiv2DBaseOptGalFrm::BuildColor()
 
 void Kiv2DBaseOptGalFrm::Build2DAxis()
 {
-    KivFormGroup axis = _form.Group("frameViewReferential", "I_DisplayViewReferential");
+    KivFormGroup axis = Group("frameViewReferential", "I_DisplayViewReferential");
     axis.Line().Check("checkViewReferential", _2DAxisDisplay);
     axis.Line().Check("checkViewRefZoom", _2DAxisZoom);
     axis.Line("labelViewAxisSize").Spinner("spinnerViewAxisSize", _2DAxisLength, kLength);

@@ -1,20 +1,15 @@
 #include "KivDrwOptAdminEditor.h"
 
 #include "Command/KivCommandHeader.h"
+#include "KivDrwSettingController.h"
 #include "KivIDrwDraftingSettingAtt.h"
+#include "Options/KivEditorPage.h"
 #include "Options/KivIUserSettings.h"
 
 #include <iterator>
+#include <new>
 
 namespace {
-
-// A controller component of the drafting settings under one of its interfaces; empty when it cannot be had.
-template <class Interface> KivVar<Interface> Controller()
-{
-    void* found = nullptr;
-    KivInstantiateComponent("KivDrwDraftingSettingCtrl", Interface::ClassId(), &found);
-    return KivVar<Interface>::Adopt(static_cast<Interface*>(static_cast<KivBaseUnknown*>(found)));
-}
 
 using Reader = HRESULT (KivIDrwDraftingSettingAtt::*)(unsigned char&);
 
@@ -39,11 +34,26 @@ void Apply(bool prevented, const char* command)
 
 } // namespace
 
-KivDrwOptAdminEditor::KivDrwOptAdminEditor() : _controller(Controller<KivIASettingController>()) {}
+KivDrwOptAdminEditor::KivDrwOptAdminEditor() : _controller(KivDrwSettingController<KivIASettingController>())
+{}
+
+void KivDrwOptAdminEditor::BuildEditor(KivEditorPage* page)
+{
+    // Without its controller the tab stays empty.
+    if (!_controller) return;
+    auto* frame = new (std::nothrow) KivDrwOptAdminFrm(page, kKivDrwFrameName);
+    _frame = frame;
+    if (frame) frame->Build();
+}
+
+void KivDrwOptAdminEditor::SetUserSettingsValue(KivSettingRepository*)
+{
+    if (_frame) _frame->Initialize();
+}
 
 void KivDrwOptAdminEditor::CommitModification(KivSettingRepository*)
 {
-    const KivVar<KivIDrwDraftingSettingAtt> attributes = Controller<KivIDrwDraftingSettingAtt>();
+    const KivVar<KivIDrwDraftingSettingAtt> attributes = KivDrwSettingController<KivIDrwDraftingSettingAtt>();
     // Deliberate: without the attributes nothing is saved either.
     if (!attributes) return;
     for (const auto& [attribute, command] : kCommands) {
@@ -63,9 +73,9 @@ void KivDrwOptAdminEditor::ResetUserSettingsValue()
 {
     if (!_controller) return;
     const KivUnicodeString names[] = {
-        "PreventFileNew",        "PreventSwitchStandard", "PreventUpdateStandard",  "PreventBackgroundAccess",
-        "UseStyleCreateObjects", "CreateNewSheetFrom",    "LockUserDefault",        "PreventSetAsDefault",
-        "DisplayResetButton",    "PreventGenViewStyle",   "PreventDimDriving3DCstr"};
+#define KIV_ATTRIBUTE(T, attribute, Set, Get, GetInfo, settingKey) #attribute,
+#include "KivDrwDraftingAttributes.def"
+    };
     KivVariant* variant = BuildSafeArrayVariant(names, std::ssize(names));
     if (!variant) return;
     _controller->ResetToAdminValuesByName(*variant);

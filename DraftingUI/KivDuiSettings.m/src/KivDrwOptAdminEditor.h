@@ -1,6 +1,8 @@
 #pragma once
 
 #include "Component/KivVar.h"
+#include "KivDrwFrameName.h"
+#include "KivDrwOptAdminFrm.h"
 #include "Options/KivEditor.h"
 #include "Settings/KivIASettingController.h"
 
@@ -15,10 +17,13 @@ public:
     // Deliberate: only factories make editors.
     static KivBaseUnknown* CreateItself() { return nullptr; }
 
+    void BuildEditor(KivEditorPage* page) override;
+    void SetUserSettingsValue(KivSettingRepository* ignored) override;
     void CommitModification(KivSettingRepository* ignored) override;
     void CancelModification(KivSettingRepository* ignored) override;
     void ResetUserSettingsValue() override;
 
 private:
     KivVar<KivIASettingController> _controller; // empty when the component is not there
+    KivWeakPtr<KivDrwOptAdminFrm> _frame;       // belongs to the page, which may die first
 };

@@ -2,6 +2,7 @@
 
 #include "KivDrwBackgroundColour.h"
 #include "KivDrwSettingAccess.h"
+#include "KivPageValue.h"
 
 // The type of the value that a frame's Set accessor takes.
 template <class Accessor> struct KivAccessorValue;
@@ -43,3 +44,43 @@ template <auto accessor> using KivValueOf = typename KivAccessorValue<decltype(a
         colour.GetInfo(_repository, info);                                                                   \
         return S_OK;                                                                                         \
     }
+
+// The accessor triple of an attribute of the drafting settings' controller, which may be missing in
+// _attributes.
+#define KIV_BIND_ATTRIBUTE(SetAccessor, GetAccessor, GetInfoAccessor, Set, Get, GetInfo)                     \
+    int SetAccessor(const KivValueOf<&Base::SetAccessor>& value) override                                    \
+    {                                                                                                        \
+        if (_attributes) _attributes->Set(value);                                                            \
+        return S_OK;                                                                                         \
+    }                                                                                                        \
+    int GetAccessor(KivValueOf<&Base::SetAccessor>& value) override                                          \
+    {                                                                                                        \
+        if (_attributes) _attributes->Get(value);                                                            \
+        return S_OK;                                                                                         \
+    }                                                                                                        \
+    int GetInfoAccessor(KivSettingInfo& info) override                                                       \
+    {                                                                                                        \
+        if (_attributes) _attributes->GetInfo(info);                                                         \
+        return S_OK;                                                                                         \
+    }
+
+// One option of a page without a generic frame: its value and its three accessors, bound to a key of
+// _repository. The frame states the alias Self and derives from KivPageFrame.
+#define KIV_KEY_SETTING(T, value, key, SetAccessor, GetAccessor, GetInfoAccessor)                            \
+public:                                                                                                      \
+    virtual int SetAccessor(const T& in)                                                                     \
+    {                                                                                                        \
+        return KivDrwSet(_repository, key, in);                                                              \
+    }                                                                                                        \
+    virtual int GetAccessor(T& out)                                                                          \
+    {                                                                                                        \
+        return KivDrwGet(_repository, key, out);                                                             \
+    }                                                                                                        \
+    virtual int GetInfoAccessor(KivSettingInfo& info)                                                        \
+    {                                                                                                        \
+        return KivDrwGetInfo(_repository, key, info);                                                        \
+    }                                                                                                        \
+                                                                                                             \
+private:                                                                                                     \
+    KivPageValue<Self, T> value{_values, *this, &Self::SetAccessor, &Self::GetAccessor,                      \
+                                &Self::GetInfoAccessor};

@@ -2,14 +2,12 @@
 
 #include "Command/KivWeakPtr.h"
 #include "KivDrwCatalogue.h"
+#include "KivDrwFrameName.h"
 #include "KivDrwTabEditorBase.h"
 #include "Options/KivEditorPage.h"
 
 #include <new>
 #include <type_traits>
-
-// The name of every tab's frame in its page.
-inline constexpr const char* kKivDrwFrameName = "DrwSet";
 
 // The editor of a tab: Self states its Name and its Group of settings, Frame is its page frame. An editor
 // without a frame leaves its page empty, and the options manager offers no empty page.

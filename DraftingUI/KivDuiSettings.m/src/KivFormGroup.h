@@ -1,15 +1,8 @@
 #pragma once
 
 #include "Dialog/KivDlgFrame.h"
-#include "KivDrwLockCheckButton.h"
-#include "KivDrwLockComboColor.h"
-#include "KivDrwLockLabel.h"
-#include "KivDrwLockSpinner.h"
-#include "KivPageRow.h"
-#include "KivPageValue.h"
-#include "KivSpinnerSetup.h"
+#include "KivFormLine.h"
 
-class KivFormLine;
 class KivPageForm;
 
 // A group of a page while it is declared, line by line.
@@ -22,37 +15,18 @@ public:
     KivFormLine Line();
     KivFormLine Line(const KivString& labelName);
 
+    // A part of the group with lines of its own, in the place of the next line.
+    KivFormGroup Part(const KivString& name, short columns = 1);
+
+    // Radio buttons under one padlock, in the place of the next line. The answered frame belongs to the
+    // dialog tree.
+    KivDrwLockFrame* Radios(const KivString& name, KivCachedValue<int>& value, const KivFormRadios& radios,
+                            KivFormLine::Rule rule = {});
+
+    KivDlgFrame& Frame() const { return _frame; }
+
 private:
     KivPageForm& _form;
     KivDlgFrame& _frame;
     short _lines = 0;
-};
-
-// A line of a group while it is declared, control by control from the left. A rule runs after the control's
-// value was stored; the answered control belongs to the dialog tree.
-class KivFormLine {
-public:
-    using Rule = KivPageRow::Rule;
-
-    KivFormLine(KivPageForm& form, KivDlgFrame& frame, short line) : _form(form), _frame(frame), _line(line)
-    {}
-
-    KivDrwLockCheckButton* Check(const KivString& name, KivCachedValue<unsigned char>& value, Rule rule = {});
-    KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<double>& value,
-                               const KivSpinnerSetup& setup, Rule rule = {});
-    KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<int>& value, const KivCountSetup& setup,
-                               Rule rule = {});
-    KivDrwLockComboColor* Colour(const KivString& name, KivCachedValue<KivPageColour>& value, Rule rule = {});
-    void Label(const KivString& name);
-
-private:
-    KivDrwLockSpinner* BareSpinner(const KivString& name, const KivSettingInfo& info);
-    void Place(KivDialog& control);
-    void Place(KivDrwLockDialog& control);
-
-    KivPageForm& _form;
-    KivDlgFrame& _frame;
-    short _line;
-    short _column = 0;
-    KivWeakPtr<KivDrwLockLabel> _label;
 };

@@ -6,30 +6,45 @@
 #include <memory>
 #include <vector>
 
-class KivPageFrame;
-
-// The groups and rows of a page, as the page declares them: builds each control from its setting's lock
-// record, connects it to the page's Write, and moves values both ways.
+// The groups and rows of a page or of a window of it, as they are declared: builds each control from its
+// setting's lock record, connects it to the owner's callback, and moves values both ways.
 class KivPageForm {
 public:
-    explicit KivPageForm(KivPageFrame& page) : _page(page) {}
+    // Whether a control is made whose lock record is refused.
+    enum class Refused { Build, LeaveOut };
 
-    // A titled group, below those that are there. The icon's name may be empty.
-    KivFormGroup Group(const KivString& name, const KivString& icon);
+    explicit KivPageForm(KivCommand& owner, Refused refused = Refused::Build)
+        : _owner(owner), _refused(refused)
+    {}
+
+    // The method of the owner that the controls declared from now on are connected to.
+    template <class Owner> void SetCallback(void (Owner::*callback)(KivCommand*, KivNotification*, void*))
+    {
+        _callback = static_cast<KivCommand::Method>(callback);
+    }
+
+    // A titled group on a surface, in the given row of its grid. The icon's name may be empty.
+    KivFormGroup Group(KivDialog& surface, const KivString& name, const KivString& icon, short row = 0);
 
     // Shows every lock record.
     void ShowLocks();
     // Shows every cached value.
     void Show();
-    // Stores the value of the control that sent a notification.
+    // Shows one value wherever it is shown.
+    void ShowValue(const KivBoundValue& value);
+    // Stores the value of the control that sent a notification, and shows it wherever else it is shown.
     void Take(KivCommand* from);
+    // Takes what every control shows into the cached values, and stores nothing.
+    void ReadAll();
 
     // For rows that are being declared.
-    void Add(std::unique_ptr<KivPageRow> row) { _rows.push_back(std::move(row)); }
+    bool LeavesOut(const KivBoundValue& value) const;
+    void Add(std::unique_ptr<KivPageRow> row);
     void Connect(KivCommand* control, KivNotification* notification);
 
 private:
-    KivPageFrame& _page;
+    KivCommand& _owner;
+    KivCommand::Method _callback = nullptr;
+    Refused _refused;
     std::vector<std::unique_ptr<KivPageRow>> _rows;
-    short _groups = 0;
 };

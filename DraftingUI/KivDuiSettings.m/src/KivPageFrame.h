@@ -10,19 +10,33 @@ class KivPageFrame : public KivClass<KivPageFrame, KivDlgFrame> {
 public:
     static constexpr const char* Name = "KivPageFrame";
     static constexpr const char* Framework = "DraftingUI";
+    using Refused = KivPageForm::Refused;
+
     // Titles, helps and icons of the page come from the text catalogue of that name.
-    KivPageFrame(KivDialog* parent, const KivString& name, const KivString& catalogue);
+    KivPageFrame(KivDialog* parent, const KivString& name, const KivString& catalogue,
+                 Refused refused = Refused::Build);
 
     // Creates the widgets, once.
     virtual void Build() = 0;
     // Loads all values, in accessor order, and shows them and their locks; at any time.
-    void Initialize();
+    virtual void Initialize();
     // Shows the cached values and applies the rules that depend on them.
     virtual void UpdateWidgets();
-    // The one callback that every control's change notification reaches.
+    // The callback that every control's change notification reaches, unless a page has another.
     void Write(KivCommand* from, KivNotification* notification, void* data);
 
+    // The page's own catalogue at level 0 or below, further up what the framework answers.
+    KivString GetResourceFile(int level) const override;
+
 protected:
+    // A titled group below those that are there, or in the given row of the page's grid.
+    KivFormGroup Group(const KivString& name, const KivString& icon);
+    KivFormGroup Group(const KivString& name, const KivString& icon, short row);
+
     KivBoundValues _values; // in accessor order
-    KivPageForm _form{*this};
+    KivPageForm _form;
+
+private:
+    KivString _catalogue;
+    short _groups = 0;
 };

@@ -5,17 +5,24 @@ void KivPageRow::ShowLock()
     if (KivDrwLockDialog* control = Control()) control->SetInfo(_value.Info());
 }
 
-bool KivPageRow::Take(KivCommand* from)
+bool KivPageRow::IsSender(const KivCommand* from) const
 {
     const KivDrwLockDialog* control = Control();
-    if (control && control->GetDialog() == from && _value.Info().locked) {
+    return control && from && control->GetDialog() == from;
+}
+
+bool KivPageRow::Take(KivCommand* from)
+{
+    if (!IsSender(from)) return false;
+    if (_value.Info().locked) {
         // No user could have sent this: another row's value was mirrored here. The store would refuse it, and
         // the page must not show what is not in force.
         _value.Load();
         Show();
         return true;
     }
-    if (!Store(from)) return false;
+    if (!ReadToStore()) return true;
+    _value.Save();
     if (_rule) _rule();
     return true;
 }

@@ -5,7 +5,7 @@
 
 #include <functional>
 
-// One control of a page and the value behind it.
+// One control of a page, or several of one choice, and the value behind it.
 class KivPageRow {
 public:
     // What a page does after this row's value was stored: its special rules.
@@ -17,15 +17,28 @@ public:
     void ShowLock();
     // Value to control.
     virtual void Show() = 0;
-    // Control to value, if it is the sender: stores it and runs the row's rule. False when it is not.
+    // Control to value, if it is the sender of something new: stores it and runs the row's rule. False when
+    // it is not.
     bool Take(KivCommand* from);
+    // Control to value, without storing it.
+    virtual void Read() = 0;
+
+    // False once its control was destroyed.
+    bool IsAlive() const { return Control() != nullptr; }
+    bool IsOf(const KivBoundValue& value) const { return &_value == &value; }
+    const KivBoundValue& Value() const { return _value; }
 
 protected:
     KivPageRow(KivBoundValue& value, Rule rule) : _value(value), _rule(std::move(rule)) {}
 
-    // True, and the value stored, when the control is the sender.
-    virtual bool Store(KivCommand* from) = 0;
     virtual KivDrwLockDialog* Control() const = 0;
+    virtual bool IsSender(const KivCommand* from) const;
+    // Reads the value for storing; false when there is nothing to store after all.
+    virtual bool ReadToStore()
+    {
+        Read();
+        return true;
+    }
 
 private:
     KivBoundValue& _value;

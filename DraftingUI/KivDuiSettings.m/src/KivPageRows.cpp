@@ -1,7 +1,10 @@
 #include "KivPageRows.h"
 
+#include "Dialog/KivTextCatalogue.h"
 #include "KivDrwSettingsServices.h"
+#include "KivWholeOf.h"
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -26,12 +29,10 @@ void KivCheckRow::Show()
     KivDrwSettingsServices::UpdateCheckButton(_button.Get(), _value.cached);
 }
 
-bool KivCheckRow::Store(KivCommand* from)
+void KivCheckRow::Read()
 {
-    unsigned char value = 0;
-    if (KivDrwSettingsServices::GetValueFromCheckButton(_button.Get(), from, value) != S_OK) return false;
-    _value.Store(value);
-    return true;
+    if (_button)
+        KivDrwSettingsServices::GetValueFromCheckButton(_button.Get(), _button->GetDialog(), _value.cached);
 }
 
 KivMeasureRow::KivMeasureRow(KivDrwLockSpinner* spinner, KivCachedValue<double>& value, double shownPerStored,
@@ -45,13 +46,11 @@ void KivMeasureRow::Show()
     KivDrwSettingsServices::UpdateSpinner(_spinner.Get(), _value.cached * _shownPerStored);
 }
 
-bool KivMeasureRow::Store(KivCommand* from)
+void KivMeasureRow::Read()
 {
-    double value = 0.0;
-    if (KivDrwSettingsServices::GetValueFromSpinner(_spinner.Get(), from, _storedPerShown, value) != S_OK)
-        return false;
-    _value.Store(value);
-    return true;
+    if (_spinner)
+        KivDrwSettingsServices::GetValueFromSpinner(_spinner.Get(), _spinner->GetDialog(), _storedPerShown,
+                                                    _value.cached);
 }
 
 KivCountRow::KivCountRow(KivDrwLockSpinner* spinner, KivCachedValue<int>& value, Rule rule)
@@ -63,12 +62,27 @@ void KivCountRow::Show()
     if (_spinner) _spinner->SetCurrentValue(static_cast<float>(_value.cached), 0);
 }
 
-bool KivCountRow::Store(KivCommand* from)
+void KivCountRow::Read()
 {
-    if (!_spinner || !from || _spinner->GetDialog() != from) return false;
-    _value.Store(Whole(_spinner->GetCurrentValue()));
+    if (!_spinner) return;
+    _value.cached = Whole(_spinner->GetCurrentValue());
     Show();
-    return true;
+}
+
+KivWholeRow::KivWholeRow(KivDrwLockSpinner* spinner, KivCachedValue<int>& value, Rule rule)
+    : KivPageRow(value, std::move(rule)), _spinner(spinner), _value(value)
+{}
+
+void KivWholeRow::Show()
+{
+    KivDrwSettingsServices::UpdateSpinner(_spinner.Get(), static_cast<double>(_value.cached));
+}
+
+void KivWholeRow::Read()
+{
+    if (!_spinner) return;
+    _value.cached = KivWholeOf(_spinner->GetValue());
+    Show();
 }
 
 KivColourRow::KivColourRow(KivDrwLockComboColor* combo, KivCachedValue<KivPageColour>& value, Rule rule)
@@ -81,12 +95,113 @@ void KivColourRow::Show()
                                              _value.cached.blue);
 }
 
-bool KivColourRow::Store(KivCommand* from)
+void KivColourRow::Read()
 {
-    KivPageColour value;
-    if (KivDrwSettingsServices::GetValueFromComboColor(_combo.Get(), from, value.red, value.green,
-                                                       value.blue) != S_OK)
-        return false;
-    _value.Store(value);
+    ReadToStore();
+}
+
+bool KivColourRow::ReadToStore()
+{
+    return _combo && KivDrwSettingsServices::GetValueFromComboColor(_combo.Get(), _combo->GetDialog(),
+                                                                    _value.cached.red, _value.cached.green,
+                                                                    _value.cached.blue) == S_OK;
+}
+
+KivChoiceRow::KivChoiceRow(KivDrwLockCombo* combo, KivCachedValue<int>& value, const KivFormChoice& choice,
+                           Rule rule)
+    : KivPageRow(value, std::move(rule)), _combo(combo), _value(value), _choice(choice)
+{}
+
+void KivChoiceRow::Show()
+{
+    KivDlgCombo* combo = _combo ? _combo->GetCombo() : nullptr;
+    if (!combo) return;
+    const KivTextCatalogue& texts = KivTextCatalogue::Open(_choice.catalogue);
+    const KivDialog::ChangesAsOne asOne(*combo);
+    combo->ClearLine();
+    for (const KivFormChoice::Line& line : _choice.lines) {
+        combo->SetLine(texts.Find(line.key), -1);
+        if (line.value == _value.cached) combo->SetSelect(combo->GetLineCount() - 1);
+    }
+}
+
+void KivChoiceRow::Read()
+{
+    const int line = _combo && _combo->GetCombo() ? _combo->GetCombo()->GetSelect() : -1;
+    if (line >= 0) _value.cached = _choice.lines[static_cast<std::size_t>(line)].value;
+}
+
+KivNameRow::KivNameRow(KivDrwLockCombo* combo, KivCachedValue<KivUnicodeString>& value, KivFormNames names,
+                       Rule rule)
+    : KivPageRow(value, std::move(rule)), _combo(combo), _value(value), _names(names)
+{}
+
+void KivNameRow::Show()
+{
+    KivDlgCombo* combo = _combo ? _combo->GetCombo() : nullptr;
+    if (!combo) return;
+    KivListOfUnicodeString names;
+    _names(names);
+    const KivDialog::ChangesAsOne asOne(*combo);
+    combo->ClearLine();
+    for (const KivUnicodeString& name : names) combo->SetLine(name, -1);
+    combo->SetSelect(_value.cached);
+}
+
+void KivNameRow::Read()
+{
+    ReadToStore();
+}
+
+bool KivNameRow::ReadToStore()
+{
+    KivDlgCombo* combo = _combo ? _combo->GetCombo() : nullptr;
+    KivUnicodeString name;
+    if (!combo || !combo->GetLine(name, combo->GetSelect()) || name == _value.cached) return false;
+    _value.cached = name;
     return true;
+}
+
+KivRadioRow::KivRadioRow(KivDrwLockFrame* frame, KivCachedValue<int>& value, std::vector<Button> buttons,
+                         std::optional<int> otherwise, Rule rule)
+    : KivPageRow(value, std::move(rule)), _frame(frame), _value(value), _buttons(std::move(buttons)),
+      _otherwise(otherwise)
+{}
+
+void KivRadioRow::Show()
+{
+    const auto has = [this](int value) {
+        return std::any_of(_buttons.begin(), _buttons.end(),
+                           [value](const Button& button) { return button.value == value; });
+    };
+    const std::optional<int> shown = has(_value.cached) ? _value.cached : _otherwise;
+    for (const auto& [button, value] : _buttons) {
+        if (button) button->SetState(shown == value ? KivDlgChecked : KivDlgUnchecked, 0);
+    }
+}
+
+const KivRadioRow::Button* KivRadioRow::Chosen() const
+{
+    for (const Button& button : _buttons) {
+        if (button.button && button.button->GetState() == KivDlgChecked) return &button;
+    }
+    return nullptr;
+}
+
+void KivRadioRow::Read()
+{
+    if (const Button* chosen = Chosen()) _value.cached = chosen->value;
+}
+
+bool KivRadioRow::IsSender(const KivCommand* from) const
+{
+    return from && std::any_of(_buttons.begin(), _buttons.end(),
+                               [from](const Button& button) { return button.button.Get() == from; });
+}
+
+bool KivRadioRow::ReadToStore()
+{
+    const int before = _value.cached;
+    Read();
+    return _value.cached != before;
 }

@@ -1,8 +1,12 @@
 #pragma once
 
+#include "Dialog/KivDlgRadioButton.h"
 #include "KivDrwLockCheckButton.h"
+#include "KivDrwLockCombo.h"
 #include "KivDrwLockComboColor.h"
+#include "KivDrwLockFrame.h"
 #include "KivDrwLockSpinner.h"
+#include "KivFormChoice.h"
 #include "KivPageRow.h"
 
 // The kinds of rows, by the control that they have. A control belongs to the dialog tree and may be gone.
@@ -12,9 +16,9 @@ class KivCheckRow final : public KivPageRow {
 public:
     KivCheckRow(KivDrwLockCheckButton* button, KivCachedValue<unsigned char>& value, Rule rule);
     void Show() override;
+    void Read() override;
 
 private:
-    bool Store(KivCommand* from) override;
     KivDrwLockDialog* Control() const override { return _button.Get(); }
 
     KivWeakPtr<KivDrwLockCheckButton> _button;
@@ -28,9 +32,9 @@ public:
     KivMeasureRow(KivDrwLockSpinner* spinner, KivCachedValue<double>& value, double shownPerStored,
                   double storedPerShown, Rule rule);
     void Show() override;
+    void Read() override;
 
 private:
-    bool Store(KivCommand* from) override;
     KivDrwLockDialog* Control() const override { return _spinner.Get(); }
 
     KivWeakPtr<KivDrwLockSpinner> _spinner;
@@ -44,9 +48,23 @@ class KivCountRow final : public KivPageRow {
 public:
     KivCountRow(KivDrwLockSpinner* spinner, KivCachedValue<int>& value, Rule rule);
     void Show() override;
+    void Read() override;
 
 private:
-    bool Store(KivCommand* from) override;
+    KivDrwLockDialog* Control() const override { return _spinner.Get(); }
+
+    KivWeakPtr<KivDrwLockSpinner> _spinner;
+    KivCachedValue<int>& _value;
+};
+
+// A whole number that is typed as a real one: what is typed is cut towards zero and shown so.
+class KivWholeRow final : public KivPageRow {
+public:
+    KivWholeRow(KivDrwLockSpinner* spinner, KivCachedValue<int>& value, Rule rule);
+    void Show() override;
+    void Read() override;
+
+private:
     KivDrwLockDialog* Control() const override { return _spinner.Get(); }
 
     KivWeakPtr<KivDrwLockSpinner> _spinner;
@@ -58,11 +76,72 @@ class KivColourRow final : public KivPageRow {
 public:
     KivColourRow(KivDrwLockComboColor* combo, KivCachedValue<KivPageColour>& value, Rule rule);
     void Show() override;
+    void Read() override;
 
 private:
-    bool Store(KivCommand* from) override;
     KivDrwLockDialog* Control() const override { return _combo.Get(); }
+
+    bool ReadToStore() override;
 
     KivWeakPtr<KivDrwLockComboColor> _combo;
     KivCachedValue<KivPageColour>& _value;
+};
+
+// A choice from words.
+class KivChoiceRow final : public KivPageRow {
+public:
+    KivChoiceRow(KivDrwLockCombo* combo, KivCachedValue<int>& value, const KivFormChoice& choice, Rule rule);
+    void Show() override;
+    void Read() override;
+
+private:
+    KivDrwLockDialog* Control() const override { return _combo.Get(); }
+
+    KivWeakPtr<KivDrwLockCombo> _combo;
+    KivCachedValue<int>& _value;
+    KivFormChoice _choice;
+};
+
+// A choice from names that are found when the page is shown, such as files on the disk. A stored name that is
+// not among them stays stored.
+class KivNameRow final : public KivPageRow {
+public:
+    KivNameRow(KivDrwLockCombo* combo, KivCachedValue<KivUnicodeString>& value, KivFormNames names,
+               Rule rule);
+    void Show() override;
+    void Read() override;
+
+private:
+    KivDrwLockDialog* Control() const override { return _combo.Get(); }
+    bool ReadToStore() override;
+
+    KivWeakPtr<KivDrwLockCombo> _combo;
+    KivCachedValue<KivUnicodeString>& _value;
+    KivFormNames _names;
+};
+
+// A choice of radio buttons under one padlock. A button that is chosen already stores nothing.
+class KivRadioRow final : public KivPageRow {
+public:
+    struct Button {
+        KivWeakPtr<KivDlgRadioButton> button;
+        int value;
+    };
+    // Without a value that another button has, the one of `otherwise` is shown as chosen, if there is one.
+    KivRadioRow(KivDrwLockFrame* frame, KivCachedValue<int>& value, std::vector<Button> buttons,
+                std::optional<int> otherwise, Rule rule);
+    void Show() override;
+    void Read() override;
+
+private:
+    KivDrwLockDialog* Control() const override { return _frame.Get(); }
+    bool IsSender(const KivCommand* from) const override;
+    bool ReadToStore() override;
+
+    const Button* Chosen() const;
+
+    KivWeakPtr<KivDrwLockFrame> _frame;
+    KivCachedValue<int>& _value;
+    std::vector<Button> _buttons;
+    std::optional<int> _otherwise;
 };

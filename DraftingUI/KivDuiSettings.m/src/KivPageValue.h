@@ -10,8 +10,18 @@ class KivBoundValue {
 public:
     // Takes the value in force into the cache; what an accessor answers does not matter.
     virtual void Load() = 0;
-    // The lock record of the setting.
-    virtual KivSettingInfo Info() const = 0;
+    // Stores the cached value.
+    virtual void Save() = 0;
+    // The lock record of the setting; without one it fails and leaves the record untouched.
+    virtual HRESULT GetInfo(KivSettingInfo& info) const = 0;
+
+    // The lock record, empty when there is none.
+    KivSettingInfo Info() const
+    {
+        KivSettingInfo info;
+        GetInfo(info);
+        return info;
+    }
 
 protected:
     ~KivBoundValue() = default;
@@ -24,7 +34,9 @@ using KivBoundValues = std::vector<KivBoundValue*>;
 template <class T> class KivCachedValue : public KivBoundValue {
 public:
     T cached{};
-    virtual void Store(const T& value) = 0;
+
+protected:
+    ~KivCachedValue() = default;
 };
 
 // The components of a colour setting, 0 to 255 unless something else is stored.
@@ -54,30 +66,21 @@ template <class Frame> struct KivPageAccessors<Frame, KivPageColour> {
 template <class Frame, class T> class KivPageValue final : public KivCachedValue<T> {
 public:
     using Accessors = KivPageAccessors<Frame, T>;
-    using GetInfo = int (Frame::*)(KivSettingInfo&);
+    using InfoAccessor = int (Frame::*)(KivSettingInfo&);
 
     KivPageValue(KivBoundValues& values, Frame& frame, typename Accessors::Set set,
-                 typename Accessors::Get get, GetInfo getInfo)
+                 typename Accessors::Get get, InfoAccessor getInfo)
         : _frame(frame), _set(set), _get(get), _getInfo(getInfo)
     {
         values.push_back(this);
     }
     void Load() override { Accessors::Call(_frame, _get, this->cached); }
-    void Store(const T& value) override
-    {
-        this->cached = value;
-        Accessors::Call(_frame, _set, value);
-    }
-    KivSettingInfo Info() const override
-    {
-        KivSettingInfo info;
-        (_frame.*_getInfo)(info);
-        return info;
-    }
+    void Save() override { Accessors::Call(_frame, _set, this->cached); }
+    HRESULT GetInfo(KivSettingInfo& info) const override { return (_frame.*_getInfo)(info); }
 
 private:
     Frame& _frame;
     typename Accessors::Set _set;
     typename Accessors::Get _get;
-    GetInfo _getInfo;
+    InfoAccessor _getInfo;
 };

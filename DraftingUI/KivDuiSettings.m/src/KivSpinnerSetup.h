@@ -21,5 +21,17 @@ struct KivCountSetup {
     int values = 0;
 };
 
+// How a spinner of a whole number is set up that is typed as a real one: what is typed is cut.
+struct KivWholeSetup {
+    KivDlgUnit unit = KivDlgUnitNone;
+    double minimum = 0.0;
+    double maximum = 0.0;
+    double step = 1.0;
+    double initial = 0.0; // until the page is filled
+    int precision = 3;
+    int width = 5; // characters
+    unsigned long style = 0;
+};
+
 // The visible width of every spinner of a page, in characters.
 inline constexpr int kKivSpinnerWidth = 5;

@@ -1,0 +1,77 @@
+#include "KivDrwOptGenFrame.h"
+
+namespace {
+
+constexpr KivWholeSetup kTimeOut{.unit = KivDlgUnitSecond,
+                                 .minimum = 1.0,
+                                 .maximum = 300.0,
+                                 .step = 1.0,
+                                 .precision = 4,
+                                 .width = 3,
+                                 .style = 0x60000};
+
+// The groups stand apart: rows 0 and 2 of the page stay empty, deliberately.
+constexpr short kDimensionRow = 1;
+constexpr short kBalloonRow = 3;
+
+} // namespace
+
+KivDrwOptGenFrame::KivDrwOptGenFrame(KivDialog* parent, const KivString& name) : KivClass(parent, name, Name)
+{
+    _form.SetCallback(&KivDrwOptGenFrame::WriteSettings_CallbackMethod);
+}
+
+void KivDrwOptGenFrame::Build()
+{
+    BuildDimensions();
+    Group("frameGenBal", "I_DrwGenballoon", kBalloonRow)
+        .Line()
+        .Check("checkGenBalloonByInstance", _genBalloonByInstance);
+}
+
+void KivDrwOptGenFrame::BuildDimensions()
+{
+    KivFormGroup dimensions = Group("frameGenDim", "I_GenDim", kDimensionRow);
+    const auto timeOut = [&] {
+        KivFormLine line = dimensions.Line();
+        // The label never greys, deliberately.
+        line.Label("labelGenDimSemiAuto")->GetDialog()->SetGreysWithControl(false);
+        return line.Spinner("spinnerGenDimSemiAuto", _genDimSemiAutoTimeOut, kTimeOut);
+    };
+    _dimensionControls = {
+        dimensions.Line().At(0, 2).Check("checkGenDim", _genDim),
+        dimensions.Line().Check("checkGenDimFilter", _genDimFilter),
+        dimensions.Line().At(0, 2).Check("checkGenDimAutoPos", _genDimAutoPos),
+        dimensions.Line().At(0, 2).Check("checkGenDimAutoTrans", _genDimAutoTrans),
+        dimensions.Line().Check("checkGenDimAnal", _genDimAnal),
+        dimensions.Line().At(0, 2).Check("checkGenDimFromPart", _genDimFromPart),
+        timeOut(),
+    };
+}
+
+void KivDrwOptGenFrame::UpdateWidgets()
+{
+    KivPageFrame::UpdateWidgets();
+    if (!_repository) return;
+    // Only exact views have dimensions of their own. Balloons and the label never grey, deliberately.
+    const bool exact = KivDrwRead(_repository, KivDrwKeys::DrwGenerationModeVal) == 0;
+    for (const auto& control : _dimensionControls) {
+        if (control) control->SetSensitivity(exact ? KivDlgEnabled : KivDlgDisabled);
+    }
+}
+
+void KivDrwOptGenFrame::Write()
+{
+    if (!_repository) return;
+    _form.ReadAll();
+    // The order is a contract, and not that of reading.
+    KivBoundValue* const order[] = {
+        &_genBalloonByInstance, &_genDim,     &_genDimFilter,   &_genDimAutoPos,
+        &_genDimAutoTrans,      &_genDimAnal, &_genDimFromPart, &_genDimSemiAutoTimeOut};
+    for (KivBoundValue* value : order) value->Save();
+}
+
+void KivDrwOptGenFrame::WriteSettings_CallbackMethod(KivCommand*, KivNotification*, void*)
+{
+    Write();
+}

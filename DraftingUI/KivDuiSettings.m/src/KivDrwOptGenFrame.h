@@ -1,0 +1,35 @@
+#pragma once
+
+#include "KivDrwKeyPageFrame.h"
+
+#include <vector>
+
+// The Generation page: which dimensions and balloons are made when views are generated from a part or an
+// assembly. It has no generic frame, and writes all its settings, in an order of its own, whenever one of
+// them changes.
+class KivDrwOptGenFrame final : public KivClass<KivDrwOptGenFrame, KivDrwKeyPageFrame> {
+public:
+    static constexpr const char* Name = "KivDrwOptGenFrame";
+    KivDrwOptGenFrame(KivDialog* parent, const KivString& name);
+
+    void Build() override;
+    void UpdateWidgets() override;
+
+    // Takes what the controls show and stores all of it.
+    void Write();
+    // The callback of every control.
+    void WriteSettings_CallbackMethod(KivCommand* from, KivNotification* notification, void* data);
+
+private:
+    void BuildDimensions();
+
+    KIV_KEY_VALUE(_genDim, unsigned char, KivDrwKeys::GenDim)
+    KIV_KEY_VALUE(_genDimFilter, unsigned char, KivDrwKeys::GenDimFilter)
+    KIV_KEY_VALUE(_genDimAutoPos, unsigned char, KivDrwKeys::GenDimAutoPos)
+    KIV_KEY_VALUE(_genDimAutoTrans, unsigned char, KivDrwKeys::GenDimAutoTrans)
+    KIV_KEY_VALUE(_genDimAnal, unsigned char, KivDrwKeys::GenDimAnal)
+    KIV_KEY_VALUE(_genDimSemiAutoTimeOut, int, KivDrwKeys::GenDimSemiAutoTimeOut)
+    KIV_KEY_VALUE(_genBalloonByInstance, unsigned char, KivDrwKeys::GenBalloonByInstance)
+    KIV_KEY_VALUE(_genDimFromPart, unsigned char, KivDrwKeys::DrwGenDimFromPart)
+    std::vector<KivWeakPtr<KivDrwLockDialog>> _dimensionControls;
+};

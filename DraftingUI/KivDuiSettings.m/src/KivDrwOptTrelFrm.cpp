@@ -1,0 +1,29 @@
+#include "KivDrwOptTrelFrm.h"
+
+namespace {
+
+constexpr int kStyleWidth = 15; // characters
+
+} // namespace
+
+void KivDrwOptTrelFrm::Build()
+{
+    Group("frameGeom", "I_CircleCtrRad").Line().Check("_checkCenterEndPoints", _createCenterEndPts);
+    Group("frameConvertDimensionAsGraphic", "I_Dim2D")
+        .Line()
+        .Check("checkConvertDimensionAsGraphic", _convertDimensionAsGraphic);
+    KivFormGroup explode = Group("frameExplode", "I_DrwDitto");
+    explode.Line().Check("chkExplodeDitto", _explodeDitto);
+    explode.Line().Check("chkExplodeSymbolo", _explodeSymbolo);
+    Group("frameBlinkRed", "").Line().Check("checkBlinkRed", _blinkRedValue);
+    _styleCombo = Group("frameGVSXml", "").Line("lbl").Names("chkGVSXml", _gvsXml, &GetGPSList);
+    if (_styleCombo && _styleCombo->GetCombo()) _styleCombo->GetCombo()->SetVisibleTextWidth(kStyleWidth);
+}
+
+void KivDrwOptTrelFrm::UpdateWidgets()
+{
+    KivPageFrame::UpdateWidgets();
+    // Nobody chooses a generative view style while the administrator prevents such styles.
+    const bool prevented = KivDrwRead(_repository, KivDrwKeys::DrwPreventGVS) != 0;
+    if (_styleCombo) _styleCombo->SetSensitivity(prevented ? KivDlgDisabled : KivDlgEnabled);
+}

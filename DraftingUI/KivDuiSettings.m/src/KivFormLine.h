@@ -1,0 +1,70 @@
+#pragma once
+
+#include "Dialog/KivDlgFrame.h"
+#include "Dialog/KivDlgPushButton.h"
+#include "KivDrwLockCheckButton.h"
+#include "KivDrwLockCombo.h"
+#include "KivDrwLockComboColor.h"
+#include "KivDrwLockFrame.h"
+#include "KivDrwLockLabel.h"
+#include "KivDrwLockSpinner.h"
+#include "KivFormChoice.h"
+#include "KivPageRow.h"
+#include "KivPageValue.h"
+#include "KivSpinnerSetup.h"
+
+class KivPageForm;
+
+// A line of a group while it is declared, control by control from the left. A rule runs after the control's
+// value was stored. The answered control belongs to the dialog tree; it is null, and its cell stays empty,
+// when the form leaves out what has no lock record.
+class KivFormLine {
+public:
+    using Rule = KivPageRow::Rule;
+
+    KivFormLine(KivPageForm& form, KivDlgFrame& frame, short line) : _form(form), _frame(frame), _line(line)
+    {}
+
+    // Where the next control stands, over how many columns, and how it is attached there.
+    KivFormLine& At(short column, short columns = 1);
+    KivFormLine& Attached(unsigned int attachment);
+
+    KivDrwLockCheckButton* Check(const KivString& name, KivCachedValue<unsigned char>& value, Rule rule = {});
+    KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<double>& value,
+                               const KivSpinnerSetup& setup, Rule rule = {});
+    KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<int>& value, const KivCountSetup& setup,
+                               Rule rule = {});
+    KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<int>& value, const KivWholeSetup& setup,
+                               Rule rule = {});
+    KivDrwLockComboColor* Colour(const KivString& name, KivCachedValue<KivPageColour>& value, Rule rule = {});
+    KivDrwLockCombo* Choice(const KivString& name, KivCachedValue<int>& value, const KivFormChoice& choice,
+                            unsigned long style, Rule rule = {});
+    KivDrwLockCombo* Names(const KivString& name, KivCachedValue<KivUnicodeString>& value, KivFormNames names,
+                           Rule rule = {});
+    // A button that opens something: the owner connects it.
+    KivDlgPushButton* Push(const KivString& name);
+
+    // A text that names the next control, under the padlocks' column or without it.
+    KivDrwLockLabel* Label(const KivString& name);
+    KivDlgLabel* PlainLabel(const KivString& name);
+    // Leaves the padlocks' column of this cell empty.
+    KivDrwLockLabel* Spacer(const KivString& name);
+    // The help of the text that names this line's controls.
+    KivUnicodeString LabelHelp() const;
+
+private:
+    KivDrwLockSpinner* BareSpinner(const KivString& name, const KivSettingInfo& info, int width,
+                                   unsigned long style = 0);
+    KivDrwLockCombo* BareCombo(const KivString& name, const KivSettingInfo& info, unsigned long style);
+    bool LeavesOut(const KivBoundValue& value);
+    void Place(KivDialog& control);
+    void Name(KivDialog* control);
+
+    KivPageForm& _form;
+    KivDlgFrame& _frame;
+    short _line;
+    short _column = 0;
+    short _columns = 1;
+    unsigned int _attachment = KivDlgAttachAllSides;
+    KivWeakPtr<KivDlgLabel> _label;
+};

@@ -1,0 +1,248 @@
+#include "Dialog/KivDlgLabel.h"
+#include "Dialog/KivTextCatalogue.h"
+#include "OptionsPages.h"
+#include "PageTables.h"
+
+#include <random>
+#include <set>
+
+namespace {
+
+// What holds for every page alike.
+class PageFamily : public OptionsPages, public testing::WithParamInterface<PageTable> {
+protected:
+    void SetUp() override
+    {
+        box.SetVariable("KivCollectionStandard", box.root.string());
+        for (const char* style : {"Blue.xml", "Green.XML", "Red.xml"})
+            box.Write(box.root / "generativeparameters" / style, "");
+    }
+    void OpenWith(const std::string& more = {})
+    {
+        std::string content = more;
+        for (const char* line : table.enabling) content += std::string(line) + "\n";
+        box.Write(file, content);
+        OpenAll();
+    }
+    // With the windows of the page.
+    void OpenAll()
+    {
+        Open();
+        ASSERT_NE(session->FindPage(table.page), nullptr);
+        for (const char* button : table.buttons) ASSERT_TRUE(Press(button));
+    }
+    static std::set<std::string> Changed(const Values& before, const Values& after)
+    {
+        std::set<std::string> changed;
+        for (const auto& [key, value] : after) {
+            const auto was = before.find(key);
+            if (was == before.end() || was->second != value) changed.insert(key);
+        }
+        return changed;
+    }
+    void DriveAll()
+    {
+        for (const TableRow& row : table.rows) Drive(Control(row.control));
+    }
+    std::set<std::string> Keys() const
+    {
+        std::set<std::string> keys;
+        for (const TableRow& row : table.rows) keys.insert(row.keys.begin(), row.keys.end());
+        return keys;
+    }
+    const PageTable& table = GetParam();
+};
+
+TEST_P(PageFamily, EachControlChangesItsOwnKeysAndTogetherTheyChangeAll)
+{
+    OpenWith();
+    Repository().Commit(0);
+    std::set<std::string> driven;
+    for (const TableRow& row : table.rows) {
+        SCOPED_TRACE(row.control);
+        const Values before = All();
+        const KivHandAnswer answer = Drive(Control(row.control));
+        EXPECT_TRUE(answer) << answer.why.View();
+        const std::set<std::string> changed = Changed(before, All());
+        const std::set<std::string> own(row.keys.begin(), row.keys.end());
+        // A button of a choice that is chosen already changes nothing.
+        if (!(changed.empty() && Control(row.control).IsAKindOf(KivDlgRadioButton::Name))) {
+            EXPECT_EQ(changed, own);
+        }
+        driven.insert(changed.begin(), changed.end());
+    }
+    EXPECT_EQ(driven, Keys());
+    EXPECT_EQ(driven.size(), table.keys);
+    EXPECT_TRUE(session->Commit().empty());
+    const Values saved = All();
+    KivSettingRepository::ForgetAll();
+    EXPECT_EQ(All(), saved);
+}
+
+TEST_P(PageFamily, EveryLockDisablesItsControlsAndNothingElse)
+{
+    box.NameLayers({"site"});
+    for (const std::string& key : Keys()) {
+        SCOPED_TRACE(key);
+        box.Write(box.File("site"), "lock " + key + "\n");
+        OpenWith();
+        const Values before = All();
+        for (const TableRow& row : table.rows) {
+            KivDialog& control = Control(row.control);
+            const bool asked = !*row.enabledBy || IsChecked(row.enabledBy);
+            EXPECT_EQ(control.IsEnabled(), asked && row.keys.front() != key) << row.control;
+            EXPECT_EQ(control.WhyDisabled().IsEmpty(), control.IsEnabled()) << row.control;
+            if (row.keys.front() == key) {
+                EXPECT_FALSE(Drive(control)) << row.control;
+            }
+        }
+        EXPECT_EQ(All(), before);
+    }
+}
+
+// Enabled = what the page asks AND not locked, under any walk of a user and any set of locks.
+TEST_P(PageFamily, NoWalkOpensALock)
+{
+    std::mt19937 random(20240607);
+    const auto coin = [&] { return random() % 2 == 0; };
+    box.NameLayers({"site"});
+    for (int walk = 0; walk < 20; ++walk) {
+        std::set<std::string> locked;
+        std::string layer;
+        for (const TableRow& row : table.rows) {
+            if (!coin() || !locked.insert(row.keys.front()).second) continue;
+            layer += "lock " + row.keys.front() + "\n";
+        }
+        box.Write(box.File("site"), layer);
+        OpenWith();
+        const Values enforced = All();
+        for (int step = 0; step < 60; ++step) {
+            if (random() % 10 == 0) session->Reset(Page(table.page));
+            if (random() % 10 == 0) {
+                session->Cancel();
+                KivCommand::DrainDelayedDestruction();
+                for (const char* button : table.buttons) ASSERT_TRUE(Press(button));
+            }
+            if (random() % 10 == 0) session->Refill();
+            Drive(Control(table.rows[random() % table.rows.size()].control));
+            for (const TableRow& row : table.rows) {
+                const bool asked = !*row.enabledBy || IsChecked(row.enabledBy);
+                const KivDialog& control = Control(row.control);
+                const bool styleIsReset = row.keys.front() == "DrwGVSXmlTrel";
+                if (styleIsReset) continue; // what enables it lies on another page
+                ASSERT_EQ(control.IsEnabled(), asked && !locked.count(row.keys.front())) << row.control;
+                ASSERT_EQ(control.WhyDisabled().IsEmpty(), control.IsEnabled()) << row.control;
+            }
+        }
+        const Values after = All();
+        for (const std::string& key : locked) {
+            const auto was = enforced.find(key);
+            const auto is = after.find(key);
+            ASSERT_EQ(was == enforced.end(), is == after.end()) << key;
+            if (is != after.end()) {
+                EXPECT_EQ(is->second, was->second) << key << " was locked";
+            }
+        }
+    }
+}
+
+TEST_P(PageFamily, OkCancelAndResetMeanWhatTheySay)
+{
+    // And a key of another page.
+    const std::string other = std::string(table.page) == "General" ? "ManipZoom" : "Ruler";
+    OpenWith("# mine\r\nint " + other + " = 1\n");
+    const std::string bytes = box.Bytes(file);
+    const Values before = All();
+    DriveAll();
+    EXPECT_NE(All(), before);
+    EXPECT_EQ(box.Bytes(file), bytes) << "nothing is saved before OK";
+    session->Cancel();
+    KivCommand::DrainDelayedDestruction();
+    EXPECT_EQ(All(), before);
+    EXPECT_EQ(box.Bytes(file), bytes);
+
+    for (const char* button : table.buttons) ASSERT_TRUE(Press(button));
+    DriveAll();
+    const Values driven = All();
+    EXPECT_TRUE(session->Commit().empty());
+    EXPECT_NE(box.Bytes(file), bytes);
+    OpenAll();
+    EXPECT_EQ(All(), driven);
+
+    session->Reset(Page(table.page));
+    for (const std::string& key : Keys()) EXPECT_EQ(All().count(key), 0U) << key << " is still the user's";
+    EXPECT_EQ(All().at(other), "1");
+    session->Cancel();
+    KivCommand::DrainDelayedDestruction();
+    EXPECT_EQ(All(), driven);
+}
+
+TEST_P(PageFamily, WorksOnDefaultsWithoutAnyRepository)
+{
+    KivSettingRepository::Withhold(true);
+    OpenAll();
+    for (const TableRow& row : table.rows) Drive(Control(row.control));
+    session->Reset(Page(table.page));
+    EXPECT_TRUE(session->Commit().empty());
+    session->Cancel();
+}
+
+// Titles, helps, labels and icons of a whole page and its windows.
+TEST_P(PageFamily, EveryControlIsNamedAndNoTextIsLeftOver)
+{
+    OpenWith();
+    std::set<std::string> asked;
+    std::map<char, std::string> letters;
+    const auto takeLetter = [&](const KivDialog& node, const std::string& own) {
+        const std::string title(node.GetTitle().View());
+        const std::size_t mark = title.find('&');
+        ASSERT_NE(mark, std::string::npos) << own << " has no letter";
+        const char letter = static_cast<char>(std::tolower(title[mark + 1]));
+        EXPECT_EQ(letters.count(letter), 0U) << own << " and " << letters[letter];
+        letters[letter] = own;
+    };
+    const auto visit = [&](auto&& self, const KivDialog& node) -> void {
+        const std::string own(node.KivCommand::GetName().View());
+        for (const char* kind : {"Title", "Spoken", "Help", "ShortHelp", "LongHelp", "Unavailable"}) {
+            if (!node.CatalogueText(kind).IsEmpty()) asked.insert(own + "." + kind);
+        }
+        const bool shown = node.GetVisibility() == KivDlgShown;
+        const auto is = [&](const char* kind) { return shown && node.IsAKindOf(kind); };
+        if (is("KivDlgControl")) {
+            EXPECT_NE(node.GetSpokenTitle(), own.c_str()) << "no accessible name";
+            EXPECT_FALSE(node.GetSpokenTitle().IsEmpty()) << own;
+            EXPECT_NE(node.GetTitle().View().find("_dialog"), 0U);
+            EXPECT_FALSE(node.GetHelp().IsEmpty()) << own;
+            EXPECT_FALSE(node.GetLongHelp().IsEmpty()) << own;
+        }
+        if (is("KivDlgLabel")) {
+            if (static_cast<const KivDlgLabel&>(node).GetLabelledControl()) takeLetter(node, own);
+            EXPECT_NE(node.GetTitle(), own.c_str()) << "no text";
+        }
+        const bool isNamedByItself =
+            is("KivDlgCheckButton") || is("KivDlgRadioButton") || is("KivDlgPushButton");
+        if (isNamedByItself && !node.GetTitle().IsEmpty()) takeLetter(node, own);
+        if (is("KivDlgDialog")) {
+            EXPECT_NE(node.GetTitle(), own.c_str()) << "no title";
+        }
+        if (is("KivDlgToolsOptionsFrame")) {
+            EXPECT_NE(node.GetTitle(), own.c_str());
+        }
+        const KivUnicodeString icon(node.GetIconName());
+        if (shown) {
+            EXPECT_TRUE(icon.IsEmpty() || !KivTextCatalogue::FindResource("icons/" + icon + ".svg").IsEmpty())
+                << icon.View();
+        }
+        for (const KivDialog* child : node.Children()) self(self, *child);
+    };
+    visit(visit, *Page(table.page).frame);
+    for (const auto& [key, text] : KivTextCatalogue::Open(table.catalogue).Texts())
+        EXPECT_EQ(asked.count(key), 1U) << key << " is a text of nobody";
+    EXPECT_FALSE(Page(table.page).icon.IsEmpty());
+    EXPECT_FALSE(Page(table.page).help.IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Pages, PageFamily, testing::ValuesIn(PageTables()),
+                         [](const auto& table) { return std::string(table.param.page); });
+
+} // namespace

@@ -1,0 +1,222 @@
+#include "Command/KivCommandHeader.h"
+#include "Dialog/KivDlgLabel.h"
+#include "OptionsPages.h"
+
+#include <chrono>
+
+namespace {
+
+// The special rules of single pages.
+class PageRules : public OptionsPages {
+protected:
+    void OpenOn(const std::string& content)
+    {
+        box.Write(file, content);
+        Open();
+    }
+    std::vector<KivDlgDialog*> Windows()
+    {
+        std::vector<KivDlgDialog*> windows;
+        for (KivDialog* child : Node<KivDialog>("pushAnnotActiveSnap")
+                                    .GetParentDialog()
+                                    ->GetParentDialog()
+                                    ->GetParentDialog()
+                                    ->Children()) {
+            if (child->IsAKindOf(KivDlgDialog::Name)) windows.push_back(static_cast<KivDlgDialog*>(child));
+        }
+        return windows;
+    }
+};
+
+TEST_F(PageRules, AnySheetSourceButTheCurrentSheetIsTheStyle)
+{
+    OpenOn("int KivDrwSheetFromStyle = 2\n");
+    EXPECT_TRUE(IsChosen("radSheetStyle") && !IsChosen("radSheetCurrent"));
+    EXPECT_TRUE(KivUserHand::Choose(Radio("radSheetStyle")));
+    EXPECT_EQ(Stored("KivDrwSheetFromStyle", 0), 2) << "it was chosen already";
+    EXPECT_TRUE(KivUserHand::Choose(Radio("radSheetCurrent")));
+    EXPECT_EQ(Stored("KivDrwSheetFromStyle", 9), 0);
+    EXPECT_FALSE(IsChosen("radSheetStyle"));
+    EXPECT_TRUE(KivUserHand::Choose(Radio("radSheetStyle")));
+    EXPECT_EQ(Stored("KivDrwSheetFromStyle", 9), 1);
+}
+
+TEST_F(PageRules, AdministrationGreysItsCommandsOnOkAndBringsThemBack)
+{
+    const struct {
+        const char* row;
+        std::vector<const char*> commands;
+    } rules[] = {{"checkOnlyUserDefault", {"DrwStyle"}},
+                 {"checkAllowUserDefault", {"DrwSetAsDefault", "DrwResetDefaults"}},
+                 {"checkBackgroundView", {"KivDrwEditFrame"}}};
+    std::vector<KivCommandHeader*> headers;
+    for (const auto& [row, commands] : rules)
+        for (const char* command : commands) headers.push_back(KivCommandHeader::Declare(command));
+    const auto available = [&] {
+        std::string names;
+        for (const KivCommandHeader* header : headers)
+            if (header->IsAvailable()) names += std::string(header->GetName().View()) + " ";
+        return names;
+    };
+    OpenOn("int DrwOnlyUserDefault = 0\nint DrwAllowUserDefault = 0\nint DrwLockBackgroundView = 0\n");
+    EXPECT_TRUE(session->Commit().empty());
+    const std::string all = available();
+    EXPECT_EQ(all, "DrwStyle DrwSetAsDefault DrwResetDefaults KivDrwEditFrame ");
+    for (const auto& [row, commands] : rules) {
+        // Its name says the opposite of its setting: the value is shown as it is.
+        EXPECT_FALSE(IsChecked(row));
+        EXPECT_TRUE(KivUserHand::Tick(Check(row)));
+        EXPECT_EQ(available(), all) << "not before OK";
+        EXPECT_TRUE(session->Commit().empty());
+        std::string left = all;
+        for (const std::string command : commands) left.erase(left.find(command), command.size() + 1);
+        EXPECT_EQ(available(), left);
+        EXPECT_TRUE(KivUserHand::Tick(Check(row)));
+        session->Cancel();
+        EXPECT_EQ(available(), left);
+        EXPECT_TRUE(IsChecked(row));
+        EXPECT_TRUE(KivUserHand::Tick(Check(row)));
+        EXPECT_TRUE(session->Commit().empty());
+        EXPECT_EQ(available(), all);
+    }
+}
+
+TEST_F(PageRules, EachPressOpensAnotherSnapWindowAndAllShowTheSame)
+{
+    OpenOn("int DrwAnnotSnapMod = 7\n");
+    EXPECT_TRUE(Press("pushAnnotActiveSnap"));
+    for (const char* radio : {"radioAnnotSnapOnGrid", "radioAnnotSnapOnOrient", "radioAnnotSnapBoth"})
+        EXPECT_FALSE(IsChosen(radio));
+    EXPECT_TRUE(Press("pushAnnotActiveSnap"));
+    ASSERT_EQ(Windows().size(), 2U);
+    const auto in = [&](std::size_t window, const char* radio) -> KivDlgRadioButton& {
+        return *static_cast<KivDlgRadioButton*>(Windows()[window]->FindDialog(radio));
+    };
+    const struct {
+        std::size_t window;
+        const char* radio;
+        int mode;
+    } choices[] = {
+        {0, "radioAnnotSnapBoth", 2}, {1, "radioAnnotSnapOnGrid", 0}, {0, "radioAnnotSnapOnOrient", 1}};
+    for (const auto& [window, radio, mode] : choices) {
+        EXPECT_TRUE(KivUserHand::Choose(in(window, radio)));
+        EXPECT_EQ(Stored("DrwAnnotSnapMod", 9), mode);
+        EXPECT_EQ(in(1 - window, radio).GetState(), KivDlgChecked);
+    }
+    session->Reset(Page("Annotation"));
+    EXPECT_EQ(in(0, "radioAnnotSnapOnOrient").GetState(), in(1, "radioAnnotSnapOnOrient").GetState());
+
+    // The first one first, in either way.
+    EXPECT_TRUE(KivUserHand::CloseWindow(*Windows()[0]));
+    EXPECT_FALSE(KivUserHand::Choose(in(0, "radioAnnotSnapBoth"))) << "it is going";
+    KivCommand::DrainDelayedDestruction();
+    ASSERT_EQ(Windows().size(), 1U);
+    EXPECT_TRUE(KivUserHand::Close(*Windows()[0]));
+    KivCommand::DrainDelayedDestruction();
+    EXPECT_TRUE(Windows().empty());
+    EXPECT_TRUE(Press("pushAnnotActiveSnap")) << "left open at the end";
+}
+
+TEST_F(PageRules, HandlesAreMeasuredInMillimetres)
+{
+    OpenOn("double ManipRefSize = 2\n");
+    EXPECT_EQ(Spinner("editorManipRefSize").GetValue(), 0.002);
+    EXPECT_TRUE(KivUserHand::Type(Spinner("editorManipRefSize"), "0.005 m"));
+    EXPECT_EQ(Stored("ManipRefSize", 0.0), 5.0);
+    EXPECT_FALSE(KivUserHand::Type(Spinner("editorManipRefSize"), "-1"));
+}
+
+TEST_F(PageRules, GenerationWritesAllItsKeysInItsOwnOrder)
+{
+    Open();
+    EXPECT_TRUE(IsChecked("checkGenDimAnal"));
+    for (const char* check : {"checkGenDim", "checkGenDimFilter", "checkGenDimAutoPos",
+                              "checkGenDimAutoTrans", "checkGenDimFromPart", "checkGenBalloonByInstance"})
+        EXPECT_FALSE(IsChecked(check)) << check;
+    EXPECT_TRUE(KivUserHand::Tick(Check("checkGenDim")));
+    EXPECT_TRUE(session->Commit().empty());
+    const std::string bytes = box.Bytes(file);
+    std::size_t last = 0;
+    for (const char* line : {"int GenBalloonByInstance = 0", "int GenDim = 1", "int GenDimFilter = 0",
+                             "int GenDimAutoPos = 0", "int GenDimAutoTrans = 0", "int GenDimAnal = 1",
+                             "int DrwGenDimFromPart = 0", "int GenDimSemiAutoTimeOut = 2"}) {
+        const std::size_t place = bytes.find(line);
+        ASSERT_NE(place, std::string::npos) << line;
+        EXPECT_GT(place, last) << line;
+        last = place;
+    }
+    KivDlgSpinner& timeOut = Spinner("spinnerGenDimSemiAuto");
+    EXPECT_TRUE(KivUserHand::Type(timeOut, "2.9"));
+    EXPECT_EQ(Stored("GenDimSemiAutoTimeOut", 0), 2);
+    EXPECT_EQ(timeOut.GetValue(), 2.0);
+    EXPECT_FALSE(KivUserHand::Type(timeOut, "0"));
+    EXPECT_FALSE(KivUserHand::Type(timeOut, "301"));
+    EXPECT_TRUE(KivUserHand::Type(timeOut, "30 s"));
+    EXPECT_EQ(Stored("GenDimSemiAutoTimeOut", 0), 30);
+}
+
+TEST_F(PageRules, OnlyExactViewsHaveDimensionsToGenerate)
+{
+    for (const int mode : {0, 1, 2, 3, -5}) {
+        OpenOn("int DrwGenerationModeVal = " + std::to_string(mode) + "\n");
+        for (const char* row :
+             {"checkGenDim", "checkGenDimFilter", "checkGenDimAutoPos", "checkGenDimAutoTrans",
+              "checkGenDimAnal", "checkGenDimFromPart", "spinnerGenDimSemiAuto"}) {
+            EXPECT_EQ(Control(row).IsEnabled(), mode == 0) << row;
+            EXPECT_EQ(Control(row).WhyDisabled().IsEmpty(), mode == 0) << row;
+        }
+        // Deliberate.
+        EXPECT_TRUE(Control("checkGenBalloonByInstance").IsEnabled());
+        EXPECT_TRUE(Spinner("spinnerGenDimSemiAuto").GetLabel()->IsEnabled());
+    }
+    const int exact = 0;
+    Repository().WriteSetting("DrwGenerationModeVal", &exact, 1, 0);
+    EXPECT_FALSE(Control("checkGenDim").IsEnabled()) << "the page looks only when it is filled";
+    session->Refill();
+    EXPECT_TRUE(Control("checkGenDim").IsEnabled());
+}
+
+TEST_F(PageRules, StyleFilesComeFromTheDisk)
+{
+    OpenOn("int DrwPreventGVS = 0\nstring DrwGVSXmlTrel = \"Mine.xml\"\n");
+    EXPECT_EQ(Combo("chkGVSXml").GetLineCount(), 0);
+    EXPECT_EQ(Stored("DrwGVSXmlTrel", KivUnicodeString()), "Mine.xml") << "kept though it is not there";
+
+    const std::string missing = (box.root / "missing").string(), file1 = (box.root / "afile").string();
+    box.Write(box.root / "afile" / "generativeparameters", "no directory");
+    for (const char* name : {"Zeta.xml", "alpha.XML", "notes.txt", "Mine.Xml", ".xml", "xml", "Ümlaut.xml"})
+        box.Write(box.root / "site" / "generativeparameters" / name, "");
+    std::filesystem::create_directory(box.root / "site" / "generativeparameters" / "dir.xml");
+    for (int i = 0; i < 5000; ++i)
+        box.Write(box.root / "many" / "generativeparameters" / ("Style" + std::to_string(i) + ".xml"), "");
+    box.Write(box.root / "many" / "generativeparameters" / "Zeta.xml", "");
+    box.SetVariable("KivCollectionStandard", missing + ":" + file1 + ":" + (box.root / "site").string());
+    box.SetVariable("KivDefaultCollectionStandard", (box.root / "many").string());
+    const auto start = std::chrono::steady_clock::now();
+    Open();
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
+    KivDlgCombo& combo = Combo("chkGVSXml");
+    EXPECT_GE(combo.GetLineCount(), 5005);
+    EXPECT_EQ(combo.GetSelect(), -1) << "names differ by their case";
+    KivUnicodeString before, line;
+    int zetas = 0;
+    for (int i = 0; combo.GetLine(line, i); ++i, before = line) {
+        EXPECT_TRUE(i == 0 || before < line) << line.View();
+        zetas += line == "Zeta.xml";
+        EXPECT_NE(line, "notes.txt");
+    }
+    EXPECT_EQ(zetas, 1);
+    EXPECT_TRUE(KivUserHand::Choose(combo, 3));
+    combo.GetLine(line, 3);
+    EXPECT_EQ(Stored("DrwGVSXmlTrel", KivUnicodeString()), line);
+    EXPECT_TRUE(session->Commit().empty());
+
+    // What is chosen already is not written again; and a style is nobody's choice while styles are prevented.
+    Repository().ResetToAdminValues(std::vector<const char*>{"DrwPreventGVS"}.data(), 1);
+    session->Refill();
+    EXPECT_FALSE(combo.IsEnabled());
+    EXPECT_FALSE(combo.WhyDisabled().IsEmpty());
+    EXPECT_GE(combo.GetLineCount(), 5005);
+}
+
+} // namespace
