@@ -8,38 +8,18 @@
 #include "Dialog/KivDlgPushButton.h"
 #include "Dialog/KivDlgRadioButton.h"
 #include "Dialog/KivDlgSpinner.h"
+#include "Dialog/KivHandReach.h"
 #include "Dialog/KivTextCatalogue.h"
 
 #include <algorithm>
 #include <cmath>
 
+using KivHandReach::Done;
+using KivHandReach::Reach;
+using KivHandReach::Refused;
+using KivHandReach::See;
+
 namespace {
-
-KivHandAnswer Done()
-{
-    return {true, {}};
-}
-
-KivHandAnswer Refused(const KivUnicodeString& why)
-{
-    return {false, why};
-}
-
-// Whether a user could see it.
-KivHandAnswer See(const KivDialog& node)
-{
-    if (node.IsCondemned() || !node.IsShown())
-        return Refused(KivTextCatalogue::FrameworkText("HandNotShown"));
-    return Done();
-}
-
-// Whether a user could reach the control at all.
-KivHandAnswer Reach(const KivDialog& control)
-{
-    if (const KivHandAnswer seen = See(control); !seen) return seen;
-    if (!control.IsEnabled()) return Refused(control.WhyDisabled());
-    return Done();
-}
 
 KivHandAnswer Enter(KivDlgSpinner& spinner, double value)
 {
