@@ -13,6 +13,7 @@
 #include "NativePage.h"
 #include "NativeSpinner.h"
 #include "NativeTypeCombo.h"
+#include "NativeViewer.h"
 #include "NativeWeightCombo.h"
 
 #include <QGridLayout>
@@ -41,6 +42,7 @@ constexpr struct {
     {KivComboDashed::Name, &Make<NativeTypeCombo>},
     {KivComboWeight::Name, &Make<NativeWeightCombo>},
     {KivDlgCombo::Name, &Make<NativeCombo>},
+    {Kiv2DViewer::Name, &Make<NativeViewer>},
 };
 
 NativePiece* MakePiece(KivDialog& node, QWidget* parent)

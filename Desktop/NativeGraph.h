@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Viewer/Kiv2DCanvas.h"
+#include "Viewer/Kiv2DViewer.h"
+
+#include <QFont>
+#include <QPalette>
+#include <QPointF>
+#include <QRectF>
+
+class QPainter;
+
+// The picture of a viewer's world in a rectangle of the window: what lies where, and how it is painted in the
+// colours of a theme.
+class NativeGraph {
+public:
+    NativeGraph(const Kiv2DViewer& viewer, const QRectF& area);
+
+    QPointF ToWindow(const Kiv2DPoint& place) const;
+    Kiv2DPoint ToWorld(const QPointF& place) const;
+
+    // How far from the middle of the handle a press still means it, in pixels.
+    static constexpr qreal kReach = 9.0;
+
+    struct Look {
+        QPalette palette;
+        QPalette::ColorGroup group = QPalette::Active; // Disabled: grey
+        QFont font;
+        bool isHeld = false; // the user has the handle in his hand, or could take it
+    };
+    void Paint(QPainter& painter, const Look& look) const;
+
+private:
+    class Canvas;
+
+    const Kiv2DViewer& _viewer;
+    QRectF _area;
+    double _scale; // pixels for a unit of the world
+};
