@@ -27,7 +27,8 @@ constexpr double kFarAway = 1.0e6; // as far out of the window as anything is pa
 
 NativeGraph::NativeGraph(const Kiv2DViewer& viewer, const QRectF& area)
     : _viewer(viewer), _area(area),
-      _scale(std::min(area.width() / viewer.GetWorld().Width(), area.height() / viewer.GetWorld().Height()))
+      _scale(std::min(area.width() / viewer.GetWorld().Width(), area.height() / viewer.GetWorld().Height())),
+      _enlarged(std::max(1.0, std::min(area.width() / viewer.GetWidth(), area.height() / viewer.GetHeight())))
 {}
 
 QPointF NativeGraph::ToWindow(const Kiv2DPoint& place) const
@@ -72,7 +73,8 @@ public:
         const QPointF tip = Sharp(arrow.GetTip());
         const QPointF direction(arrow.GetDirection().x, -arrow.GetDirection().y);
         const qreal asked = std::abs(arrow.GetLength()) * _graph._scale;
-        const qreal length = std::clamp(asked, kLeastHead, std::max(kLeastHead, _graph._area.width()));
+        const qreal least = kLeastHead * _graph._enlarged;
+        const qreal length = std::clamp(asked, least, std::max(least, _graph._area.width()));
         const qreal half = length * std::clamp(arrow.GetRatio(), -1.0, 1.0);
         const QPointF foot = tip - direction * length, side = QPointF(-direction.y(), direction.x()) * half;
         _painter.setPen(Qt::NoPen);
@@ -104,7 +106,7 @@ public:
     {
         QPolygonF points;
         for (const Kiv2DPoint& point : curve.GetPoints()) points << _graph.ToWindow(point);
-        _painter.setPen(QPen(_accent, kThick, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        _painter.setPen(QPen(_accent, kThick * _graph._enlarged, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         _painter.drawPolyline(points);
     }
 
@@ -115,11 +117,11 @@ public:
         if (!manipulator || manipulator->GetPoint() != &point) {
             _painter.setPen(Qt::NoPen);
             _painter.setBrush(_ink);
-            _painter.drawEllipse(middle, kDot, kDot);
+            _painter.drawEllipse(middle, kDot * _graph._enlarged, kDot * _graph._enlarged);
             return;
         }
         // A knob in front of the curve: a rim that contrasts, filled while it can be moved.
-        const qreal radius = _look.isHeld ? kHandleHeld : kHandle;
+        const qreal radius = (_look.isHeld ? kHandleHeld : kHandle) * _graph._enlarged;
         _painter.setPen(Qt::NoPen);
         _painter.setBrush(_surface);
         _painter.drawEllipse(middle, radius + kThick, radius + kThick);

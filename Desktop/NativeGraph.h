@@ -20,7 +20,7 @@ public:
     Kiv2DPoint ToWorld(const QPointF& place) const;
 
     // How far from the middle of the handle a press still means it, in pixels.
-    static constexpr qreal kReach = 9.0;
+    qreal Reach() const { return kReach * _enlarged; }
 
     struct Look {
         QPalette palette;
@@ -32,8 +32,10 @@ public:
 
 private:
     class Canvas;
+    static constexpr qreal kReach = 9.0;
 
     const Kiv2DViewer& _viewer;
     QRectF _area;
-    double _scale; // pixels for a unit of the world
+    double _scale;   // pixels for a unit of the world
+    qreal _enlarged; // the picture, against the size that the viewer asks for; 1 at least
 };

@@ -112,7 +112,7 @@ void NativeViewer::mousePressEvent(QMouseEvent* event)
     const Kiv2DPoint before = TreeNode()->GetActiveManipulator()->GetOrigin();
     // The handle stays where it is under the pointer that takes it; from elsewhere it comes.
     const NativeGraph graph = Graph();
-    const bool isOnHandle = QLineF(graph.ToWindow(before), event->position()).length() <= NativeGraph::kReach;
+    const bool isOnHandle = QLineF(graph.ToWindow(before), event->position()).length() <= graph.Reach();
     const Kiv2DPoint at = isOnHandle ? graph.ToWorld(event->position()) : before;
     _grip = Grip{{before.x - at.x, before.y - at.y}, before};
     setCursor(Qt::ClosedHandCursor);
