@@ -1,6 +1,7 @@
 #include "NativeBuilder.h"
 
 #include "Dialog/KivComboDashed.h"
+#include "Dialog/KivComboSymbol.h"
 #include "Dialog/KivComboWeight.h"
 #include "NativeCheckButton.h"
 #include "NativeColourCombo.h"
@@ -11,7 +12,10 @@
 #include "NativeMergedFrame.h"
 #include "NativePadlock.h"
 #include "NativePage.h"
+#include "NativePushButton.h"
+#include "NativeRadioButton.h"
 #include "NativeSpinner.h"
+#include "NativeSymbolCombo.h"
 #include "NativeTypeCombo.h"
 #include "NativeViewer.h"
 #include "NativeWeightCombo.h"
@@ -34,6 +38,8 @@ constexpr struct {
 } kMakers[] = {
     {KivDlgToolsOptionsFrame::Name, &Make<NativeGroup>},
     {KivDlgCheckButton::Name, &Make<NativeCheckButton>},
+    {KivDlgRadioButton::Name, &Make<NativeRadioButton>},
+    {KivDlgPushButton::Name, &Make<NativePushButton>},
     {KivDlgLabel::Name, &Make<NativeLabel>},
     {KivDlgLock::Name, &Make<NativePadlock>},
     {KivDlgSpinner::Name, &Make<NativeSpinner>},
@@ -41,6 +47,7 @@ constexpr struct {
     {KivComboColor::Name, &Make<NativeColourCombo>},
     {KivComboDashed::Name, &Make<NativeTypeCombo>},
     {KivComboWeight::Name, &Make<NativeWeightCombo>},
+    {KivComboSymbol::Name, &Make<NativeSymbolCombo>},
     {KivDlgCombo::Name, &Make<NativeCombo>},
     {Kiv2DViewer::Name, &Make<NativeViewer>},
 };
@@ -74,7 +81,7 @@ bool FillsColumn(const NativeCell& cell, const NativeGrid& grid)
            });
 }
 
-void Fill(KivDialog& frame, QWidget* surface, NativeGroup* inGroup)
+void FillGrid(KivDialog& frame, QWidget* surface, NativeGroup* inGroup)
 {
     const NativeGrid grid(frame);
     auto* layout = new QGridLayout(surface);
@@ -91,7 +98,7 @@ void Fill(KivDialog& frame, QWidget* surface, NativeGroup* inGroup)
         layout->addWidget(piece->Widget(), cell.row, cell.column, cell.rows, cell.columns,
                           Alignment(attachment));
         if (auto* group = dynamic_cast<NativeGroup*>(piece)) {
-            Fill(*cell.node, group->Content(), group);
+            FillGrid(*cell.node, group->Content(), group);
             layout->setColumnStretch(cell.column + cell.columns - 1, 1);
             hasGroups = true;
         }
@@ -113,7 +120,13 @@ void RefreshAll(const KivDialog& node)
 QWidget* NativeBuilder::Build(KivEditorPage& page, QWidget* parent)
 {
     auto* surface = new NativePage(page, parent);
-    Fill(page, surface, nullptr);
-    RefreshAll(page);
+    Fill(page, *surface);
+    surface->Refresh();
     return surface;
+}
+
+void NativeBuilder::Fill(KivDialog& frame, QWidget& surface)
+{
+    FillGrid(frame, &surface, nullptr);
+    for (const KivDialog* child : frame.Children()) RefreshAll(*child);
 }

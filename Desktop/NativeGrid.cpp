@@ -1,5 +1,6 @@
 #include "NativeGrid.h"
 
+#include "Dialog/KivDlgDialog.h"
 #include "Dialog/KivDlgSpinner.h"
 #include "Dialog/KivDlgToolsOptionsFrame.h"
 
@@ -9,6 +10,14 @@
 namespace {
 
 enum class Axis { Rows, Columns };
+
+// What has cells in a frame's grid: windows of their own are beside it.
+std::vector<KivDialog*> Inhabitants(const KivDialog& frame)
+{
+    std::vector<KivDialog*> children = frame.Children();
+    std::erase_if(children, [](const KivDialog* child) { return child->IsAKindOf(KivDlgDialog::Name); });
+    return children;
+}
 
 struct Span {
     std::size_t first, count;
@@ -33,7 +42,7 @@ std::vector<int> Tracks(const KivDialog& frame, Axis axis)
 {
     std::vector<std::pair<Span, int>> needs;
     std::vector<int> tracks;
-    for (const KivDialog* child : frame.Children()) {
+    for (const KivDialog* child : Inhabitants(frame)) {
         const Span span = SpanOf(*child, axis);
         tracks.resize(std::max(tracks.size(), span.first + span.count), 1);
         if (!NativeGrid::IsMerged(*child)) continue;
@@ -73,7 +82,7 @@ bool NativeGrid::IsMerged(const KivDialog& node)
 void NativeGrid::Place(const KivDialog& frame, int row, int column)
 {
     const std::vector<int> rows = Tracks(frame, Axis::Rows), columns = Tracks(frame, Axis::Columns);
-    for (KivDialog* child : frame.Children()) {
+    for (KivDialog* child : Inhabitants(frame)) {
         const Span down = SpanOf(*child, Axis::Rows), across = SpanOf(*child, Axis::Columns);
         const int childRow = row + Sum(rows, 0, down.first);
         const int childColumn = column + Sum(columns, 0, across.first);

@@ -53,7 +53,8 @@ void DrawPadlock(QPainter& painter, bool locked, QColor ink)
 NativePadlock::NativePadlock(KivDialog& node, QWidget* parent)
     : QAbstractButton(parent), NativePieceFor(node, this)
 {
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    // As high as what it governs.
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Minimum);
     connect(this, &QAbstractButton::clicked, this, [this] { Pressed(); });
 }
 
@@ -95,10 +96,19 @@ void NativePadlock::paintEvent(QPaintEvent*)
     }
     DrawPadlock(painter, IsClosed(), palette().color(QPalette::Active, QPalette::WindowText));
     painter.restore();
+    if (height() > 2 * extent) DrawBar(painter);
     if (!hasFocus()) return;
     QStyleOptionFocusRect option;
     option.initFrom(this);
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+}
+
+// Along the rows that the padlock governs together.
+void NativePadlock::DrawBar(QPainter& painter) const
+{
+    QColor ink = palette().color(QPalette::Active, QPalette::WindowText);
+    ink.setAlphaF(static_cast<float>(kPale));
+    painter.fillRect(QRect(isRightToLeft() ? 0 : width() - 1, 0, 1, height()), ink);
 }
 
 void NativePadlock::keyPressEvent(QKeyEvent* event)

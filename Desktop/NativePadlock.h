@@ -27,4 +27,5 @@ private:
     bool IsClosed() const { return TreeNode() && TreeNode()->IsClosed(); }
     bool IsSwitch() const { return TreeNode() && TreeNode()->IsSwitch(); }
     void Pressed();
+    void DrawBar(QPainter& painter) const;
 };

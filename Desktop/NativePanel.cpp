@@ -29,6 +29,13 @@ NativePanel* NativePanel::Open(QWidget& beside, const QString& name, const QStri
     return panel;
 }
 
+void NativePanel::OpenLongHelp(const QWidget& window)
+{
+    QWidget* field = window.focusWidget();
+    while (field && field != &window && field->whatsThis().isEmpty()) field = field->parentWidget();
+    if (field && field != &window) Open(*field, WindowText("Help"), field->whatsThis(), Copy::NotOffered);
+}
+
 NativePanel::NativePanel(QWidget& beside, const QString& name, const QString& text, Copy copy)
     : QFrame(&beside, Qt::Popup)
 {

@@ -9,6 +9,8 @@ public:
 
     // Deletes itself when it is closed. The name is what a screen reader announces.
     static NativePanel* Open(QWidget& beside, const QString& name, const QString& text, Copy copy);
+    // The long help of the field that has the window's focus; nothing when there is none.
+    static void OpenLongHelp(const QWidget& window);
 
 private:
     NativePanel(QWidget& beside, const QString& name, const QString& text, Copy copy);

@@ -7,6 +7,7 @@ namespace {
 
 constexpr const char* kSize = "Options/Size";
 constexpr const char* kPage = "Options/Page";
+constexpr const char* kWindow = "Options/Window/";
 
 } // namespace
 
@@ -33,4 +34,14 @@ void OptionsMemory::Remember(const QSize& size, const KivString& page) const
     QSettings file(_file, QSettings::IniFormat);
     file.setValue(kSize, size);
     file.setValue(kPage, QString::fromUtf8(page.ConvertToChar()));
+}
+
+QRect OptionsMemory::Window(const QString& name) const
+{
+    return _file.isEmpty() ? QRect() : QSettings(_file, QSettings::IniFormat).value(kWindow + name).toRect();
+}
+
+void OptionsMemory::RememberWindow(const QString& name, const QRect& place) const
+{
+    if (!_file.isEmpty()) QSettings(_file, QSettings::IniFormat).setValue(kWindow + name, place);
 }

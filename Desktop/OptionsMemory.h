@@ -2,11 +2,12 @@
 
 #include "Base/KivString.h"
 
+#include <QRect>
 #include <QSize>
 #include <QString>
 
-// What the options window remembers from one opening to the next: its size, and the last page by the name of
-// its editor. A file that cannot be read or written is as good as none.
+// What the options window remembers from one opening to the next: its size, the last page by the name of
+// its editor, and where the windows of pages stood. A file that cannot be read or written is as good as none.
 class OptionsMemory {
 public:
     // The file; an empty path remembers nothing.
@@ -18,6 +19,10 @@ public:
     QSize Size() const; // invalid when there is none
     KivString Page() const;
     void Remember(const QSize& size, const KivString& page) const;
+
+    // The place of a page's window, by the name of its node; invalid when there is none.
+    QRect Window(const QString& name) const;
+    void RememberWindow(const QString& name, const QRect& place) const;
 
 private:
     QString _file;

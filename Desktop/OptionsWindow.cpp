@@ -6,6 +6,7 @@
 #include "NativeText.h"
 #include "OptionsMessageStrip.h"
 #include "OptionsPageView.h"
+#include "OptionsSubWindows.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -36,7 +37,8 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
           // A note (an icon that nobody has drawn) is nothing that a user can mend.
           if (strip && diagnostic.severity != KivDiagnostic::Severity::Note)
               static_cast<OptionsMessageStrip*>(strip.data())->Add(ToQt(diagnostic.Words()));
-      })
+      }),
+      _windows(std::make_unique<OptionsSubWindows>(_session->Root(), _memory, *this))
 {
     setWindowTitle(WindowText("OptionsTitle"));
     setSizeGripEnabled(true);
@@ -174,11 +176,11 @@ void OptionsWindow::OrderTab()
     last->setFocusPolicy(lastPolicy);
 }
 
-// Enters what is being typed; a refused text keeps the window open.
-bool OptionsWindow::CommitField()
+// Enters what is being typed, here and in the windows of the pages; a refused text keeps all of them open.
+bool OptionsWindow::CommitFields()
 {
     NativeField* field = Field();
-    return !field || field->CommitText();
+    return (!field || field->CommitText()) && _windows->CommitFields();
 }
 
 // The field that has the focus, or null.
@@ -190,13 +192,13 @@ NativeField* OptionsWindow::Field() const
 void OptionsWindow::Refill()
 {
     const NativeField* field = Field();
-    _isRefillDue = field && field->IsTyping();
+    _isRefillDue = (field && field->IsTyping()) || (_windows && _windows->IsTyping());
     if (!_isRefillDue && _session) _session->Refill();
 }
 
 void OptionsWindow::accept()
 {
-    if (!_session || !CommitField()) return;
+    if (!_session || !CommitFields()) return;
     _messages->Clear();
     const std::vector<KivDiagnostic> errors = _session->Commit();
     if (errors.empty()) {
@@ -221,6 +223,7 @@ void OptionsWindow::done(int result)
                                  : _session->Pages()[static_cast<std::size_t>(CurrentPage())].editor);
     hide();
     // Hidden first: nobody has to watch how the pages are taken apart.
+    _windows.reset();
     _session.reset();
     QDialog::done(result);
 }
@@ -234,18 +237,10 @@ void OptionsWindow::Reset()
 void OptionsWindow::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::HelpContents)) {
-        ShowLongHelp();
+        NativePanel::OpenLongHelp(*this);
     } else {
         QDialog::keyPressEvent(event);
     }
-}
-
-void OptionsWindow::ShowLongHelp()
-{
-    QWidget* field = focusWidget();
-    while (field && field != this && field->whatsThis().isEmpty()) field = field->parentWidget();
-    if (field && field != this)
-        NativePanel::Open(*field, WindowText("Help"), field->whatsThis(), NativePanel::Copy::NotOffered);
 }
 
 void OptionsWindow::showEvent(QShowEvent* event)

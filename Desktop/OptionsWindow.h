@@ -11,6 +11,7 @@
 class NativeField;
 class OptionsMessageStrip;
 class OptionsPageView;
+class OptionsSubWindows;
 class QListWidget;
 class QPushButton;
 class QStackedWidget;
@@ -54,10 +55,9 @@ private:
     void Go(int pages);
     void PageChosen(int page);
     void OrderTab();
-    bool CommitField();
+    bool CommitFields();
     NativeField* Field() const;
     void Reset();
-    void ShowLongHelp();
     QSize FreeSize() const;
 
     std::unique_ptr<KivOptionsSession> _session;
@@ -69,5 +69,6 @@ private:
     QPushButton* _cancel = nullptr;
     QPushButton* _reset = nullptr;
     OptionsDiagnostics _diagnostics;
+    std::unique_ptr<OptionsSubWindows> _windows; // null after the end
     bool _isRefillDue = false;
 };

@@ -3,6 +3,7 @@
 #include "OptionsMessageStrip.h"
 #include "OptionsWindow.h"
 #include "TestEditors.h"
+#include "TestWindow.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -124,6 +125,40 @@ TEST_F(Pictures, RefusalsMessagesAndPanelsAreSeen)
         QTest::qWait(10);
         Take(*combo->view()->window(), name);
         combo->hidePopup();
+    }
+}
+
+TEST_F(Pictures, ChoicesPointsAndAWindowOfAPageAreSeen)
+{
+    for (const char* scheme : {"light", "dark"}) {
+        if (*scheme == 'd') QApplication::setPalette(Dark());
+        OptionsWindow window(OpenTestSession(), OptionsMemory(QString()));
+        ASSERT_TRUE(window.ShowPage("TestEditor"));
+        window.resize(window.sizeHint().width(), 900);
+        window.show();
+        KivDialog* frame = window.Session()->FindPage("TestEditor")->frame.Get();
+        static_cast<KivDlgRadioButton*>(frame->FindDialog("radioPoint1"))->SetState(KivDlgChecked, 0);
+        QTest::qWait(10);
+        Take(window, (std::string("choices-") + scheme).c_str());
+        QWidget* group = NativePiece::Of(frame->FindDialog("framePoints"))->Widget();
+        Take(*group, (std::string("choices-2-") + scheme).c_str(), 2.0);
+        auto* combo =
+            static_cast<QComboBox*>(NativePiece::Of(frame->FindDialog("comboSymbol_dialog"))->Widget());
+        combo->showPopup();
+        QTest::qWait(10);
+        Take(*combo->view()->window(), (std::string("symbols-2-") + scheme).c_str(), 2.0);
+        combo->hidePopup();
+        auto* node = new TestWindow(frame);
+        auto* field = NativePiece::Of(node->spinner)->Widget();
+        QWidget* native = NativePiece::Of(node)->Widget();
+        native->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(native));
+        const QImage before = Take(*native, (std::string("window-") + scheme).c_str());
+        QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(field, "20 apples");
+        QTest::keyClick(field, Qt::Key_Return);
+        QTest::qWait(10);
+        EXPECT_NE(Take(*native, (std::string("window-refused-2-") + scheme).c_str(), 2.0), before);
     }
 }
 

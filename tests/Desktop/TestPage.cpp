@@ -38,6 +38,20 @@ KivDlgLabel* TestPage::Label(KivDialog* group, short row, const char* name, cons
     return label;
 }
 
+std::array<KivDlgRadioButton*, 3> TestPage::Choice(short column, const char* name, const KivSettingInfo& info)
+{
+    KivDlgFrame* row = Row(points, 0, column, name, info);
+    auto* inner = Place(row, new KivDlgFrame(row, KivString(name) + "locked"), nullptr, "");
+    const auto button = [&](short line, const char* title) {
+        auto* made = new KivDlgRadioButton(inner, KivString(name) + std::to_string(line).c_str(), 0);
+        made->SetTitle(title);
+        made->SetHelp("How points are drawn.");
+        made->SetGridConstraints(line, 0, 1, 1, KivDlgAttachLeftCentred);
+        return made;
+    };
+    return {button(0, "As in the style"), button(1, "Always a cross"), button(2, "By the kind of element")};
+}
+
 TestPage::TestPage(KivEditorPage& page)
 {
     const KivSettingInfo free;
@@ -108,4 +122,17 @@ TestPage::TestPage(KivEditorPage& page)
         Place(row, new KivDlgEditor(row, "editorFile_dialog", 0), nullptr, "Where symbols are looked for.");
     file->SetText("symbols", 0);
     Label(colours, 5, "labelFile", "Symbol &file:", file);
+
+    points = new KivDlgToolsOptionsFrame(frame, "framePoints", "I_DisplayGrid");
+    points->SetGridConstraints(2, 0, 1, 1, KivDlgAttachAllSides);
+    points->SetTitle("Points");
+    choices = Choice(0, "radioPoint", free);
+    otherChoices = Choice(2, "radioOther", LockedInfo("PointStyle"));
+    otherChoices[1]->SetState(KivDlgChecked, 0);
+    row = Row(points, 1, 1, "comboSymbol", free);
+    symbol = Place(row, new KivComboSymbol(row, "comboSymbol_dialog", 0), nullptr, "Symbol of a point.");
+    Label(points, 1, "labelSymbol", "Point s&ymbol:", symbol);
+    row = Row(points, 2, 0, "pushSettings", free);
+    settings = Place(row, new KivDlgPushButton(row, "pushSettings_dialog", 0), "Point se&ttings…",
+                     "Opens the settings of points.");
 }

@@ -2,14 +2,19 @@
 
 #include "Dialog/KivComboColor.h"
 #include "Dialog/KivComboDashed.h"
+#include "Dialog/KivComboSymbol.h"
 #include "Dialog/KivComboWeight.h"
 #include "Dialog/KivDlgCheckButton.h"
 #include "Dialog/KivDlgEditor.h"
 #include "Dialog/KivDlgLabel.h"
 #include "Dialog/KivDlgLock.h"
+#include "Dialog/KivDlgPushButton.h"
+#include "Dialog/KivDlgRadioButton.h"
 #include "Dialog/KivDlgSpinner.h"
 #include "Dialog/KivDlgToolsOptionsFrame.h"
 #include "Options/KivEditorPage.h"
+
+#include <array>
 
 // A page as the libraries build theirs: groups of rows, each row a frame with a padlock and a control.
 struct TestPage {
@@ -30,7 +35,7 @@ struct TestPage {
         return control;
     }
 
-    KivDlgToolsOptionsFrame *grid, *colours;
+    KivDlgToolsOptionsFrame *grid, *colours, *points;
     KivDlgCheckButton *show, *snap, *distort;
     KivDlgSpinner *horizontal, *vertical, *angle;
     KivComboColor *background, *lockedColour;
@@ -38,4 +43,11 @@ struct TestPage {
     KivComboWeight* weight;
     KivDlgCombo* direction;
     KivDlgEditor* file;
+    std::array<KivDlgRadioButton*, 3> choices, otherChoices; // the others are locked
+    KivComboSymbol* symbol;
+    KivDlgPushButton* settings;
+
+private:
+    // A choice of one for a setting, under one padlock.
+    std::array<KivDlgRadioButton*, 3> Choice(short column, const char* name, const KivSettingInfo& info);
 };
