@@ -1,5 +1,6 @@
 #include "DraftingWindow.h"
 
+#include "DraftingCommands.h"
 #include "DraftingLog.h"
 #include "DraftingMessage.h"
 #include "DraftingText.h"
@@ -51,6 +52,8 @@ void DraftingWindow::BuildMenus()
         close();
     })->setMenuRole(QAction::QuitRole);
 
+    QMenu* const edit = menuBar()->addMenu(DraftingText("MenuEdit"));
+
     QMenu* const view = menuBar()->addMenu(DraftingText("MenuView"));
     add(view, "MenuZoomIn", {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)},
         [this] { _sheet->ZoomIn(); });
@@ -61,6 +64,9 @@ void DraftingWindow::BuildMenus()
     QAction* const tree = findChild<QDockWidget*>("treeDock")->toggleViewAction();
     tree->setText(DraftingText("MenuTree"));
     view->addAction(tree);
+
+    QMenu* const format = menuBar()->addMenu(DraftingText("MenuFormat"));
+    (new DraftingCommands(*this, *_sheet))->AddTo(*edit, *format);
 
     QMenu* const tools = menuBar()->addMenu(DraftingText("MenuTools"));
     add(tools, "MenuOptions", {QKeySequence(Qt::CTRL | Qt::Key_Comma)}, [this] {

@@ -107,8 +107,7 @@ void NativeDialog::keyPressEvent(QKeyEvent* event)
 void NativeDialog::TakePlace()
 {
     const QRect remembered = _memory.Window(objectName());
-    const QScreen* there =
-        remembered.isValid() ? screen()->virtualSiblingAt(remembered.center()) : nullptr;
+    const QScreen* there = remembered.isValid() ? screen()->virtualSiblingAt(remembered.center()) : nullptr;
     QRect place = there ? remembered : PlaceBeside(*parentWidget());
     const int step = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
     const auto others = parentWidget()->findChildren<QDialog*>(objectName(), Qt::FindDirectChildrenOnly);

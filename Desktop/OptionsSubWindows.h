@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Dialog/KivDlgView.h"
 #include "Dialog/KivDialog.h"
+#include "Dialog/KivDlgView.h"
 #include "OptionsMemory.h"
 
 #include <QPointer>

@@ -14,6 +14,8 @@ namespace {
 constexpr double kTextHeight = 5.0;   // mm of paper
 constexpr double kSmallestText = 5.0; // pixels
 constexpr double kDetailMagnification = 1.5;
+constexpr double kDimmed = 0.25;
+constexpr QColor kWorkedOn(0x00, 0x60, 0xa8);
 
 QPen Pen(const QColor& colour, double width = 1.0, Qt::PenStyle style = Qt::SolidLine)
 {
@@ -32,10 +34,11 @@ QPen CentrePen(const QColor& colour)
 
 } // namespace
 
-SheetPicture::SheetPicture(const SheetStyle& style, const SheetCamera& camera, double rotation,
-                           const QString& format)
-    : _style(style), _camera(camera), _rotation(rotation), _format(format), _layout(camera.Sheet()),
-      _colours(style.sheet, style.sheetGraduated), _detailColours(style.detail, style.detailGraduated)
+SheetPicture::SheetPicture(const SheetStyle& style, const SheetLook& look, const SheetCamera& camera,
+                           double rotation, const QString& format)
+    : _style(style), _look(look), _camera(camera), _rotation(rotation), _format(format),
+      _layout(camera.Sheet()), _colours(style.sheet, style.sheetGraduated),
+      _detailColours(style.detail, style.detailGraduated)
 {}
 
 void SheetPicture::Paint(QPainter& painter) const
@@ -44,10 +47,14 @@ void SheetPicture::Paint(QPainter& painter) const
     PaintSurface(painter, sheet, _colours);
     PaintGrid(painter, sheet, _colours);
     painter.setRenderHint(QPainter::Antialiasing);
-    PaintBorder(painter);
+    if (!_look.isBackground) PaintBorder(painter);
+    painter.setOpacity(_look.isBackground ? kDimmed : 1.0);
     PaintView(painter);
     painter.setRenderHint(QPainter::Antialiasing, false);
     PaintDetail(painter);
+    painter.setOpacity(1.0);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (_look.isBackground) PaintBorder(painter);
 }
 
 // A soft shadow, the surface and its edge.
@@ -98,7 +105,7 @@ void SheetPicture::PaintGrid(QPainter& painter, const QRectF& part, const SheetC
 
 void SheetPicture::PaintBorder(QPainter& painter) const
 {
-    const QColor line = _colours.Shade(0.75);
+    const QColor line = _look.isBackground ? _colours.Accent(kWorkedOn) : _colours.Shade(0.75);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(Pen(line, Thick()));
     painter.drawRect(ToWindow(_layout.border));
@@ -142,7 +149,7 @@ void SheetPicture::PaintView(QPainter& painter) const
     painter.setBrush(Qt::NoBrush);
     painter.setPen(Pen(_colours.Veil(0.4), 1.0, Qt::DashLine));
     painter.drawPolygon(ViewFrame());
-    PaintPart(painter, PartTransform(), Thick(), _colours);
+    PaintPart(painter, PartTransform(), PartLine(), _colours);
     PaintDimensions(painter);
     if (_style.axis) PaintAxis(painter);
     painter.restore();
@@ -266,7 +273,7 @@ void SheetPicture::PaintDetail(QPainter& painter) const
               kTextHeight * _layout.viewScale, 0.0, Qt::AlignHCenter | Qt::AlignBottom,
               DraftingText("DetailName"));
     painter.setClipPath(shown, Qt::IntersectClip);
-    PaintPart(painter, toPaper * _camera.Transform(), Thick(), _detailColours);
+    PaintPart(painter, toPaper * _camera.Transform(), PartLine(), _detailColours);
     painter.restore();
 }
 
@@ -326,4 +333,17 @@ QRectF SheetPicture::VisiblePaper(const QRectF& paper) const
 double SheetPicture::Thick() const
 {
     return std::clamp(0.6 * _camera.PixelsPerMm(), 1.4, 8.0);
+}
+
+// Of the three weights none looks like another, whatever the zoom.
+double SheetPicture::PartLine() const
+{
+    switch (_look.line) {
+    case SheetLine::Thin:
+        return 0.5 * Thick();
+    case SheetLine::Thick:
+        return 2.0 * Thick();
+    default:
+        return Thick();
+    }
 }

@@ -3,6 +3,7 @@
 #include "SheetCamera.h"
 #include "SheetColours.h"
 #include "SheetLayout.h"
+#include "SheetLook.h"
 #include "SheetStyle.h"
 
 #include <QPolygonF>
@@ -14,7 +15,8 @@ class QPainter;
 // block.
 class SheetPicture {
 public:
-    SheetPicture(const SheetStyle& style, const SheetCamera& camera, double rotation, const QString& format);
+    SheetPicture(const SheetStyle& style, const SheetLook& look, const SheetCamera& camera, double rotation,
+                 const QString& format);
 
     // Into the window's coordinates.
     void Paint(QPainter& painter) const;
@@ -43,8 +45,10 @@ private:
     QRectF ToWindow(const QRectF& paper) const;
     QRectF VisiblePaper(const QRectF& paper) const;
     double Thick() const;
+    double PartLine() const;
 
     const SheetStyle& _style;
+    const SheetLook& _look;
     const SheetCamera& _camera;
     double _rotation;
     QString _format;

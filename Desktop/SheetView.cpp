@@ -11,6 +11,7 @@
 #include <QAccessible>
 #include <QPainter>
 #include <QtMath>
+#include <utility>
 
 SheetView::SheetView(const SheetSettings& settings, QWidget* parent) : QWidget(parent), _settings(settings)
 {
@@ -45,6 +46,19 @@ void SheetView::SetFormat(const SheetFormat& format, bool isLandscape)
     Moved();
 }
 
+SheetPicture SheetView::Picture() const
+{
+    return {Style(), _look, _camera, _rotation, _format};
+}
+
+void SheetView::SetLook(const SheetLook& look)
+{
+    if (look == _look) return;
+    const bool wasBackground = std::exchange(_look, look).isBackground;
+    if (wasBackground != look.isBackground) SelectView(wasBackground);
+    Redraw();
+}
+
 void SheetView::SetRotation(double degrees)
 {
     const double angle = SheetRotation::Normal(degrees);
@@ -58,7 +72,7 @@ void SheetView::SetRotation(double degrees)
 
 void SheetView::SelectView(bool selected)
 {
-    _selected = selected;
+    _selected = selected && !_look.isBackground;
     ShowCursor();
     update();
 }
@@ -83,7 +97,7 @@ void SheetView::ZoomBy(double factor)
 
 QPointF SheetView::Handle() const
 {
-    return SheetMarkers::HandleAt(SheetPicture(Style(), _camera, _rotation, _format).ViewFrame());
+    return SheetMarkers::HandleAt(Picture().ViewFrame());
 }
 
 // The rulers take their part of the window while they are shown.
@@ -136,7 +150,7 @@ bool SheetView::IsOnHandle(QPointF window) const
 // Of the line from the view's origin to a place in the window; anticlockwise, 0 upwards.
 double SheetView::AngleOf(QPointF window) const
 {
-    const QPointF from = SheetPicture(Style(), _camera, _rotation, _format).ViewCentre();
+    const QPointF from = Picture().ViewCentre();
     return qRadiansToDegrees(std::atan2(from.x() - window.x(), from.y() - window.y()));
 }
 
@@ -163,7 +177,7 @@ void SheetView::PaintLayer()
     QPainter painter(&_layer);
     painter.setFont(font());
     painter.setClipRect(_camera.Area());
-    SheetPicture(Style(), _camera, _rotation, _format).Paint(painter);
+    Picture().Paint(painter);
 }
 
 void SheetView::paintEvent(QPaintEvent*)
@@ -179,7 +193,7 @@ void SheetView::paintEvent(QPaintEvent*)
 
 void SheetView::PaintOverlay(QPainter& painter) const
 {
-    const SheetPicture picture(Style(), _camera, _rotation, _format);
+    const SheetPicture picture = Picture();
     const SheetMarkers markers(palette(), font(), SheetColours(Style().sheet, Style().sheetGraduated));
     if (_selected) {
         using State = SheetMarkers::HandleState;

@@ -2,12 +2,15 @@
 
 #include "SheetCamera.h"
 #include "SheetFormat.h"
+#include "SheetLook.h"
 #include "SheetMarkers.h"
 #include "SheetSettings.h"
 
 #include <QPixmap>
 #include <QWidget>
 #include <optional>
+
+class SheetPicture;
 
 // The window onto the sheet: shows it as the settings say, and lets a hand pan, zoom, point at places and
 // turn the sample view.
@@ -27,6 +30,10 @@ public:
 
     void SetFormat(const SheetFormat& format, bool isLandscape);
     QString FormatName() const { return _format; }
+
+    const SheetLook& Look() const { return _look; }
+    // While the background is shown the view cannot be selected.
+    void SetLook(const SheetLook& look);
 
     // Degrees, anticlockwise, 0 up to 360.
     double Rotation() const { return _rotation; }
@@ -70,6 +77,7 @@ protected:
 private:
     enum class Hand { Free, Panning, Turning };
 
+    SheetPicture Picture() const;
     void Arrange();
     void Redraw();
     void ZoomBy(double factor);
@@ -85,6 +93,7 @@ private:
     const SheetSettings& _settings;
     SheetCamera _camera;
     QString _format;
+    SheetLook _look;
     double _rotation = 0.0;
     bool _selected = true;
     bool _showsFocus = false; // for those who move by the keyboard

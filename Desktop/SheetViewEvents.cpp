@@ -77,7 +77,7 @@ void SheetView::mousePressEvent(QMouseEvent* event)
         _gripAngle = AngleOf(at) - _rotation;
         _angleBefore = _rotation;
     } else if (event->button() == Qt::LeftButton) {
-        const QPolygonF frame = SheetPicture(Style(), _camera, _rotation, _format).ViewFrame();
+        const QPolygonF frame = Picture().ViewFrame();
         SelectView(frame.containsPoint(at, Qt::OddEvenFill));
     }
     ShowCursor();

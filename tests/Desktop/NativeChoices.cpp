@@ -27,7 +27,8 @@ TEST_F(NativeChoices, ExcludeEachOtherOnlyAmongTheirOwn)
     EXPECT_EQ(Shown(), "-x-1");
     QTest::mouseClick(Radio(1), Qt::LeftButton, {}, QPoint(8, Radio(1)->height() / 2));
     EXPECT_EQ(Shown(), "-x-1") << "a second click takes nothing back";
-    EXPECT_EQ(tree.otherChoices[1]->GetState(), KivDlgChecked) << "natively a neighbour, but of another choice";
+    EXPECT_EQ(tree.otherChoices[1]->GetState(), KivDlgChecked)
+        << "natively a neighbour, but of another choice";
     tree.choices[2]->SetState(KivDlgChecked, 0);
     EXPECT_EQ(Shown(), "--x2");
     tree.choices[2]->SetState(KivDlgUnchecked, 0);
@@ -38,7 +39,8 @@ TEST_F(NativeChoices, ExcludeEachOtherOnlyAmongTheirOwn)
     for (KivDlgRadioButton* locked : tree.otherChoices) {
         auto* button = static_cast<QAbstractButton*>(WidgetOf(locked));
         QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
-        EXPECT_EQ(button->accessibleDescription().toStdString(), LockOf(locked->GetParentDialog())->GetReason().View());
+        EXPECT_EQ(button->accessibleDescription().toStdString(),
+                  LockOf(locked->GetParentDialog())->GetReason().View());
     }
     EXPECT_EQ(tree.otherChoices[1]->GetState(), KivDlgChecked);
 }
@@ -80,8 +82,8 @@ TEST_F(NativeChoices, TabEntersAChoiceOnce)
     tree.choices[1]->SetState(KivDlgChecked, 0);
     WidgetOf(tree.file)->setFocus();
     // In reading order: the padlock of the choice beside it stands at the height of the first line.
-    for (QWidget* next : {WidgetOf(LockOf(tree.otherChoices[0]->GetParentDialog())), WidgetOf(tree.choices[1]),
-                          WidgetOf(tree.symbol)}) {
+    for (QWidget* next : {WidgetOf(LockOf(tree.otherChoices[0]->GetParentDialog())),
+                          WidgetOf(tree.choices[1]), WidgetOf(tree.symbol)}) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         ASSERT_EQ(QApplication::focusWidget(), next) << next->objectName().toStdString();
     }

@@ -67,7 +67,10 @@ public:
         return static_cast<NativeDialog*>(NativePiece::Of(node)->Widget());
     }
     TestWindow* Node() { return opener->made.back().Get(); }
-    NativeSpinner* Spinner() { return static_cast<NativeSpinner*>(NativePiece::Of(Node()->spinner)->Widget()); }
+    NativeSpinner* Spinner()
+    {
+        return static_cast<NativeSpinner*>(NativePiece::Of(Node()->spinner)->Widget());
+    }
     void TypeOver(const char* text)
     {
         Spinner()->setFocus();

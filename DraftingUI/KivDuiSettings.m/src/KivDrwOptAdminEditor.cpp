@@ -1,6 +1,6 @@
 #include "KivDrwOptAdminEditor.h"
 
-#include "Command/KivCommandHeader.h"
+#include "KivDrwCommandAvailability.h"
 #include "KivDrwSettingController.h"
 #include "KivIDrwDraftingSettingAtt.h"
 #include "Options/KivEditorPage.h"
@@ -8,31 +8,6 @@
 
 #include <iterator>
 #include <new>
-
-namespace {
-
-using Reader = HRESULT (KivIDrwDraftingSettingAtt::*)(unsigned char&);
-
-// Which attribute, when set, makes which command unavailable.
-constexpr struct {
-    Reader attribute;
-    const char* command;
-} kCommands[] = {
-    {&KivIDrwDraftingSettingAtt::GetLockUserDefault, "DrwStyle"},
-    {&KivIDrwDraftingSettingAtt::GetPreventSetAsDefault, "DrwSetAsDefault"},
-    {&KivIDrwDraftingSettingAtt::GetPreventSetAsDefault, "DrwResetDefaults"},
-    {&KivIDrwDraftingSettingAtt::GetPreventBackgroundAccess, "KivDrwEditFrame"},
-};
-
-void Apply(bool prevented, const char* command)
-{
-    KivCommandHeader* header = KivCommandHeader::GetHeaderFromList(command, 0);
-    if (!header) return;
-    if (prevented && header->IsAvailable()) header->BecomeUnavailable();
-    if (!prevented && !header->IsAvailable()) header->BecomeAvailable();
-}
-
-} // namespace
 
 KivDrwOptAdminEditor::KivDrwOptAdminEditor() : _controller(KivDrwSettingController<KivIASettingController>())
 {}
@@ -56,11 +31,7 @@ void KivDrwOptAdminEditor::CommitModification(KivSettingRepository*)
     const KivVar<KivIDrwDraftingSettingAtt> attributes = KivDrwSettingController<KivIDrwDraftingSettingAtt>();
     // Deliberate: without the attributes nothing is saved either.
     if (!attributes) return;
-    for (const auto& [attribute, command] : kCommands) {
-        unsigned char prevented = 0;
-        (attributes.Get()->*attribute)(prevented);
-        Apply(prevented != 0, command);
-    }
+    KivDrwCommandAvailability::Apply(*attributes.Get());
     if (_controller) _controller->SaveRepository();
 }
 

@@ -1,0 +1,12 @@
+#pragma once
+
+class KivIDrwDraftingSettingAtt;
+
+// Which commands of the drafting workbench the administrator has switched off: the host applies it at its
+// start, the Administration tab when it commits.
+class KivDrwCommandAvailability {
+public:
+    // Makes every declared command that the attributes govern available or unavailable, as they say. An
+    // attribute that cannot be read prevents nothing.
+    static void Apply(KivIDrwDraftingSettingAtt& attributes);
+};
