@@ -19,18 +19,16 @@ constexpr int kSaidFor = 5000; // ms
 constexpr struct {
     SheetLine line;
     const char* text;
-} kStyles[] = {{SheetLine::Standard, "StyleStandard"},
-               {SheetLine::Thin, "StyleThin"},
-               {SheetLine::Thick, "StyleThick"}};
+} kStyles[] = {
+    {SheetLine::Standard, "StyleStandard"}, {SheetLine::Thin, "StyleThin"}, {SheetLine::Thick, "StyleThick"}};
 
 // Later only the Administration tab switches commands, when it commits.
 void ApplySettings()
 {
     void* found = nullptr;
     KivInstantiateComponent("KivDrwDraftingSettingCtrl", KivIDrwDraftingSettingAtt::ClassId(), &found);
-    const auto attributes =
-        KivVar<KivIDrwDraftingSettingAtt>::Adopt(static_cast<KivIDrwDraftingSettingAtt*>(
-            static_cast<KivBaseUnknown*>(found)));
+    const auto attributes = KivVar<KivIDrwDraftingSettingAtt>::Adopt(
+        static_cast<KivIDrwDraftingSettingAtt*>(static_cast<KivBaseUnknown*>(found)));
     if (attributes) KivDrwCommandAvailability::Apply(*attributes.Get());
 }
 

@@ -27,7 +27,8 @@ constexpr int kLinesHigh = 7;
 
 NativeDialog::NativeDialog(KivDialog& node, const OptionsMemory& memory, QWidget* owner)
     : QDialog(owner), NativePieceFor(node, this), _memory(memory), _area(new QScrollArea(this)),
-      _buttons(new QDialogButtonBox(this))
+      _buttons(new QDialogButtonBox(this)),
+      _close(_buttons->addButton(WindowText("Close"), QDialogButtonBox::RejectRole))
 {
     setSizeGripEnabled(true);
     _area->setFrameShape(QFrame::NoFrame);
@@ -37,11 +38,10 @@ NativeDialog::NativeDialog(KivDialog& node, const OptionsMemory& memory, QWidget
     NativeBuilder::Fill(node, *surface);
     _area->setWidget(surface);
 
-    QPushButton* close = _buttons->addButton(WindowText("Close"), QDialogButtonBox::RejectRole);
-    close->setAutoDefault(false);
+    _close->setAutoDefault(false);
     // A click keeps the focus in the field whose text it enters, so that a refused one is not lost.
-    close->setFocusPolicy(Qt::TabFocus);
-    connect(close, &QPushButton::clicked, this, [this] { Close(Way::ByButton); });
+    _close->setFocusPolicy(Qt::TabFocus);
+    connect(_close, &QPushButton::clicked, this, [this] { Close(Way::ByButton); });
 
     auto* all = new QVBoxLayout(this);
     all->addWidget(_area, 1);
@@ -97,6 +97,8 @@ void NativeDialog::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::HelpContents)) {
         NativePanel::OpenLongHelp(*this);
+    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        if (_close->hasFocus()) _close->click();
     } else {
         QDialog::keyPressEvent(event);
     }

@@ -8,6 +8,7 @@
 
 class NativeField;
 class QDialogButtonBox;
+class QPushButton;
 class QScrollArea;
 
 // A window of its own within the options. Its user can only ask for its end: it disappears when its node is
@@ -42,4 +43,5 @@ private:
     OptionsMemory _memory;
     QScrollArea* _area;
     QDialogButtonBox* _buttons;
+    QPushButton* _close;
 };

@@ -153,6 +153,10 @@ TEST_F(OptionsSubWindow, ClosingEntersWhatWasTyped)
     TypeOver("7");
     QTest::mouseClick(CloseButton(), Qt::LeftButton);
     EXPECT_EQ(TestWindow::stored, 0.007);
+    Press();
+    CloseButton()->setFocus();
+    QTest::keyClick(CloseButton(), Qt::Key_Return);
+    EXPECT_EQ(TestWindow::closed, "BB") << "where the button has the focus Enter presses it";
 }
 
 TEST_F(OptionsSubWindow, TheEndOfTheOptionsEndsItToo)

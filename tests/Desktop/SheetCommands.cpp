@@ -1,6 +1,7 @@
 #include "Command/KivCommandHeader.h"
 #include "Component/KivMetaClass.h"
 #include "DraftingCommands.h"
+#include "DraftingStart.h"
 #include "KivDrwDraftingSettings.h"
 #include "KivDrwSketcherSettings.h"
 #include "SheetSettings.h"
@@ -124,6 +125,8 @@ TEST_F(SheetCommands, TheBackgroundTakesTheViewAwayUntilItIsLeft)
 
 TEST_F(SheetCommands, StartAsTheSettingsSay)
 {
+    std::ostringstream out, err;
+    ASSERT_FALSE(DraftingStart::Prepare(CommandLine::Parse({}), out, err)) << err.str();
     if (!KivMetaClass::Find("KivDrwDraftingSettingCtrl")) GTEST_SKIP() << "its library is not loaded";
     for (const auto& [key, greyed] : {std::pair{"DrwOnlyUserDefault", "Style"},
                                       {"DrwAllowUserDefault", "Set as Default"},
@@ -135,9 +138,10 @@ TEST_F(SheetCommands, StartAsTheSettingsSay)
         const Window window(settings, memory);
         EXPECT_FALSE(window.Entry(greyed)->isEnabled()) << key;
         for (const auto& [text, command] : kEntries)
-            EXPECT_EQ(window.Entry(text)->isEnabled(), std::string_view(key) == "DrwAllowUserDefault"
-                                                           ? std::string_view(text).find("Default") == std::string_view::npos
-                                                           : std::string_view(text) != greyed)
+            EXPECT_EQ(window.Entry(text)->isEnabled(),
+                      std::string_view(key) == "DrwAllowUserDefault"
+                          ? std::string_view(text).find("Default") == std::string_view::npos
+                          : std::string_view(text) != greyed)
                 << key << " " << text;
     }
 }

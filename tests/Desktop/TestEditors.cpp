@@ -50,7 +50,7 @@ KIV_IMPLEMENT_TIE(TIETestEditorFactory, CreateTIETestEditorFactory, ITestEditorF
 
 void TestEditor::SetUserSettingsValue(KivSettingRepository*)
 {
-    tree->horizontal->SetValue(stored, 0);
+    if (page) tree->horizontal->SetValue(stored, 0);
 }
 
 void TestEditor::CommitModification(KivSettingRepository*)

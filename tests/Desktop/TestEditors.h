@@ -15,14 +15,19 @@ public:
     static constexpr const char* Name = "TestEditor";
     static constexpr const char* Framework = "KivDesktop";
 
-    void BuildEditor(KivEditorPage* page) override { tree = std::make_unique<TestPage>(*page); }
+    void BuildEditor(KivEditorPage* onPage) override
+    {
+        page = onPage;
+        tree = std::make_unique<TestPage>(*onPage);
+    }
     void SetUserSettingsValue(KivSettingRepository*) override;
     void ResetUserSettingsValue() override { stored = 0.05; }
     void CommitModification(KivSettingRepository*) override;
     void CancelModification(KivSettingRepository*) override { log.push_back("cancel"); }
     void CloseWindowFromEditor() override { log.push_back("close"); }
 
-    std::unique_ptr<TestPage> tree;
+    KivWeakPtr<KivEditorPage> page;
+    std::unique_ptr<TestPage> tree; // as good as the page
 
     // What happened to all editors, and what the next commits say.
     static inline auto& log = *new std::vector<std::string>;
