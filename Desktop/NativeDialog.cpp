@@ -27,8 +27,7 @@ constexpr int kLinesHigh = 7;
 
 NativeDialog::NativeDialog(KivDialog& node, const OptionsMemory& memory, QWidget* owner)
     : QDialog(owner), NativePieceFor(node, this), _memory(memory), _area(new QScrollArea(this)),
-      _buttons(new QDialogButtonBox(this)),
-      _close(_buttons->addButton(WindowText("Close"), QDialogButtonBox::RejectRole))
+      _buttons(new QDialogButtonBox(this))
 {
     setSizeGripEnabled(true);
     _area->setFrameShape(QFrame::NoFrame);
@@ -38,6 +37,8 @@ NativeDialog::NativeDialog(KivDialog& node, const OptionsMemory& memory, QWidget
     NativeBuilder::Fill(node, *surface);
     _area->setWidget(surface);
 
+    // After the content, as Tab goes.
+    _close = _buttons->addButton(WindowText("Close"), QDialogButtonBox::RejectRole);
     _close->setAutoDefault(false);
     // A click keeps the focus in the field whose text it enters, so that a refused one is not lost.
     _close->setFocusPolicy(Qt::TabFocus);

@@ -43,5 +43,5 @@ private:
     OptionsMemory _memory;
     QScrollArea* _area;
     QDialogButtonBox* _buttons;
-    QPushButton* _close;
+    QPushButton* _close = nullptr;
 };

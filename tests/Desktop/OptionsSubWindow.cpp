@@ -153,6 +153,7 @@ TEST_F(OptionsSubWindow, ClosingEntersWhatWasTyped)
     TypeOver("7");
     QTest::mouseClick(CloseButton(), Qt::LeftButton);
     EXPECT_EQ(TestWindow::stored, 0.007);
+    QTest::qWait(1);
     Press();
     CloseButton()->setFocus();
     QTest::keyClick(CloseButton(), Qt::Key_Return);
