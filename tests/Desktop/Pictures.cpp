@@ -139,6 +139,11 @@ TEST_F(Pictures, ChoicesPointsAndAWindowOfAPageAreSeen)
         KivDialog* frame = window.Session()->FindPage("TestEditor")->frame.Get();
         static_cast<KivDlgRadioButton*>(frame->FindDialog("radioPoint1"))->SetState(KivDlgChecked, 0);
         QTest::qWait(10);
+        if (*scheme == 'd') {
+            KivSettingInfo administrators;
+            administrators.canLock = administrators.lockedHere = true;
+            static_cast<KivDlgLock*>(frame->FindDialog("radioPointLock"))->SetInfo(administrators);
+        }
         Take(window, (std::string("choices-") + scheme).c_str());
         QWidget* group = NativePiece::Of(frame->FindDialog("framePoints"))->Widget();
         Take(*group, (std::string("choices-2-") + scheme).c_str(), 2.0);
@@ -153,6 +158,7 @@ TEST_F(Pictures, ChoicesPointsAndAWindowOfAPageAreSeen)
         QWidget* native = NativePiece::Of(node)->Widget();
         native->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(native));
+        QTest::qWait(10);
         const QImage before = Take(*native, (std::string("window-") + scheme).c_str());
         QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
         QTest::keyClicks(field, "20 apples");
