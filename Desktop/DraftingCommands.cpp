@@ -1,9 +1,9 @@
 #include "DraftingCommands.h"
 
 #include "Command/KivCommandHeader.h"
-#include "Component/KivVar.h"
 #include "DraftingText.h"
 #include "KivDrwCommandAvailability.h"
+#include "KivDrwSettingController.h"
 #include "KivIDrwDraftingSettingAtt.h"
 #include "SheetView.h"
 
@@ -25,10 +25,7 @@ constexpr struct {
 // Later only the Administration tab switches commands, when it commits.
 void ApplySettings()
 {
-    void* found = nullptr;
-    KivInstantiateComponent("KivDrwDraftingSettingCtrl", KivIDrwDraftingSettingAtt::ClassId(), &found);
-    const auto attributes = KivVar<KivIDrwDraftingSettingAtt>::Adopt(
-        static_cast<KivIDrwDraftingSettingAtt*>(static_cast<KivBaseUnknown*>(found)));
+    const auto attributes = KivDrwSettingController<KivIDrwDraftingSettingAtt>();
     if (attributes) KivDrwCommandAvailability::Apply(*attributes.Get());
 }
 

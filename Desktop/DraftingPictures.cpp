@@ -1,7 +1,10 @@
 #include "DraftingPictures.h"
 
+#include "Dialog/KivDlgPushButton.h"
+#include "Dialog/KivUserHand.h"
 #include "DraftingText.h"
 #include "DraftingWindow.h"
+#include "NativeDialog.h"
 #include "NativeText.h"
 #include "OptionsPageView.h"
 #include "OptionsWindow.h"
@@ -24,6 +27,7 @@ QString FileName(const KivUnicodeString& title)
         else if (!name.isEmpty() && !name.endsWith('-'))
             name += '-';
     }
+    while (name.endsWith('-')) name.chop(1);
     return name;
 }
 
@@ -36,6 +40,15 @@ void ShowWholePage(OptionsWindow& options)
     if (!page.widget()) return;
     const QSize missing = page.widget()->sizeHint() - page.viewport()->size();
     options.resize(options.size() + missing.expandedTo(QSize(0, 0)).boundedTo(QSize(1200, 2400)));
+}
+
+void CollectButtons(const KivDialog& node, std::vector<KivDlgPushButton*>& buttons)
+{
+    for (KivDialog* child : node.Children()) {
+        if (child->IsAKindOf(KivDlgPushButton::Name))
+            buttons.push_back(static_cast<KivDlgPushButton*>(child));
+        CollectButtons(*child, buttons);
+    }
 }
 
 } // namespace
@@ -62,9 +75,27 @@ bool DraftingPictures::Write(DraftingWindow& window, const KivUnicodeString& pag
         if (only && &shown != only) continue;
         options.ShowPage(KivUnicodeString(shown.editor));
         ShowWholePage(options);
-        isSaved = isSaved && Save(options, "options-" + FileName(shown.title));
+        const QString name = "options-" + FileName(shown.title);
+        isSaved = isSaved && Save(options, name) && WriteWindows(options, *shown.frame, name);
     }
     options.reject();
+    return isSaved;
+}
+
+bool DraftingPictures::WriteWindows(const OptionsWindow& options, const KivDialog& page, const QString& name)
+{
+    std::vector<KivDlgPushButton*> buttons;
+    CollectButtons(page, buttons);
+    bool isSaved = true;
+    for (KivDlgPushButton* button : buttons) {
+        if (!KivUserHand::Press(*button)) continue;
+        for (NativeDialog* window : options.findChildren<NativeDialog*>()) {
+            if (!window->isVisible()) continue;
+            isSaved = isSaved && Save(*window, name + "-" + FileName(window->Node()->GetTitle()));
+            window->close();
+        }
+        KivCommand::DrainDelayedDestruction();
+    }
     return isSaved;
 }
 

@@ -62,6 +62,12 @@ QPixmap IconStore::Picture(const KivString& name, const QSize& pixels, const QCo
     return picture;
 }
 
+QSize IconStore::Size(const KivString& name)
+{
+    const QByteArray& drawing = Drawing(name);
+    return drawing.isEmpty() ? QSize() : QSvgRenderer(drawing).defaultSize();
+}
+
 const QByteArray& IconStore::Drawing(const KivString& name)
 {
     const QString key = QString::fromUtf8(name.ConvertToChar());

@@ -19,6 +19,8 @@ public:
     QIcon Icon(const KivString& name);
     // The same as a picture of so many device pixels, in one colour; null likewise.
     QPixmap Picture(const KivString& name, const QSize& pixels, const QColor& ink);
+    // The size that it is drawn for, at scale 1; empty likewise.
+    QSize Size(const KivString& name);
 
 private:
     const QByteArray& Drawing(const KivString& name);

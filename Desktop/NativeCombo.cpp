@@ -28,7 +28,7 @@ void NativeCombo::ShowNode()
     }
     setCurrentIndex(TreeNode()->GetSelect());
 
-    const int width = TreeNode()->GetVisibleTextWidth(), height = TreeNode()->GetVisibleTextHeight();
+    const int width = VisibleWidth(), height = TreeNode()->GetVisibleTextHeight();
     setMinimumContentsLength(width);
     setSizeAdjustPolicy(width > 0 ? AdjustToMinimumContentsLengthWithIcon : AdjustToContents);
     if (height > 0) setMaxVisibleItems(height);

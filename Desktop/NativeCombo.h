@@ -16,6 +16,8 @@ protected:
 
     // What is drawn before a line's text; nothing unless a kind of combo has something to draw.
     virtual QIcon LineIcon(int) const { return {}; }
+    // Characters to make room for; 0: as the texts need it.
+    virtual int VisibleWidth() const { return TreeNode()->GetVisibleTextWidth(); }
     // The tree's lines, and what a kind of combo offers in the window alone.
     virtual QStringList Lines() const;
     // The user has chosen a line.

@@ -5,6 +5,7 @@
 #include "Dialog/KivDlgToolsOptionsFrame.h"
 
 #include <algorithm>
+#include <limits>
 #include <numeric>
 
 namespace {
@@ -42,9 +43,11 @@ std::vector<int> Tracks(const KivDialog& frame, Axis axis)
 {
     std::vector<std::pair<Span, int>> needs;
     std::vector<int> tracks;
+    std::size_t first = std::numeric_limits<std::size_t>::max();
     for (const KivDialog* child : Inhabitants(frame)) {
         const Span span = SpanOf(*child, axis);
         tracks.resize(std::max(tracks.size(), span.first + span.count), 1);
+        first = std::min(first, span.first);
         if (!NativeGrid::IsMerged(*child)) continue;
         const std::vector<int> inner = Tracks(*child, axis);
         needs.emplace_back(span, Sum(inner, 0, inner.size()));
@@ -56,6 +59,9 @@ std::vector<int> Tracks(const KivDialog& frame, Axis axis)
         const int lacking = need - Sum(tracks, span.first, span.count);
         if (lacking > 0) tracks[span.first + span.count - 1] += lacking;
     }
+    // Columns before the first control take no room, else it would be out of line with those of other frames.
+    // Empty rows do: pages keep groups apart by them.
+    if (axis == Axis::Columns && first < tracks.size()) std::fill_n(tracks.begin(), first, 0);
     return tracks;
 }
 

@@ -1,7 +1,11 @@
 #include "NativeLabel.h"
 
 #include "Dialog/KivDlgLock.h"
+#include "IconStore.h"
 #include "NativeText.h"
+
+#include <QPainter>
+#include <QStyle>
 
 namespace {
 
@@ -28,4 +32,25 @@ void NativeLabel::ShowNode()
     // Without a field to lead to, the mark of the letter would be shown as it stands.
     setTextFormat(Qt::PlainText);
     setText(ToQt(field ? TreeNode()->GetTitle() : TreeNode()->GetSpokenTitle()));
+    updateGeometry();
+    update();
+}
+
+QSize NativeLabel::sizeHint() const
+{
+    return Icon().IsEmpty() ? QLabel::sizeHint() : IconStore::Shared().Size(Icon());
+}
+
+void NativeLabel::paintEvent(QPaintEvent* event)
+{
+    if (Icon().IsEmpty()) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    const QSize size = sizeHint();
+    const QPixmap picture = IconStore::Shared().Picture(Icon(), (QSizeF(size) * devicePixelRatioF()).toSize(),
+                                                        palette().color(QPalette::WindowText));
+    const QRect place =
+        style()->alignedRect(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter, size, rect());
+    if (!picture.isNull()) QPainter(this).drawPixmap(place, picture);
 }

@@ -1,5 +1,6 @@
 #include "NativePadlock.h"
 
+#include "Dialog/KivDlgFrame.h"
 #include "Dialog/KivUserHand.h"
 #include "NativePanel.h"
 #include "NativeText.h"
@@ -96,11 +97,18 @@ void NativePadlock::paintEvent(QPaintEvent*)
     }
     DrawPadlock(painter, IsClosed(), palette().color(QPalette::Active, QPalette::WindowText));
     painter.restore();
-    if (height() > 2 * extent) DrawBar(painter);
+    if (GovernsRows()) DrawBar(painter);
     if (!hasFocus()) return;
     QStyleOptionFocusRect option;
     option.initFrom(this);
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+}
+
+// Whether a frame of several controls is under it, not just one control.
+bool NativePadlock::GovernsRows() const
+{
+    const KivDialog* governed = TreeNode() ? TreeNode()->GetAssociatedDialog() : nullptr;
+    return governed && governed->IsAKindOf(KivDlgFrame::Name);
 }
 
 // Along the rows that the padlock governs together.

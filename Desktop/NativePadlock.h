@@ -26,6 +26,7 @@ protected:
 private:
     bool IsClosed() const { return TreeNode() && TreeNode()->IsClosed(); }
     bool IsSwitch() const { return TreeNode() && TreeNode()->IsSwitch(); }
+    bool GovernsRows() const;
     void Pressed();
     void DrawBar(QPainter& painter) const;
 };

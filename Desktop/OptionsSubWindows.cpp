@@ -36,10 +36,8 @@ bool OptionsSubWindows::CommitFields()
     });
 }
 
-bool OptionsSubWindows::IsTyping() const
+bool OptionsSubWindows::IsOpen() const
 {
-    return std::any_of(_windows.begin(), _windows.end(), [](const QPointer<NativeDialog>& window) {
-        const NativeField* field = window ? window->Field() : nullptr;
-        return field && field->IsTyping();
-    });
+    return std::any_of(_windows.begin(), _windows.end(),
+                       [](const QPointer<NativeDialog>& window) { return window && window->isVisible(); });
 }

@@ -147,6 +147,7 @@ OptionsPageView& OptionsWindow::PageView(int page) const
 void OptionsWindow::PageChosen(int page)
 {
     if (page < 0 || !_session) return;
+    if (!_windows || !_windows->IsOpen()) _session->Refill(_session->Pages()[static_cast<std::size_t>(page)]);
     PageView(page).Build();
     _stack->setCurrentIndex(page);
     const QString title = ToQt(_session->Pages()[static_cast<std::size_t>(page)].title);
@@ -192,7 +193,7 @@ NativeField* OptionsWindow::Field() const
 void OptionsWindow::Refill()
 {
     const NativeField* field = Field();
-    _isRefillDue = (field && field->IsTyping()) || (_windows && _windows->IsTyping());
+    _isRefillDue = (field && field->IsTyping()) || (_windows && _windows->IsOpen());
     if (!_isRefillDue && _session) _session->Refill();
 }
 

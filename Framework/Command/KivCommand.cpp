@@ -12,6 +12,12 @@ std::vector<KivWeakPtr<KivCommand>>& Condemned()
     return condemned;
 }
 
+std::function<void(KivCommand&)>& DeliveryProbe()
+{
+    static auto& probe = *new std::function<void(KivCommand&)>;
+    return probe;
+}
+
 } // namespace
 
 void KivWeakLink::Watch(KivCommand* target)
@@ -68,7 +74,8 @@ void KivCommand::SendNotification(KivNotification* notification)
         if (!next) break;
         done = next->id;
         const Subscription subscription = *next;
-        if (!Deliver(subscription, notification)) break;
+        if (DeliveryProbe()) DeliveryProbe()(*this);
+        if (!self || !Deliver(subscription, notification)) break;
     }
     --notificationsUnderWay;
 }
@@ -81,6 +88,11 @@ bool KivCommand::Deliver(const Subscription& subscription, KivNotification* noti
     if (subscriber && !subscriber->IsCondemned())
         (subscriber->*subscription.method)(this, notification, subscription.data);
     return true;
+}
+
+void KivCommand::SetDeliveryProbe(std::function<void(KivCommand&)> probe)
+{
+    DeliveryProbe() = std::move(probe);
 }
 
 void KivCommand::RequestDelayedDestruction()

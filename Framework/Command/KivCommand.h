@@ -5,6 +5,7 @@
 #include "Command/KivWeakPtr.h"
 #include "Component/KivClass.h"
 
+#include <functional>
 #include <vector>
 
 using KivCallback = unsigned int;
@@ -36,6 +37,10 @@ public:
     // Calls every subscriber, in the order of subscription. Nothing is sent by or to what waits for its
     // destruction.
     void SendNotification(KivNotification* notification);
+
+    // For tests: called before a notification is delivered to each subscriber, with its sender; it may
+    // destroy anything. An empty function takes it away.
+    static void SetDeliveryProbe(std::function<void(KivCommand& from)> probe);
 
     // Destroys this object once the current event is over (DrainDelayedDestruction); at once it stops sending
     // and receiving.

@@ -41,6 +41,14 @@ void KivDlgLock::AddAssociatedDialog(KivDialog* dialog)
     dialog->EnablingChanged();
 }
 
+KivDialog* KivDlgLock::GetAssociatedDialog() const
+{
+    for (const KivWeakPtr<KivDialog>& dialog : _associated) {
+        if (dialog) return dialog.Get();
+    }
+    return nullptr;
+}
+
 void KivDlgLock::GetAssociatedDialogSensitivity(unsigned long& sensitivity) const
 {
     sensitivity = IsLocked() ? KivDlgDisabled : KivDlgEnabled;

@@ -28,6 +28,8 @@ public:
 
     // From now on that object is disabled while the setting is locked.
     void AddAssociatedDialog(KivDialog* dialog);
+    // The first of those objects that still exists; null when there is none.
+    KivDialog* GetAssociatedDialog() const;
     // KivDlgDisabled when the setting is locked, else KivDlgEnabled; what the page asks for does not count.
     void GetAssociatedDialogSensitivity(unsigned long& sensitivity) const;
 

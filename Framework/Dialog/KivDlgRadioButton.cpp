@@ -1,5 +1,7 @@
 #include "Dialog/KivDlgRadioButton.h"
 
+#include <algorithm>
+
 std::vector<KivDlgRadioButton*> KivDlgRadioButton::Choices() const
 {
     std::vector<KivDlgRadioButton*> choices;
@@ -7,6 +9,10 @@ std::vector<KivDlgRadioButton*> KivDlgRadioButton::Choices() const
     for (KivDialog* sibling : GetParentDialog()->Children()) {
         if (sibling->IsAKindOf(Name)) choices.push_back(static_cast<KivDlgRadioButton*>(sibling));
     }
+    std::stable_sort(choices.begin(), choices.end(), [](const KivDialog* a, const KivDialog* b) {
+        const GridConstraints &first = a->GetGridConstraints(), &second = b->GetGridConstraints();
+        return first.row != second.row ? first.row < second.row : first.column < second.column;
+    });
     return choices;
 }
 

@@ -16,7 +16,7 @@ public:
     void SetState(unsigned long state, int notify);
     unsigned long GetState() const { return _state; }
 
-    // The buttons of its choice, itself included, in order of creation.
+    // The buttons of its choice, itself included, in reading order.
     std::vector<KivDlgRadioButton*> Choices() const;
 
     KivNotification* GetRadBModifyNotification() const { return &_modified; }

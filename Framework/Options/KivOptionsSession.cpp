@@ -79,18 +79,21 @@ const KivOptionsSession::Page* KivOptionsSession::FindPage(const KivUnicodeStrin
 }
 
 // What a page's window holds is stored when it is closed: it has to be there before the editors decide on it.
-void KivOptionsSession::CloseWindows()
+// False when somebody who was told of it has destroyed this session.
+bool KivOptionsSession::CloseWindows()
 {
+    const KivWeakPtr<KivDlgFrame> root(_root.get());
     std::vector<KivWeakPtr<KivDlgDialog>> windows;
     CollectWindows(*_root, windows);
     for (const KivWeakPtr<KivDlgDialog>& window : windows) {
         if (window) KivUserHand::CloseWindow(*window);
     }
+    return static_cast<bool>(root);
 }
 
 std::vector<KivDiagnostic> KivOptionsSession::Commit()
 {
-    CloseWindows();
+    if (!CloseWindows()) return {};
     // The editors are silent by contract; what they meet reaches the framework's sink, where it is heard
     // here.
     std::vector<KivDiagnostic> errors;
@@ -108,18 +111,23 @@ std::vector<KivDiagnostic> KivOptionsSession::Commit()
 
 void KivOptionsSession::Cancel()
 {
-    CloseWindows();
+    if (!CloseWindows()) return;
     for (const Page& page : _pages) page.settings->CancelModification(kNoRepository);
     Refill();
 }
 
 void KivOptionsSession::Refill()
 {
-    for (const Page& page : _pages) page.settings->SetUserSettingsValue(kNoRepository);
+    for (const Page& page : _pages) Refill(page);
+}
+
+void KivOptionsSession::Refill(const Page& page)
+{
+    page.settings->SetUserSettingsValue(kNoRepository);
 }
 
 void KivOptionsSession::Reset(const Page& page)
 {
     page.settings->ResetUserSettingsValue();
-    page.settings->SetUserSettingsValue(kNoRepository);
+    Refill(page);
 }

@@ -41,12 +41,14 @@ public:
     void Cancel();
     // Shows on every page what is in force now, after it was changed from elsewhere.
     void Refill();
+    // The same on one page: a tab that is turned to shows what was changed on others.
+    void Refill(const Page& page);
     // Reset: this tab returns to the administrator's values and shows them.
     void Reset(const Page& page);
 
 private:
     void Add(const KivUserSettingsManager::Editor& editor);
-    void CloseWindows();
+    bool CloseWindows();
 
     std::unique_ptr<KivDlgFrame> _root;
     std::vector<Page> _pages;

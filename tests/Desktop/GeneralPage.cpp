@@ -145,7 +145,7 @@ TEST_F(GeneralPage, StillFitsWhenTranslationsAreLonger)
     Open();
     OptionsPageView& view = window->PageView(window->CurrentPage());
     // This platform's screen is narrower than any real one; there the page scrolls.
-    window->resize(1000, window->height());
+    window->resize(1100, window->height());
     QTest::qWait(1);
     EXPECT_FALSE(view.horizontalScrollBar()->isVisible());
     QList<QWidget*> seen;

@@ -178,7 +178,7 @@ TEST_F(Editors, AdministrationSaysThatItsControllerIsMissing)
     frame->Initialize();
     ASSERT_EQ(box.diagnostics.size(), 2U);
     const char* const file = "[File: DraftingUI/KivDuiSettings.m/src/KivDrwOptAdminFrm:";
-    EXPECT_EQ(box.Said(std::string(">> ASSERTION FAILED ON POINTER: ") + file), 1);
+    EXPECT_EQ(box.Said(std::string(">> ASSERTION FAILED ON POINTER:  ") + file), 1);
     EXPECT_EQ(box.Said(std::string(">> ASSERTION FAILED ON POINTER: KivDrwOptAdminFrm ") + file), 1);
     EXPECT_EQ(frame->GetResourceFile(-1), "KivDrwOptAdmin");
     EXPECT_EQ(frame->GetResourceFile(1), frame->KivDialog::GetResourceFile(0));

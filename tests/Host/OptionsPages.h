@@ -92,9 +92,9 @@ protected:
                                                   : 0);
         }
         auto& spinner = static_cast<KivDlgSpinner&>(control);
-        const double before = spinner.GetValue();
-        const KivHandAnswer up = KivUserHand::Turn(spinner, 1);
-        return up && spinner.GetValue() == before ? KivUserHand::Turn(spinner, -1) : up;
+        double least = 0.0, greatest = 0.0, step = 0.0;
+        spinner.GetMinMaxStep(least, greatest, step);
+        return KivUserHand::Turn(spinner, spinner.GetValue() < greatest ? 1 : -1);
     }
 
     static KivSettingRepository& Repository()

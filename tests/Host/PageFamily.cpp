@@ -17,10 +17,11 @@ protected:
         for (const char* style : {"Blue.xml", "Green.XML", "Red.xml"})
             box.Write(box.root / "generativeparameters" / style, "");
     }
-    void OpenWith(const std::string& more = {})
+    void OpenWith(const std::string& more = {}, const std::vector<const char*>& instead = {})
     {
         std::string content = more;
         for (const char* line : table.enabling) content += std::string(line) + "\n";
+        for (const char* line : instead) content += std::string(line) + "\n"; // the last one counts
         box.Write(file, content);
         OpenAll();
     }
@@ -47,8 +48,18 @@ protected:
     std::set<std::string> Keys() const
     {
         std::set<std::string> keys;
-        for (const TableRow& row : table.rows) keys.insert(row.keys.begin(), row.keys.end());
+        const auto add = [&](const std::vector<TableRow>& rows) {
+            for (const TableRow& row : rows) keys.insert(row.keys.begin(), row.keys.end());
+        };
+        add(table.rows);
+        for (const WindowTable& window : table.windows) add(window.rows);
         return keys;
+    }
+    KivDlgDialog& OpenWindow(const WindowTable& window)
+    {
+        OpenWith({}, window.enabling);
+        EXPECT_TRUE(Press(window.button));
+        return Node<KivDlgDialog>(window.name);
     }
     const PageTable& table = GetParam();
 };
@@ -71,12 +82,34 @@ TEST_P(PageFamily, EachControlChangesItsOwnKeysAndTogetherTheyChangeAll)
         }
         driven.insert(changed.begin(), changed.end());
     }
-    EXPECT_EQ(driven, Keys());
-    EXPECT_EQ(driven.size(), table.keys);
     EXPECT_TRUE(session->Commit().empty());
     const Values saved = All();
     KivSettingRepository::ForgetAll();
     EXPECT_EQ(All(), saved);
+
+    // A window writes all it shows when it is closed: it has to be closed once for all of it to be there.
+    for (const WindowTable& window : table.windows) {
+        KivUserHand::Close(OpenWindow(window));
+        KivCommand::DrainDelayedDestruction();
+        for (const TableRow& row : window.rows) {
+            SCOPED_TRACE(row.control);
+            EXPECT_TRUE(Press(window.button));
+            const Values before = All();
+            const KivHandAnswer answer = Drive(Control(row.control));
+            EXPECT_TRUE(answer) << answer.why.View();
+            EXPECT_EQ(All(), before) << "not before it is closed";
+            KivUserHand::CloseWindow(Node<KivDlgDialog>(window.name));
+            KivCommand::DrainDelayedDestruction();
+            const std::set<std::string> changed = Changed(before, All());
+            const std::set<std::string> own(row.keys.begin(), row.keys.end());
+            if (!changed.empty()) {
+                EXPECT_EQ(changed, own);
+            }
+            driven.insert(changed.begin(), changed.end());
+        }
+    }
+    EXPECT_EQ(driven, Keys());
+    EXPECT_EQ(driven.size(), table.keys);
 }
 
 TEST_P(PageFamily, EveryLockDisablesItsControlsAndNothingElse)
@@ -89,7 +122,7 @@ TEST_P(PageFamily, EveryLockDisablesItsControlsAndNothingElse)
         const Values before = All();
         for (const TableRow& row : table.rows) {
             KivDialog& control = Control(row.control);
-            const bool asked = !*row.enabledBy || IsChecked(row.enabledBy);
+            const bool asked = !*row.enabledBy || row.enabledBy == kByItsPage || IsChecked(row.enabledBy);
             EXPECT_EQ(control.IsEnabled(), asked && row.keys.front() != key) << row.control;
             EXPECT_EQ(control.WhyDisabled().IsEmpty(), control.IsEnabled()) << row.control;
             if (row.keys.front() == key) {
@@ -97,6 +130,18 @@ TEST_P(PageFamily, EveryLockDisablesItsControlsAndNothingElse)
             }
         }
         EXPECT_EQ(All(), before);
+        for (const WindowTable& window : table.windows) {
+            const auto has = [&](const TableRow& row) { return row.keys.front() == key; };
+            if (std::none_of(window.rows.begin(), window.rows.end(), has)) continue;
+            OpenWindow(window);
+            for (const TableRow& row : window.rows) {
+                KivDialog& control = Control(row.control);
+                // A locked quality fixes the resolution beside it.
+                if (!has(row) && row.keys.front().find("Picture") != std::string::npos) continue;
+                EXPECT_EQ(control.IsEnabled(), !has(row)) << row.control;
+                EXPECT_EQ(static_cast<bool>(Drive(control)), !has(row)) << row.control;
+            }
+        }
     }
 }
 
@@ -126,11 +171,14 @@ TEST_P(PageFamily, NoWalkOpensALock)
             if (random() % 10 == 0) session->Refill();
             Drive(Control(table.rows[random() % table.rows.size()].control));
             for (const TableRow& row : table.rows) {
-                const bool asked = !*row.enabledBy || IsChecked(row.enabledBy);
                 const KivDialog& control = Control(row.control);
-                const bool styleIsReset = row.keys.front() == "DrwGVSXmlTrel";
-                if (styleIsReset) continue; // what enables it lies on another page
-                ASSERT_EQ(control.IsEnabled(), asked && !locked.count(row.keys.front())) << row.control;
+                const bool isLocked = locked.count(row.keys.front()) > 0;
+                if (row.enabledBy == kByItsPage) {
+                    ASSERT_FALSE(isLocked && control.IsEnabled()) << row.control;
+                } else {
+                    const bool asked = !*row.enabledBy || IsChecked(row.enabledBy);
+                    ASSERT_EQ(control.IsEnabled(), asked && !isLocked) << row.control;
+                }
                 ASSERT_EQ(control.WhyDisabled().IsEmpty(), control.IsEnabled()) << row.control;
             }
         }
@@ -192,8 +240,8 @@ TEST_P(PageFamily, EveryControlIsNamedAndNoTextIsLeftOver)
 {
     OpenWith();
     std::set<std::string> asked;
-    std::map<char, std::string> letters;
-    const auto takeLetter = [&](const KivDialog& node, const std::string& own) {
+    using Letters = std::map<char, std::string>;
+    const auto takeLetter = [](const KivDialog& node, const std::string& own, Letters& letters) {
         const std::string title(node.GetTitle().View());
         const std::size_t mark = title.find('&');
         ASSERT_NE(mark, std::string::npos) << own << " has no letter";
@@ -201,7 +249,10 @@ TEST_P(PageFamily, EveryControlIsNamedAndNoTextIsLeftOver)
         EXPECT_EQ(letters.count(letter), 0U) << own << " and " << letters[letter];
         letters[letter] = own;
     };
-    const auto visit = [&](auto&& self, const KivDialog& node) -> void {
+    const auto visit = [&](auto&& self, const KivDialog& node, Letters& around) -> void {
+        // A window's keyboard reaches nothing in the page that opened it.
+        Letters ofWindow;
+        Letters& letters = node.IsAKindOf("KivDlgDialog") ? ofWindow : around;
         const std::string own(node.KivCommand::GetName().View());
         for (const char* kind : {"Title", "Spoken", "Help", "ShortHelp", "LongHelp", "Unavailable"}) {
             if (!node.CatalogueText(kind).IsEmpty()) asked.insert(own + "." + kind);
@@ -216,12 +267,12 @@ TEST_P(PageFamily, EveryControlIsNamedAndNoTextIsLeftOver)
             EXPECT_FALSE(node.GetLongHelp().IsEmpty()) << own;
         }
         if (is("KivDlgLabel")) {
-            if (static_cast<const KivDlgLabel&>(node).GetLabelledControl()) takeLetter(node, own);
-            EXPECT_NE(node.GetTitle(), own.c_str()) << "no text";
+            if (static_cast<const KivDlgLabel&>(node).GetLabelledControl()) takeLetter(node, own, letters);
+            EXPECT_TRUE(node.GetTitle() != own.c_str()) << own << " has no text";
         }
         const bool isNamedByItself =
             is("KivDlgCheckButton") || is("KivDlgRadioButton") || is("KivDlgPushButton");
-        if (isNamedByItself && !node.GetTitle().IsEmpty()) takeLetter(node, own);
+        if (isNamedByItself && !node.GetTitle().IsEmpty()) takeLetter(node, own, letters);
         if (is("KivDlgDialog")) {
             EXPECT_NE(node.GetTitle(), own.c_str()) << "no title";
         }
@@ -233,11 +284,23 @@ TEST_P(PageFamily, EveryControlIsNamedAndNoTextIsLeftOver)
             EXPECT_TRUE(icon.IsEmpty() || !KivTextCatalogue::FindResource("icons/" + icon + ".svg").IsEmpty())
                 << icon.View();
         }
-        for (const KivDialog* child : node.Children()) self(self, *child);
+        for (const KivDialog* child : node.Children()) self(self, *child, letters);
     };
-    visit(visit, *Page(table.page).frame);
-    for (const auto& [key, text] : KivTextCatalogue::Open(table.catalogue).Texts())
-        EXPECT_EQ(asked.count(key), 1U) << key << " is a text of nobody";
+    Letters ofPage;
+    visit(visit, *Page(table.page).frame, ofPage);
+    std::set<std::string> catalogues{table.catalogue};
+    for (const WindowTable& window : table.windows) {
+        Letters none;
+        visit(visit, OpenWindow(window), none);
+        catalogues.insert(window.catalogue);
+    }
+    for (const std::string& catalogue : catalogues) {
+        // Titles of windows, lines of combos and captions are keys of their own.
+        for (const auto& [key, text] : KivTextCatalogue::Open(catalogue.c_str()).Texts()) {
+            EXPECT_EQ(asked.count(key), key.find('.') == std::string::npos ? 0U : 1U)
+                << key << " is a text of nobody";
+        }
+    }
     EXPECT_FALSE(Page(table.page).icon.IsEmpty());
     EXPECT_FALSE(Page(table.page).help.IsEmpty());
 }

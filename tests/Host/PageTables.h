@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,18 @@ struct TableRow {
     const char* enabledBy = "";
 };
 
+// Enabled by rules that its page proves itself.
+inline constexpr const char* kByItsPage = "?";
+
+// A window that stores what it shows when it is closed.
+struct WindowTable {
+    const char* button;                // that opens it
+    const char* name;                  // of the window
+    const char* catalogue;             // of its texts
+    std::vector<const char*> enabling; // settings with which it can be opened and every control is enabled
+    std::vector<TableRow> rows;
+};
+
 struct PageTable {
     const char* page;                  // its title
     const char* catalogue;             // of its texts
@@ -20,7 +33,14 @@ struct PageTable {
     std::vector<TableRow> rows;
     std::vector<const char*> buttons = {}; // that open windows with further rows
     std::size_t keys = 0;                  // all that the page edits
+    std::vector<WindowTable> windows = {};
 };
+
+// How a failing test names it.
+inline void PrintTo(const PageTable& table, std::ostream* out)
+{
+    *out << table.page;
+}
 
 inline const std::vector<PageTable>& PageTables()
 {
@@ -132,9 +152,88 @@ inline const std::vector<PageTable>& PageTables()
           {"chkExplodeDitto", {"ExplodeDitto"}},
           {"chkExplodeSymbolo", {"DrwExplodeSymbolo"}},
           {"checkBlinkRed", {"DrwBlinkRed"}},
-          {"chkGVSXml", {"DrwGVSXmlTrel"}}},
+          {"chkGVSXml", {"DrwGVSXmlTrel"}, kByItsPage}},
          {},
          6},
+        {"View",
+         "KivDrwOptViewFrame",
+         // Each change writes many of them: what is not there yet would count as changed.
+         {"int DrwPreventGVS = 1", "int GenAxisCreate = 1", "int GenCenterCreate = 1",
+          "int GenThreadCreate = 1", "int GenFilCreate = 1", "int GenHiddenLines = 0", "int Gen3DColors = 0",
+          "int GenWireFrame = 1", "int GenApplyUncut = 1", "int DrwGenerationModeVal = 0",
+          "int DrwGenerationForBox = 1", "double DrwGenerationForBoxTol = 1", "int DrwExactPreview = 1",
+          "int DrwOcclusionCulling = 0", "int DrwProject3DPts = 1", "int KivDrwQmtAnnotLay = 0",
+          "int KivDrwDimClipNoShow = 1", "int KivDrwSelBodyInAss = 0", "int KivDrwGeomOf2DLView = 1"},
+         {{"_checkGenAxis", {"GenAxisCreate"}, kByItsPage},
+          {"_checkGenCenter", {"GenCenterCreate"}, kByItsPage},
+          {"_checkGenThread", {"GenThreadCreate"}, kByItsPage},
+          {"_checkGenFil", {"GenFilCreate"}, kByItsPage},
+          {"_checkGenHiddenLines", {"GenHiddenLines"}, kByItsPage},
+          {"_checkGen3DColors", {"Gen3DColors"}, kByItsPage},
+          {"checkGenWireFrame", {"GenWireFrame"}, kByItsPage},
+          {"checkGenApplyUncut", {"GenApplyUncut"}, kByItsPage},
+          {"checkProject3DPts", {"DrwProject3DPts"}, kByItsPage},
+          {"spinGenBox", {"DrwGenerationForBoxTol"}, "checkGenBox"},
+          {"checkGenBox", {"DrwGenerationForBox"}},
+          {"chkExactPreview", {"DrwExactPreview"}, kByItsPage},
+          {"chkOcclusionCulling", {"DrwOcclusionCulling"}, kByItsPage},
+          {"chkQmtAnnotLay", {"KivDrwQmtAnnotLay"}},
+          {"chkDimClipNoShow", {"KivDrwDimClipNoShow"}},
+          {"chkSelBodyInAss", {"KivDrwSelBodyInAss"}},
+          {"chkGeomOf2DLView", {"KivDrwGeomOf2DLView"}},
+          {"combViewMod", {"DrwGenerationModeVal"}}},
+         {},
+         37,
+         {{"pushGenFil",
+           "panelGenFilTitle",
+           "KivDrwButtonGen",
+           {},
+           {{"radioBoundaries", {"DrwGenFilConfigure"}},
+            {"radioSymbo", {"DrwGenFilConfigure"}},
+            {"radioOrigEd", {"DrwGenFilConfigure"}},
+            {"radioProjEd", {"DrwGenFilConfigure"}}}},
+          {"project3DPtsPushButton",
+           "panelProject3DPtsTitle",
+           "KivDrwButtonGen",
+           {},
+           {{"comboSymbol", {"DrwProject3DSymbol"}},
+            {"radioSymbolInherit", {"DrwProject3DSymbol"}},
+            {"radioSymbol", {"DrwProject3DSymbol"}}}},
+          {"pushGenWireFrameMod",
+           "panelWireFrameMod",
+           "KivDrwButtonGen",
+           {},
+           {{"radioVisible", {"GenWireFrameMod"}}, {"radioHidden", {"GenWireFrameMod"}}}},
+          {"linetypePushButton",
+           "LineTypeWnd",
+           "KivDrwButtonSettings",
+           {},
+           {
+               {"comboSectionLinetype", {"SectionLinetype"}},
+               {"comboSectionThickness", {"DrwSectionThickness"}},
+               {"comboDetailLinetype", {"DetailLinetype"}},
+               {"comboDetailThickness", {"DrwDetailThickness"}},
+               {"comboBrokenLinetype", {"BrokenLinetype"}},
+               {"comboBrokenThickness", {"DrwBrokenThickness"}},
+               {"comboBreakoutLinetype", {"BreakoutLinetype"}},
+               {"comboBreakoutThickness", {"DrwBreakoutThickness"}},
+               {"comboSkinLinetype", {"SkinLinetype"}},
+               {"comboSkinThickness", {"DrwSkinThickness"}},
+           }},
+          {"pushRasterOptions",
+           "panelRasterView",
+           "KivDrwButtonRasterView",
+           {"int DrwGenerationModeVal = 2", "int KivDrwLODVisuMod = 3", "int KivDrwLODPrintMod = 3"},
+           {{"combRasterMod", {"KivDrwRasterMod"}},
+            {"spinLODVisu", {"DrwDefVisuPicture"}},
+            {"spinLODPrint", {"DrwDefPrintPicture"}},
+            {"combLODVisu", {"KivDrwLODVisuMod"}},
+            {"combLODPrint", {"KivDrwLODPrintMod"}}}},
+          {"pushRasterOptions",
+           "panelRasterView",
+           "KivDrwButtonHRVView",
+           {"int DrwGenerationModeVal = 3"},
+           {{"spinHRVLOD", {"KivDrwHRVLOD"}}}}}},
     };
     return tables;
 }

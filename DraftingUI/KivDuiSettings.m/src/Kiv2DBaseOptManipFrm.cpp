@@ -71,10 +71,9 @@ void Kiv2DBaseOptManipFrm::BuildDimManipulators()
 
 void Kiv2DBaseOptManipFrm::BuildDimRow(KivFormLine line, const DimRow& row)
 {
-    KivDrwLockLabel* icon = line.Attached(kFilled).Label(row.iconName);
-    icon->SetTitle("");
-    icon->SetIconName(row.icon, "", "", "");
-    line.Attached(kFilledCentred).PlainLabel(row.labelName);
+    line.Attached(kFilled).Picture(row.iconName)->SetIconName(row.icon, "", "", "");
+    // It names two switches: a lock on one of them does not grey it.
+    line.Attached(kFilledCentred).PlainLabel(row.labelName)->SetGreysWithControl(false);
     for (KivDrwLockCheckButton* button :
          {line.At(Creation).Check(row.creationName, row.creation),
           line.At(Modification).Check(row.modificationName, row.modification)}) {

@@ -18,8 +18,3 @@ protected:
     KivSettingRepository* _repository = KivDrwRepository(); // may be null: the page then shows defaults
     std::vector<KivDrwPresetValue*> _presets;
 };
-
-// A value of such a page, declared as a member of it: `KIV_KEY_VALUE(_genDim, unsigned char,
-// KivDrwKeys::GenDim)`.
-#define KIV_KEY_VALUE(value, T, key)                                                                         \
-    KivDrwKeyValue<T, KivDrwStored<decltype(key)>> value{_values, _presets, _repository, key};

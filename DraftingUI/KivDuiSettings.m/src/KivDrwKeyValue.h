@@ -35,3 +35,8 @@ private:
     KivSettingRepository* _repository;
     const KivDrwKey<Stored>& _key;
 };
+
+// A value as a member of a page or a window that has _values, _presets and _repository:
+// KIV_KEY_VALUE(_genDim, int, KivDrwKeys::GenDim).
+#define KIV_KEY_VALUE(value, T, key)                                                                         \
+    KivDrwKeyValue<T, KivDrwStored<decltype(key)>> value{_values, _presets, _repository, key};

@@ -23,13 +23,13 @@ public:
 private:
     void BuildDimensions();
 
-    KIV_KEY_VALUE(_genDim, unsigned char, KivDrwKeys::GenDim)
-    KIV_KEY_VALUE(_genDimFilter, unsigned char, KivDrwKeys::GenDimFilter)
-    KIV_KEY_VALUE(_genDimAutoPos, unsigned char, KivDrwKeys::GenDimAutoPos)
-    KIV_KEY_VALUE(_genDimAutoTrans, unsigned char, KivDrwKeys::GenDimAutoTrans)
-    KIV_KEY_VALUE(_genDimAnal, unsigned char, KivDrwKeys::GenDimAnal)
+    KIV_KEY_VALUE(_genDim, int, KivDrwKeys::GenDim)
+    KIV_KEY_VALUE(_genDimFilter, int, KivDrwKeys::GenDimFilter)
+    KIV_KEY_VALUE(_genDimAutoPos, int, KivDrwKeys::GenDimAutoPos)
+    KIV_KEY_VALUE(_genDimAutoTrans, int, KivDrwKeys::GenDimAutoTrans)
+    KIV_KEY_VALUE(_genDimAnal, int, KivDrwKeys::GenDimAnal)
     KIV_KEY_VALUE(_genDimSemiAutoTimeOut, int, KivDrwKeys::GenDimSemiAutoTimeOut)
-    KIV_KEY_VALUE(_genBalloonByInstance, unsigned char, KivDrwKeys::GenBalloonByInstance)
-    KIV_KEY_VALUE(_genDimFromPart, unsigned char, KivDrwKeys::DrwGenDimFromPart)
+    KIV_KEY_VALUE(_genBalloonByInstance, int, KivDrwKeys::GenBalloonByInstance)
+    KIV_KEY_VALUE(_genDimFromPart, int, KivDrwKeys::DrwGenDimFromPart)
     std::vector<KivWeakPtr<KivDrwLockDialog>> _dimensionControls;
 };

@@ -12,7 +12,7 @@ constexpr double kLargestInt = std::numeric_limits<int>::max();
 // What a stored type means where nothing else is said, in the order of KivDrwValue.
 constexpr Kind kOfType[] = {
     {"switch", 0.0, 1.0},
-    {"line type", 0.0, kLargestInt},
+    {"line type", 0.0, 7.0},
     {"colour component", 0.0, 1.0},
     {"length in millimetres", 0.0, 1.0e12},
     {"text", 0.0, 0.0},
@@ -40,7 +40,7 @@ constexpr Exception kExceptions[] = {
     {KivDrwKeys::DrwCalloutSize.name, kIndex},
     {KivDrwKeys::SourceSheetType.name, kIndex},
     {KivDrwKeys::BackgroundViewToCopy.name, kIndex},
-    {KivDrwKeys::DrwProject3DSymbol.name, kIndex},
+    {KivDrwKeys::DrwProject3DSymbol.name, {"choice", 0.0, 9.0}},
     {KivDrwKeys::GenWireFrameMod.name, {"choice", 1.0, 2.0}},
     {KivDrwKeys::DrwGenFilConfigure.name, {"choice", 1.0, 4.0}},
     {KivDrwKeys::DrwGenerationModeVal.name, {"choice", 0.0, 3.0}},
@@ -73,7 +73,7 @@ constexpr Exception kExceptions[] = {
     {KivDrwKeys::LineUpBaseOffsetLength.name, kOffset},
     {KivDrwKeys::LineUpBaseOffsetAngle.name, kAngle},
     {KivDrwKeys::DrwAnnotSnapMod.name, {"choice", 0.0, 2.0}},
-    {KivDrwKeys::DrwBalloonAssocMod.name, kIndex},
+    {KivDrwKeys::DrwBalloonAssocMod.name, {"choice", 0.0, 2.0}},
 };
 
 // Integer colours are three keys of one stem; no other integer key ends in these capitals.

@@ -28,6 +28,8 @@ struct KivFormRadios {
     struct Button {
         const char* name;
         int value;
+        short row = -1; // of the frame's grid; without one they stand one below the other
+        short columns = 1;
     };
     std::vector<Button> buttons;
     std::optional<int> otherwise = {};

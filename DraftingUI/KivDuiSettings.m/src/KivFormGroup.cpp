@@ -33,11 +33,13 @@ KivDrwLockFrame* KivFormGroup::Radios(const KivString& name, KivCachedValue<int>
     frame->SetGridConstraints(line, 0, 1, 1, KivDlgAttachAllSides);
     std::vector<KivRadioRow::Button> buttons;
     short row = 0;
-    for (const auto& [buttonName, buttonValue] : radios.buttons) {
-        auto* button = new KivDlgRadioButton(frame->GetDialog(), buttonName, 0UL);
-        button->SetGridConstraints(row++, 0, 1, 1, KivDlgAttachAllSides);
+    for (const KivFormRadios::Button& declared : radios.buttons) {
+        auto* button = new KivDlgRadioButton(frame->GetDialog(), declared.name, 0UL);
+        button->SetGridConstraints(declared.row < 0 ? row : declared.row, 0, 1, declared.columns,
+                                   KivDlgAttachAllSides);
+        ++row;
         _form.Connect(button, button->GetRadBModifyNotification());
-        buttons.push_back({button, buttonValue});
+        buttons.push_back({button, declared.value});
     }
     _form.Add(
         std::make_unique<KivRadioRow>(frame, value, std::move(buttons), radios.otherwise, std::move(rule)));

@@ -1,10 +1,19 @@
 #include "KivFormLine.h"
 
 #include "DrwOptionsServices.h"
+#include "KivLineRows.h"
 #include "KivPageForm.h"
 #include "KivPageRows.h"
 
 #include <utility>
+
+namespace {
+
+// Of the combos of line types and weights, in characters and lines.
+constexpr int kLineWidth = 8;
+constexpr int kLinesHigh = 8;
+
+} // namespace
 
 KivFormLine& KivFormLine::At(short column, short columns)
 {
@@ -60,6 +69,14 @@ KivDlgLabel* KivFormLine::PlainLabel(const KivString& name)
     return label;
 }
 
+KivDrwLockLabel* KivFormLine::Picture(const KivString& name)
+{
+    auto* picture = new KivDrwLockLabel(&_frame, name, 1);
+    picture->SetTitle("");
+    Place(*picture);
+    return picture;
+}
+
 KivDrwLockLabel* KivFormLine::Spacer(const KivString& name)
 {
     auto* spacer = new KivDrwLockLabel(&_frame, name, 0);
@@ -77,12 +94,23 @@ KivDlgPushButton* KivFormLine::Push(const KivString& name)
 KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivCachedValue<unsigned char>& value,
                                           Rule rule)
 {
+    return CheckOf(name, value, std::move(rule));
+}
+
+KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivCachedValue<int>& value, Rule rule)
+{
+    return CheckOf(name, value, std::move(rule));
+}
+
+template <class T>
+KivDrwLockCheckButton* KivFormLine::CheckOf(const KivString& name, KivCachedValue<T>& value, Rule rule)
+{
     if (LeavesOut(value)) return nullptr;
     auto* button = new KivDrwLockCheckButton(&_frame, name, value.Info(), 0UL);
     Place(*button);
     Name(button->GetDialog());
     _form.Connect(button->GetDialog(), button->GetChkBModifyNotification());
-    _form.Add(std::make_unique<KivCheckRow>(button, value, std::move(rule)));
+    _form.Add(std::make_unique<KivCheckRow<T>>(button, value, std::move(rule)));
     return button;
 }
 
@@ -144,20 +172,23 @@ KivDrwLockComboColor* KivFormLine::Colour(const KivString& name, KivCachedValue<
 {
     if (LeavesOut(value)) return nullptr;
     auto* combo = new KivDrwLockComboColor(&_frame, name, value.Info());
-    Place(*combo);
-    Name(combo->GetDialog());
-    if (KivDlgCombo* inner = combo->GetCombo()) _form.Connect(inner, inner->GetComboSelectNotification());
+    PlaceNamed(*combo, combo->GetCombo());
     _form.Add(std::make_unique<KivColourRow>(combo, value, std::move(rule)));
     return combo;
+}
+
+void KivFormLine::PlaceNamed(KivDrwLockDialog& wrapper, KivDlgCombo* combo)
+{
+    Place(wrapper);
+    Name(wrapper.GetDialog());
+    if (combo) _form.Connect(combo, combo->GetComboSelectNotification());
 }
 
 KivDrwLockCombo* KivFormLine::BareCombo(const KivString& name, const KivSettingInfo& info,
                                         unsigned long style)
 {
     auto* combo = new KivDrwLockCombo(&_frame, name, info, style);
-    Place(*combo);
-    Name(combo->GetDialog());
-    if (KivDlgCombo* inner = combo->GetCombo()) _form.Connect(inner, inner->GetComboSelectNotification());
+    PlaceNamed(*combo, combo->GetCombo());
     return combo;
 }
 
@@ -176,5 +207,30 @@ KivDrwLockCombo* KivFormLine::Names(const KivString& name, KivCachedValue<KivUni
     if (LeavesOut(value)) return nullptr;
     KivDrwLockCombo* combo = BareCombo(name, value.Info(), 0UL);
     _form.Add(std::make_unique<KivNameRow>(combo, value, names, std::move(rule)));
+    return combo;
+}
+
+KivDrwLockComboDashed* KivFormLine::LineType(const KivString& name, KivCachedValue<unsigned int>& value,
+                                             KivSettingRepository* repository, const KivString& key)
+{
+    constexpr char kWithBreakLine = 1;
+    auto* combo = new KivDrwLockComboDashed(repository, key, &_frame, name, kWithBreakLine, 0UL, 0U);
+    PlaceNamed(*combo, combo->GetCombo());
+    combo->SetVisibleTextWidth(kLineWidth);
+    combo->SetVisibleTextHeight(kLinesHigh);
+    _form.Add(std::make_unique<KivLineTypeRow>(combo, value, Rule()));
+    return combo;
+}
+
+KivDrwLockComboWeight* KivFormLine::LineWeight(const KivString& name, KivCachedValue<unsigned int>& value,
+                                               KivSettingRepository* repository, const KivString& key)
+{
+    auto* combo = new KivDrwLockComboWeight(repository, key, &_frame, name, 0UL, 0U);
+    PlaceNamed(*combo, combo->GetCombo());
+    if (KivDlgCombo* inner = combo->GetCombo()) {
+        inner->SetVisibleTextHeight(kLinesHigh);
+        inner->SetVisibleTextWidth(kLineWidth);
+    }
+    _form.Add(std::make_unique<KivLineWeightRow>(combo, value, Rule()));
     return combo;
 }

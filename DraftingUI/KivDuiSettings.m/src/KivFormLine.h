@@ -5,6 +5,8 @@
 #include "KivDrwLockCheckButton.h"
 #include "KivDrwLockCombo.h"
 #include "KivDrwLockComboColor.h"
+#include "KivDrwLockComboDashed.h"
+#include "KivDrwLockComboWeight.h"
 #include "KivDrwLockFrame.h"
 #include "KivDrwLockLabel.h"
 #include "KivDrwLockSpinner.h"
@@ -30,6 +32,7 @@ public:
     KivFormLine& Attached(unsigned int attachment);
 
     KivDrwLockCheckButton* Check(const KivString& name, KivCachedValue<unsigned char>& value, Rule rule = {});
+    KivDrwLockCheckButton* Check(const KivString& name, KivCachedValue<int>& value, Rule rule = {});
     KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<double>& value,
                                const KivSpinnerSetup& setup, Rule rule = {});
     KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<int>& value, const KivCountSetup& setup,
@@ -41,12 +44,19 @@ public:
                             unsigned long style, Rule rule = {});
     KivDrwLockCombo* Names(const KivString& name, KivCachedValue<KivUnicodeString>& value, KivFormNames names,
                            Rule rule = {});
+    // A line type and a line weight; the lock record is that of the key.
+    KivDrwLockComboDashed* LineType(const KivString& name, KivCachedValue<unsigned int>& value,
+                                    KivSettingRepository* repository, const KivString& key);
+    KivDrwLockComboWeight* LineWeight(const KivString& name, KivCachedValue<unsigned int>& value,
+                                      KivSettingRepository* repository, const KivString& key);
     // A button that opens something: the owner connects it.
     KivDlgPushButton* Push(const KivString& name);
 
     // A text that names the next control, under the padlocks' column or without it.
     KivDrwLockLabel* Label(const KivString& name);
     KivDlgLabel* PlainLabel(const KivString& name);
+    // A picture without a text; its icon is to be set.
+    KivDrwLockLabel* Picture(const KivString& name);
     // Leaves the padlocks' column of this cell empty.
     KivDrwLockLabel* Spacer(const KivString& name);
     // The help of the text that names this line's controls.
@@ -56,8 +66,11 @@ private:
     KivDrwLockSpinner* BareSpinner(const KivString& name, const KivSettingInfo& info, int width,
                                    unsigned long style = 0);
     KivDrwLockCombo* BareCombo(const KivString& name, const KivSettingInfo& info, unsigned long style);
+    template <class T>
+    KivDrwLockCheckButton* CheckOf(const KivString& name, KivCachedValue<T>& value, Rule rule);
     bool LeavesOut(const KivBoundValue& value);
     void Place(KivDialog& control);
+    void PlaceNamed(KivDrwLockDialog& wrapper, KivDlgCombo* combo);
     void Name(KivDialog* control);
 
     KivPageForm& _form;

@@ -2,7 +2,7 @@
 
 #include "Dialog/KivDlgToolsOptionsFrame.h"
 
-#include <algorithm>
+#include <vector>
 
 KivFormGroup KivPageForm::Group(KivDialog& surface, const KivString& name, const KivString& icon, short row)
 {
@@ -23,11 +23,16 @@ void KivPageForm::Show()
 
 void KivPageForm::Take(KivCommand* from)
 {
-    const auto taken =
-        std::find_if(_rows.begin(), _rows.end(), [&](const auto& row) { return row->Take(from); });
-    if (taken == _rows.end()) return;
-    for (const auto& row : _rows) {
-        if (row != *taken && row->IsOf((*taken)->Value())) row->Show();
+    // A row's rule may tell others, and they may destroy the page.
+    const KivWeakPtr<KivCommand> owner(&_owner);
+    for (std::size_t i = 0; i < _rows.size(); ++i) {
+        const KivPageRow* const taken = _rows[i].get();
+        if (!_rows[i]->Take(from)) continue;
+        if (!owner) return;
+        for (const auto& row : _rows) {
+            if (row.get() != taken && row->IsOf(taken->Value())) row->Show();
+        }
+        return;
     }
 }
 
@@ -35,6 +40,13 @@ void KivPageForm::ShowValue(const KivBoundValue& value)
 {
     for (const auto& row : _rows) {
         if (row->IsOf(value)) row->Show();
+    }
+}
+
+void KivPageForm::Read(const KivCommand* from)
+{
+    for (const auto& row : _rows) {
+        if (row->Read(from)) return;
     }
 }
 
@@ -46,7 +58,7 @@ void KivPageForm::ReadAll()
 bool KivPageForm::LeavesOut(const KivBoundValue& value) const
 {
     KivSettingInfo info;
-    return _refused == Refused::LeaveOut && value.GetInfo(info) != S_OK;
+    return _refused == Refused::LeaveOut && value.GetInfo(info) < 0;
 }
 
 void KivPageForm::Add(std::unique_ptr<KivPageRow> row)

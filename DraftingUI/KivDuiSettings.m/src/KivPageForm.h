@@ -34,6 +34,8 @@ public:
     void ShowValue(const KivBoundValue& value);
     // Stores the value of the control that sent a notification, and shows it wherever else it is shown.
     void Take(KivCommand* from);
+    // Takes what the sender shows into the cached value, runs its rule, and stores nothing.
+    void Read(const KivCommand* from);
     // Takes what every control shows into the cached values, and stores nothing.
     void ReadAll();
 

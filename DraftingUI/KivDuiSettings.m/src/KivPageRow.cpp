@@ -11,6 +11,14 @@ bool KivPageRow::IsSender(const KivCommand* from) const
     return control && from && control->GetDialog() == from;
 }
 
+bool KivPageRow::Read(const KivCommand* from)
+{
+    if (!IsSender(from)) return false;
+    Read();
+    if (_rule) _rule();
+    return true;
+}
+
 bool KivPageRow::Take(KivCommand* from)
 {
     if (!IsSender(from)) return false;

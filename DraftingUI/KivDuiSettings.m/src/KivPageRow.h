@@ -20,8 +20,9 @@ public:
     // Control to value, if it is the sender of something new: stores it and runs the row's rule. False when
     // it is not.
     bool Take(KivCommand* from);
-    // Control to value, without storing it.
+    // Control to value, without storing it: whatever the control shows, or if it is the sender.
     virtual void Read() = 0;
+    bool Read(const KivCommand* from);
 
     // False once its control was destroyed.
     bool IsAlive() const { return Control() != nullptr; }

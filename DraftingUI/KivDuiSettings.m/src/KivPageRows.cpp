@@ -1,7 +1,6 @@
 #include "KivPageRows.h"
 
 #include "Dialog/KivTextCatalogue.h"
-#include "KivDrwSettingsServices.h"
 #include "KivWholeOf.h"
 
 #include <algorithm>
@@ -19,21 +18,6 @@ int Whole(float value)
 }
 
 } // namespace
-
-KivCheckRow::KivCheckRow(KivDrwLockCheckButton* button, KivCachedValue<unsigned char>& value, Rule rule)
-    : KivPageRow(value, std::move(rule)), _button(button), _value(value)
-{}
-
-void KivCheckRow::Show()
-{
-    KivDrwSettingsServices::UpdateCheckButton(_button.Get(), _value.cached);
-}
-
-void KivCheckRow::Read()
-{
-    if (_button)
-        KivDrwSettingsServices::GetValueFromCheckButton(_button.Get(), _button->GetDialog(), _value.cached);
-}
 
 KivMeasureRow::KivMeasureRow(KivDrwLockSpinner* spinner, KivCachedValue<double>& value, double shownPerStored,
                              double storedPerShown, Rule rule)

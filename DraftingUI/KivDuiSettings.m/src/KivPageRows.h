@@ -6,23 +6,33 @@
 #include "KivDrwLockComboColor.h"
 #include "KivDrwLockFrame.h"
 #include "KivDrwLockSpinner.h"
+#include "KivDrwSettingsServices.h"
 #include "KivFormChoice.h"
 #include "KivPageRow.h"
 
 // The kinds of rows, by the control that they have. A control belongs to the dialog tree and may be gone.
 
-// A switch.
-class KivCheckRow final : public KivPageRow {
+// A switch: any value but 0 is on; it is read as 1 or 0.
+template <class T> class KivCheckRow final : public KivPageRow {
 public:
-    KivCheckRow(KivDrwLockCheckButton* button, KivCachedValue<unsigned char>& value, Rule rule);
-    void Show() override;
-    void Read() override;
+    KivCheckRow(KivDrwLockCheckButton* button, KivCachedValue<T>& value, Rule rule)
+        : KivPageRow(value, std::move(rule)), _button(button), _value(value)
+    {}
+    void Show() override { KivDrwSettingsServices::UpdateCheckButton(_button.Get(), _value.cached != 0); }
+    using KivPageRow::Read;
+    void Read() override
+    {
+        unsigned char isOn = 0;
+        if (_button && KivDrwSettingsServices::GetValueFromCheckButton(_button.Get(), _button->GetDialog(),
+                                                                       isOn) == S_OK)
+            _value.cached = isOn;
+    }
 
 private:
     KivDrwLockDialog* Control() const override { return _button.Get(); }
 
     KivWeakPtr<KivDrwLockCheckButton> _button;
-    KivCachedValue<unsigned char>& _value;
+    KivCachedValue<T>& _value;
 };
 
 // A measure: shown in the spinner's unit, stored in another. The two factors are stated, not computed from
@@ -32,6 +42,7 @@ public:
     KivMeasureRow(KivDrwLockSpinner* spinner, KivCachedValue<double>& value, double shownPerStored,
                   double storedPerShown, Rule rule);
     void Show() override;
+    using KivPageRow::Read;
     void Read() override;
 
 private:
@@ -48,6 +59,7 @@ class KivCountRow final : public KivPageRow {
 public:
     KivCountRow(KivDrwLockSpinner* spinner, KivCachedValue<int>& value, Rule rule);
     void Show() override;
+    using KivPageRow::Read;
     void Read() override;
 
 private:
@@ -62,6 +74,7 @@ class KivWholeRow final : public KivPageRow {
 public:
     KivWholeRow(KivDrwLockSpinner* spinner, KivCachedValue<int>& value, Rule rule);
     void Show() override;
+    using KivPageRow::Read;
     void Read() override;
 
 private:
@@ -71,11 +84,27 @@ private:
     KivCachedValue<int>& _value;
 };
 
+// The lock of a value that its owner shows and reads itself.
+class KivLockOnlyRow final : public KivPageRow {
+public:
+    using KivPageRow::Read;
+    KivLockOnlyRow(KivDrwLockDialog* control, KivBoundValue& value) : KivPageRow(value, {}), _control(control)
+    {}
+    void Show() override {}
+    void Read() override {}
+
+private:
+    KivDrwLockDialog* Control() const override { return _control.Get(); }
+
+    KivWeakPtr<KivDrwLockDialog> _control;
+};
+
 // A colour.
 class KivColourRow final : public KivPageRow {
 public:
     KivColourRow(KivDrwLockComboColor* combo, KivCachedValue<KivPageColour>& value, Rule rule);
     void Show() override;
+    using KivPageRow::Read;
     void Read() override;
 
 private:
@@ -92,6 +121,7 @@ class KivChoiceRow final : public KivPageRow {
 public:
     KivChoiceRow(KivDrwLockCombo* combo, KivCachedValue<int>& value, const KivFormChoice& choice, Rule rule);
     void Show() override;
+    using KivPageRow::Read;
     void Read() override;
 
 private:
@@ -109,6 +139,7 @@ public:
     KivNameRow(KivDrwLockCombo* combo, KivCachedValue<KivUnicodeString>& value, KivFormNames names,
                Rule rule);
     void Show() override;
+    using KivPageRow::Read;
     void Read() override;
 
 private:
@@ -131,6 +162,7 @@ public:
     KivRadioRow(KivDrwLockFrame* frame, KivCachedValue<int>& value, std::vector<Button> buttons,
                 std::optional<int> otherwise, Rule rule);
     void Show() override;
+    using KivPageRow::Read;
     void Read() override;
 
 private:

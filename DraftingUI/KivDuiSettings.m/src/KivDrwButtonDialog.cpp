@@ -1,0 +1,36 @@
+#include "KivDrwButtonDialog.h"
+
+KivDrwButtonDialog::KivDrwButtonDialog(KivDialog* parent, const KivString& name, const KivString& catalogue)
+    : KivClass(parent, name, KivDlgModelessWindow)
+{
+    SetTextCatalogue(catalogue);
+    _form.SetCallback(&KivDrwButtonDialog::Notification);
+    AddAnalyseNotificationCB(this, GetDiaCloseNotification(), &KivDrwButtonDialog::Ok, nullptr);
+    AddAnalyseNotificationCB(this, GetWindCloseNotification(), &KivDrwButtonDialog::Ok, nullptr);
+}
+
+void KivDrwButtonDialog::Open()
+{
+    Init();
+    SetVisibility(KivDlgShown);
+}
+
+void KivDrwButtonDialog::Init()
+{
+    for (KivDrwPresetValue* value : _presets) value->Preset();
+    for (KivBoundValue* value : _values) value->Load();
+    _form.ShowLocks();
+    ShowValues();
+}
+
+void KivDrwButtonDialog::Notification(KivCommand* from, KivNotification*, void*)
+{
+    ReadFrom(from);
+}
+
+void KivDrwButtonDialog::Ok(KivCommand*, KivNotification*, void*)
+{
+    for (KivBoundValue* value : _values) value->Save();
+    SetVisibility(KivDlgHidden);
+    RequestDelayedDestruction();
+}

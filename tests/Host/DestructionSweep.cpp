@@ -1,0 +1,136 @@
+#include "OptionsPages.h"
+#include "PageTables.h"
+
+namespace {
+
+// What is destroyed in the middle of a notification.
+enum class Victim { Control, Row, Frame, Page, Dialog, Editor };
+
+// One visit of every page and window, again and again: at each notification in it something is destroyed, and
+// the user goes on with what is left.
+class DestructionSweep : public OptionsPages, public testing::WithParamInterface<Victim> {
+protected:
+    void TearDown() override
+    {
+        KivCommand::SetDeliveryProbe({});
+        OptionsPages::TearDown();
+    }
+    // Runs the visit and answers how many deliveries it met; destroys at the given one.
+    int Visit(int fatal)
+    {
+        int deliveries = 0;
+        KivCommand::SetDeliveryProbe([&](KivCommand& from) {
+            if (++deliveries == fatal) Destroy(from);
+        });
+        Repository().ResetToAdminValues(nullptr, 0);
+        Open();
+        for (const PageTable& table : PageTables()) VisitPage(table);
+        if (session) session->Refill();
+        KivCommand::DrainDelayedDestruction();
+        if (session) session->Commit();
+        session.reset();
+        manager.reset();
+        KivCommand::DrainDelayedDestruction();
+        KivCommand::SetDeliveryProbe({});
+        return deliveries;
+    }
+
+private:
+    KivDialog* Left(const char* name) { return session ? Find(name) : nullptr; }
+    void PressLeft(const char* name)
+    {
+        if (KivDialog* button = Left(name)) KivUserHand::Press(*static_cast<KivDlgPushButton*>(button));
+    }
+    void DriveLeft(const std::vector<TableRow>& rows)
+    {
+        for (const TableRow& row : rows) {
+            KivDialog* control = Left((std::string(row.control) + "_dialog").c_str());
+            if (!control) control = Left(row.control);
+            // A row whose control was destroyed.
+            if (control && control->IsAKindOf(KivDlgControl::Name)) Drive(*control);
+            KivCommand::DrainDelayedDestruction();
+        }
+    }
+    void VisitPage(const PageTable& table)
+    {
+        for (const char* button : table.buttons) PressLeft(button);
+        DriveLeft(table.rows);
+        for (const WindowTable& window : table.windows) VisitWindow(window);
+        const KivOptionsSession::Page* page = session ? session->FindPage(table.page) : nullptr;
+        if (page) session->Reset(*page);
+        if (session && table.page == std::string("View")) session->Cancel();
+    }
+    void VisitWindow(const WindowTable& window)
+    {
+        // The mode that the window needs; all but the pictures' are opened in the exact one.
+        const bool hrv = window.catalogue == std::string("KivDrwButtonHRVView");
+        const int line = window.button != std::string("pushRasterOptions") ? 0 : hrv ? 2 : 3;
+        if (KivDialog* combo = Left("combViewMod_dialog"))
+            KivUserHand::Choose(*static_cast<KivDlgCombo*>(combo), line);
+        for (int time = 0; time < 2; ++time) PressLeft(window.button);
+        DriveLeft(window.rows);
+        if (KivDialog* open = Left(window.name)) KivUserHand::Close(*static_cast<KivDlgDialog*>(open));
+        KivCommand::DrainDelayedDestruction();
+    }
+
+    void Destroy(KivCommand& from)
+    {
+        KivDialog* node = static_cast<KivDialog*>(&from);
+        const auto ancestor = [&](const char* kind) {
+            KivDialog* found = node;
+            while (found && !found->IsAKindOf(kind)) found = found->GetParentDialog();
+            return found;
+        };
+        KivDialog* const page = ancestor("KivEditorPage");
+        switch (GetParam()) {
+        case Victim::Control:
+            delete node;
+            break;
+        case Victim::Row:
+            delete node->GetParentDialog();
+            break;
+        case Victim::Frame: {
+            KivDialog* const window = ancestor(KivDlgDialog::Name);
+            delete (window ? window : page->Children().front());
+            break;
+        }
+        case Victim::Page:
+            delete page;
+            break;
+        case Victim::Dialog:
+            session.reset();
+            break;
+        case Victim::Editor:
+            for (const KivOptionsSession::Page& one : session->Pages()) {
+                if (one.frame.Get() == page) delete one.settings->GetImpl();
+            }
+            break;
+        }
+    }
+};
+
+TEST_P(DestructionSweep, NobodyTouchesWhatIsGone)
+{
+    box.Write(file, "int DrwPreventGVS = 0\nint DrwGenerationForBox = 1\n");
+    const long before = KivBaseUnknown::LiveObjects();
+    const int all = Visit(0);
+    EXPECT_EQ(KivBaseUnknown::LiveObjects(), before);
+    EXPECT_GT(all, 100);
+    for (int fatal = 1; fatal <= all; ++fatal) {
+        Visit(fatal);
+        ASSERT_EQ(KivBaseUnknown::LiveObjects(), before) << "at notification " << fatal;
+    }
+}
+
+std::string NameOf(const testing::TestParamInfo<Victim>& victim)
+{
+    constexpr const char* kNames[] = {"Control", "Row", "Frame", "Page", "Dialog", "Editor"};
+    return kNames[static_cast<int>(victim.param)];
+}
+
+INSTANTIATE_TEST_SUITE_P(Victims, DestructionSweep,
+                         testing::Values(Victim::Control, Victim::Row, Victim::Frame, Victim::Page,
+                                         Victim::Dialog, Victim::Editor),
+                         NameOf);
+
+} // namespace
