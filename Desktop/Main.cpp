@@ -5,6 +5,7 @@
 #include "DraftingText.h"
 #include "DraftingWindow.h"
 #include "KivDrwDraftingSettings.h"
+#include "KivDrwRepository.h"
 #include "KivDrwSketcherSettings.h"
 #include "OffscreenPlatform.h"
 #include "Settings/KivSettingRepository.h"
@@ -63,7 +64,7 @@ int main(int argc, char** argv)
                                                                           : line.scheme);
 
     SheetSettings settings(*KivDrwDraftingSettings::GetDraftingSettings(),
-                           *KivDrwSketcherSettings::GetSketcherSettings());
+                           *KivDrwSketcherSettings::GetSketcherSettings(), KivDrwRepository());
     DraftingWindow window(settings, diagnostics, QString::fromStdString(line.administrator));
     std::optional<SettingsWatch> watch;
     if (auto* const repository = KivSettingRepository::GetRepository("DraftingOptions")) {

@@ -1,5 +1,6 @@
 #include "SheetAccessible.h"
 
+#include "SheetSketchAccessible.h"
 #include "SheetUnit.h"
 #include "SheetView.h"
 
@@ -14,6 +15,11 @@ QAccessibleInterface* Describe(const QString&, QObject* object)
 } // namespace
 
 SheetAccessible::SheetAccessible(SheetView& view) : QAccessibleWidget(&view, QAccessible::Dial) {}
+
+SheetAccessible::~SheetAccessible()
+{
+    if (_sketch) QAccessible::deleteAccessibleInterface(_sketch);
+}
 
 void SheetAccessible::Install()
 {
@@ -36,6 +42,24 @@ QString SheetAccessible::text(QAccessible::Text kind) const
 {
     return kind == QAccessible::Value ? SheetUnit::PrintAngle(View().Rotation())
                                       : QAccessibleWidget::text(kind);
+}
+
+QAccessibleInterface* SheetAccessible::child(int index) const
+{
+    if (index != 0) return nullptr;
+    if (!_sketch) _sketch = QAccessible::registerAccessibleInterface(new SheetSketchAccessible(View()));
+    return QAccessible::accessibleInterface(_sketch);
+}
+
+QAccessibleInterface* SheetAccessible::childAt(int x, int y) const
+{
+    QAccessibleInterface* const sketch = child(0);
+    return sketch->rect().contains(x, y) ? sketch : nullptr;
+}
+
+int SheetAccessible::indexOfChild(const QAccessibleInterface* child) const
+{
+    return child && child == this->child(0) ? 0 : -1;
 }
 
 QVariant SheetAccessible::currentValue() const

@@ -26,6 +26,8 @@ SheetLayout::SheetLayout(QSizeF sheet)
         detailSize);
 
     viewCentre = isLandscape ? QPointF(width * 0.38, height * 0.54) : QPointF(width * 0.5, height * 0.5);
+    // Where the view leaves room even when it is turned on its side.
+    sketchCentre = isLandscape ? QPointF(width * 0.81, height * 0.42) : QPointF(width * 0.31, height * 0.8);
 }
 
 QRectF SheetLayout::ViewFrame() const

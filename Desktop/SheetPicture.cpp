@@ -3,6 +3,8 @@
 #include "DraftingText.h"
 #include "SheetGrid.h"
 #include "SheetPart.h"
+#include "SheetSketchPicture.h"
+#include "SheetText.h"
 #include "SheetUnit.h"
 
 #include <QPainter>
@@ -11,8 +13,7 @@
 
 namespace {
 
-constexpr double kTextHeight = 5.0;   // mm of paper
-constexpr double kSmallestText = 5.0; // pixels
+constexpr double kTextHeight = 5.0; // mm of paper
 constexpr double kDetailMagnification = 1.5;
 constexpr double kDimmed = 0.25;
 constexpr QColor kWorkedOn(0x00, 0x60, 0xa8);
@@ -34,9 +35,9 @@ QPen CentrePen(const QColor& colour)
 
 } // namespace
 
-SheetPicture::SheetPicture(const SheetStyle& style, const SheetLook& look, const SheetCamera& camera,
-                           double rotation, const QString& format)
-    : _style(style), _look(look), _camera(camera), _rotation(rotation), _format(format),
+SheetPicture::SheetPicture(const SheetStyle& style, const SheetSketchStyle& sketch, const SheetLook& look,
+                           const SheetCamera& camera, double rotation, const QString& format)
+    : _style(style), _sketch(sketch), _look(look), _camera(camera), _rotation(rotation), _format(format),
       _layout(camera.Sheet()), _colours(style.sheet, style.sheetGraduated),
       _detailColours(style.detail, style.detailGraduated)
 {}
@@ -50,11 +51,22 @@ void SheetPicture::Paint(QPainter& painter) const
     if (!_look.isBackground) PaintBorder(painter);
     painter.setOpacity(_look.isBackground ? kDimmed : 1.0);
     PaintView(painter);
+    SheetSketchPicture(_sketch, _camera, _colours).Paint(painter, PartLine());
     painter.setRenderHint(QPainter::Antialiasing, false);
     PaintDetail(painter);
     painter.setOpacity(1.0);
     painter.setRenderHint(QPainter::Antialiasing);
     if (_look.isBackground) PaintBorder(painter);
+}
+
+void SheetPicture::PaintPick(QPainter& painter, QPointF pointer) const
+{
+    if (!_look.isBackground) SheetSketchPicture(_sketch, _camera, _colours).PaintPick(painter, pointer);
+}
+
+QRectF SheetPicture::SketchFrame() const
+{
+    return SheetSketchPicture(_sketch, _camera, _colours).Frame();
 }
 
 // A soft shadow, the surface and its edge.
@@ -280,22 +292,7 @@ void SheetPicture::PaintDetail(QPainter& painter) const
 void SheetPicture::PaintText(QPainter& painter, QPointF at, double height, double angle,
                              Qt::Alignment alignment, const QString& text) const
 {
-    const double pixels = height * _camera.PixelsPerMm();
-    if (pixels < kSmallestText || pixels > 2000.0 ||
-        !_camera.Area().adjusted(-pixels * 20.0, -pixels * 2.0, pixels * 20.0, pixels * 2.0).contains(at))
-        return;
-    painter.save();
-    QFont font = painter.font();
-    font.setPixelSize(static_cast<int>(std::lround(pixels)));
-    painter.setFont(font);
-    painter.translate(at);
-    painter.rotate(-angle);
-    const double wide = pixels * 40.0, high = pixels * 2.0;
-    QRectF box(0.0, 0.0, wide, high);
-    box.moveLeft(alignment & Qt::AlignLeft ? 0.0 : -wide / 2.0);
-    box.moveTop(alignment & Qt::AlignBottom ? -high : -high / 2.0);
-    painter.drawText(box, static_cast<int>(alignment), text);
-    painter.restore();
+    SheetText{height, angle, alignment}.Paint(painter, _camera, at, text);
 }
 
 QTransform SheetPicture::PartTransform() const

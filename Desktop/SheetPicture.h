@@ -4,6 +4,7 @@
 #include "SheetColours.h"
 #include "SheetLayout.h"
 #include "SheetLook.h"
+#include "SheetSketchStyle.h"
 #include "SheetStyle.h"
 
 #include <QPolygonF>
@@ -11,19 +12,22 @@
 
 class QPainter;
 
-// Draws a sheet and what is on it, as a camera sees it: surface, grid, sample view, detail sheet, title
-// block.
+// Draws a sheet and what is on it, as a camera sees it: surface, grid, sample view, sample sketch,
+// detail sheet, title block.
 class SheetPicture {
 public:
-    SheetPicture(const SheetStyle& style, const SheetLook& look, const SheetCamera& camera, double rotation,
-                 const QString& format);
+    SheetPicture(const SheetStyle& style, const SheetSketchStyle& sketch, const SheetLook& look,
+                 const SheetCamera& camera, double rotation, const QString& format);
 
     // Into the window's coordinates.
     void Paint(QPainter& painter) const;
+    // What a pointer at a place of the window would pick in the sketch; nothing while views are dimmed.
+    void PaintPick(QPainter& painter, QPointF pointer) const;
 
     // Places of the sample view in the window.
     QPolygonF ViewFrame() const;
     QPointF ViewCentre() const;
+    QRectF SketchFrame() const;
 
 private:
     void PaintSurface(QPainter& painter, const QRectF& sheet, const SheetColours& colours) const;
@@ -48,6 +52,7 @@ private:
     double PartLine() const;
 
     const SheetStyle& _style;
+    const SheetSketchStyle& _sketch;
     const SheetLook& _look;
     const SheetCamera& _camera;
     double _rotation;

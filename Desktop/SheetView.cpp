@@ -48,7 +48,7 @@ void SheetView::SetFormat(const SheetFormat& format, bool isLandscape)
 
 SheetPicture SheetView::Picture() const
 {
-    return {Style(), _look, _camera, _rotation, _format};
+    return {Style(), Sketch(), _look, _camera, _rotation, _format};
 }
 
 void SheetView::SetLook(const SheetLook& look)
@@ -98,6 +98,11 @@ void SheetView::ZoomBy(double factor)
 QPointF SheetView::Handle() const
 {
     return SheetMarkers::HandleAt(Picture().ViewFrame());
+}
+
+QRectF SheetView::SketchFrame() const
+{
+    return Picture().SketchFrame();
 }
 
 // The rulers take their part of the window while they are shown.
@@ -207,6 +212,7 @@ void SheetView::PaintOverlay(QPainter& painter) const
             markers.PaintAngle(painter, Handle(), _camera.Area(), SheetUnit::PrintAngle(_rotation));
     }
     if (_hand != Hand::Free || _spaceHeld) return;
+    if (_cursor) picture.PaintPick(painter, *_cursor);
     if (const std::optional<QPointF> place = SnappedPlace())
         markers.PaintCross(painter, _camera.ToWindow(*place), Style().snapsToGrid);
     if (hasFocus() && _showsFocus) {

@@ -27,6 +27,7 @@ public:
 
     const SheetCamera& Camera() const { return _camera; }
     const SheetStyle& Style() const { return _settings.Style(); }
+    const SheetSketchStyle& Sketch() const { return _settings.Sketch(); }
 
     void SetFormat(const SheetFormat& format, bool isLandscape);
     QString FormatName() const { return _format; }
@@ -49,6 +50,8 @@ public:
 
     // The middle of the handle that turns the view, in the window.
     QPointF Handle() const;
+    // The frame of the sketch, in the window.
+    QRectF SketchFrame() const;
 
     QSize sizeHint() const override { return {900, 640}; }
     QSize minimumSizeHint() const override { return {240, 180}; }

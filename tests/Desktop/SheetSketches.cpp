@@ -1,0 +1,203 @@
+#include "KivDrwDraftingSettings.h"
+#include "KivDrwKeys.h"
+#include "KivDrwRepository.h"
+#include "KivDrwSketcherSettings.h"
+#include "SheetAccessible.h"
+#include "SheetLayout.h"
+#include "SheetView.h"
+#include "Support/KivSettingsSandbox.h"
+
+#include <QTest>
+#include <climits>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+
+namespace {
+
+using namespace KivDrwKeys;
+
+class SheetSketches : public testing::Test {
+protected:
+    SheetSketches()
+    {
+        box.Reopen();
+        repository = KivDrwRepository();
+        sketcher = std::make_unique<KivDrwSketcherSettings>();
+        settings = std::make_unique<SheetSettings>(drafting, *sketcher, repository);
+        view = std::make_unique<SheetView>(*settings);
+        view->SelectView(false);
+        view->resize(1100, 800);
+        view->show();
+    }
+    template <class T> void Write(const KivDrwKey<T>& key, T value)
+    {
+        repository->WriteSetting(key.name, &value, 1, 0);
+    }
+    QImage Grab() const { return view->grab().toImage(); }
+    QImage Sketch() const { return Grab().copy(view->SketchFrame().toAlignedRect()); }
+    // How many points of the sketch have a colour.
+    int Count(QRgb colour) const
+    {
+        const QImage sketch = Sketch();
+        int count = 0;
+        for (int y = 0; y < sketch.height(); ++y)
+            for (int x = 0; x < sketch.width(); ++x)
+                count += (sketch.pixel(x, y) & 0xFFFFFFU) == (colour & 0xFFFFFFU);
+        return count;
+    }
+
+    KivSettingsSandbox box;
+    KivSettingRepository* repository;
+    KivDrwDraftingSettings drafting;
+    std::unique_ptr<KivDrwSketcherSettings> sketcher;
+    std::unique_ptr<SheetSettings> settings;
+    std::unique_ptr<SheetView> view;
+};
+
+TEST_F(SheetSketches, EachSettingShowsWhenTheSketcherIsToldAndIsTakenBack)
+{
+    const QImage before = Grab();
+    const QRect frame = view->SketchFrame().toAlignedRect();
+    const auto expectChange = [&](const char* name) {
+        EXPECT_EQ(Grab(), before) << name << ": not told yet";
+        sketcher->GeomUIModify();
+        QImage after = Grab();
+        EXPECT_NE(after, before) << name;
+        for (int y = frame.top(); y <= frame.bottom(); ++y)
+            for (int x = frame.left(); x <= frame.right(); ++x) after.setPixel(x, y, before.pixel(x, y));
+        EXPECT_EQ(after, before) << name << ": beside the sketch";
+        repository->Rollback();
+        EXPECT_EQ(Grab(), before) << name << ": taken back";
+    };
+    for (const auto& key : {CstVisu, CstVisuHori, CstVisuVerti, CstVisuPara, CstVisuPerpen, CstVisuConcen,
+                            CstVisuCoinci, CstVisuTangen, CstVisuSym, CstColorR, CstColorG, CstColorB,
+                            DrwEndPtsDuplGenGeom, Drw_settings_CreateCenter, Drw_settings_DragElts,
+                            Drw_settings_DragWithEndPts, Drw_settings_ShowPosition, Drw_settings_DiagElts}) {
+        Write(key, key.makeDefault() ? 0 : 255);
+        expectChange(key.name);
+    }
+    for (const auto& key : {Drw_settings_ColorDiagOverDefinedElts, Drw_settings_ColorDiagNotConsistentElts,
+                            Drw_settings_ColorDiagNotChangedElts, Drw_settings_ColorDiagWellDefinedElts,
+                            Drw_settings_ColorConstructElts}) {
+        Write(key, 0x12ABCDU);
+        expectChange(key.name);
+    }
+    Write(CstRefSize, 3.0);
+    expectChange(CstRefSize.name);
+}
+
+TEST_F(SheetSketches, DiagnosticColoursAreShownAsChosenWhileTheirSwitchIsOn)
+{
+    const unsigned int odd = 0x12ABCDU;
+    for (const auto& key : {Drw_settings_ColorDiagOverDefinedElts, Drw_settings_ColorDiagNotConsistentElts,
+                            Drw_settings_ColorDiagNotChangedElts, Drw_settings_ColorDiagWellDefinedElts}) {
+        sketcher->SetDiagElts(1, 1);
+        Write(key, odd);
+        sketcher->GeomUIModify();
+        EXPECT_GT(Count(odd), 10) << key.name;
+        sketcher->SetDiagElts(0, 1);
+        EXPECT_EQ(Count(odd), 0) << key.name;
+        repository->Rollback();
+    }
+}
+
+// OK on the page of these settings tells the sketcher nothing.
+TEST_F(SheetSketches, OkIsFollowedWithoutANotification)
+{
+    const QImage before = Grab();
+    sketcher->SetDiagElts(0, 0);
+    Write(Drw_settings_ColorConstructElts, 0xFF0000U);
+    EXPECT_EQ(Grab(), before);
+    ASSERT_EQ(repository->SaveRepository(nullptr), S_OK);
+    EXPECT_NE(Grab(), before);
+    EXPECT_EQ(settings->Sketch().construction, QColor(Qt::red));
+}
+
+TEST_F(SheetSketches, APointerMarksWhatItWouldPick)
+{
+    const unsigned int odd = 0x12ABCDU;
+    Write(Drw_settings_ColorSmartPick, odd);
+    sketcher->GeomUIModify();
+    // In the sketch's mm around its middle: on the left line; level with the foot, right of it; beside all.
+    const auto point = [&](double x, double y) {
+        const QRectF frame = view->SketchFrame();
+        const double scale = frame.width() / 112.0;
+        QTest::mouseMove(view.get(), (frame.center() + QPointF(x, -y) * scale).toPoint());
+        return Count(odd);
+    };
+    EXPECT_GT(point(-44.0, 16.0), 10);
+    EXPECT_GT(point(48.0, -12.0), 10);
+    EXPECT_EQ(point(50.0, 40.0), 0);
+    sketcher->SetPosSupports(0, 1);
+    sketcher->SetPosHorVertTo(0, 1);
+    EXPECT_EQ(point(-44.0, 16.0), 0);
+    EXPECT_EQ(point(48.0, -12.0), 0);
+}
+
+TEST_F(SheetSketches, NonsenseIsBorne)
+{
+    const double infinite = std::numeric_limits<double>::infinity();
+    for (const double size : {-1.0, 0.0, std::nan(""), infinite, -infinite, 1.0e300, 1.0e-300, 100.0})
+        for (const int number : {INT_MIN, -1, INT_MAX})
+            for (const double zoom : {1.0e-9, 1.0, 1.0e9}) {
+                Write(CstRefSize, size);
+                for (const auto& key : {CstVisu, CstVisuHori, CstColorR, CstColorG, CstColorB,
+                                        Drw_settings_DragModeR14, Drw_settings_DiagElts})
+                    Write(key, number);
+                Write(Drw_settings_ColorDiagWellDefinedElts, static_cast<unsigned int>(number));
+                Write(Drw_settings_ColorSmartPick, static_cast<unsigned int>(number));
+                sketcher->Visu3DUIModify();
+                sketcher->CpltModify();
+                view->ZoomTo(zoom);
+                QTest::mouseMove(view.get(), view->SketchFrame().center().toPoint());
+                QElapsedTimer clock;
+                clock.start();
+                ASSERT_FALSE(Grab().isNull());
+                ASSERT_LT(clock.elapsed(), 500) << size << ", " << number << ", " << zoom;
+                ASSERT_GE(settings->Sketch().symbolSize, 0.0);
+            }
+    const SheetSettings without(drafting, *sketcher); // has no repository
+    EXPECT_EQ(without.Sketch().symbolSize, 2.0);
+}
+
+TEST_F(SheetSketches, AScreenReaderIsToldWhatIsShown)
+{
+    SheetAccessible sheet(*view);
+    ASSERT_EQ(sheet.childCount(), 1);
+    QAccessibleInterface* const sketch = sheet.child(0);
+    EXPECT_EQ(sheet.indexOfChild(sketch), 0);
+    EXPECT_EQ(sheet.childAt(sketch->rect().center().x(), sketch->rect().center().y()), sketch);
+    EXPECT_FALSE(sketch->text(QAccessible::Name).isEmpty());
+    EXPECT_TRUE(sketch->text(QAccessible::Description).contains("tangent"));
+    Write(CstVisuTangen, 0);
+    sketcher->CpltModify();
+    EXPECT_FALSE(sketch->text(QAccessible::Description).contains("tangent"));
+    EXPECT_TRUE(sketch->text(QAccessible::Description).contains("symmetric"));
+    view->ZoomTo(64.0);
+    EXPECT_TRUE(sketch->state().offscreen);
+    view.reset();
+    EXPECT_FALSE(sketch->isValid());
+}
+
+// Every format has room for the sketch beside the view, detail and title block.
+TEST_F(SheetSketches, ItCoversNothingElse)
+{
+    for (const SheetFormat& format : SheetFormat::All())
+        for (const bool isLandscape : {true, false}) {
+            view->SetFormat(format, isLandscape);
+            const SheetLayout layout(view->Camera().Sheet());
+            const auto inWindow = [&](const QRectF& paper) {
+                return QRectF(view->Camera().ToWindow(paper.topLeft()),
+                              view->Camera().ToWindow(paper.bottomRight()))
+                    .normalized();
+            };
+            const QRectF sketch = view->SketchFrame();
+            EXPECT_TRUE(inWindow(layout.border).contains(sketch)) << format.name << isLandscape;
+            for (const QRectF& other :
+                 {layout.titleBlock, layout.detail, layout.ViewFrame().translated(layout.viewCentre)})
+                EXPECT_FALSE(inWindow(other).intersects(sketch)) << format.name << isLandscape;
+        }
+}
+
+} // namespace
