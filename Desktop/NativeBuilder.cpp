@@ -5,6 +5,7 @@
 #include "Dialog/KivComboWeight.h"
 #include "NativeCheckButton.h"
 #include "NativeColourCombo.h"
+#include "NativeDirectoryRow.h"
 #include "NativeEditor.h"
 #include "NativeGrid.h"
 #include "NativeGroup.h"
@@ -31,6 +32,20 @@ template <class Native> NativePiece* Make(KivDialog& node, QWidget* parent)
     return new Native(node, parent);
 }
 
+NativePiece* MakeEditor(KivDialog& node, QWidget* parent)
+{
+    if (!static_cast<KivDlgEditor&>(node).IsDirectory()) return Make<NativeEditor>(node, parent);
+    return &(new NativeDirectoryRow(node, parent))->Field();
+}
+
+// What stands in the cell of a piece: its widget, or the row that it shares with others.
+QWidget* StandsFor(const NativePiece& piece, const QWidget* surface)
+{
+    QWidget* widget = piece.Widget();
+    while (widget->parentWidget() != surface) widget = widget->parentWidget();
+    return widget;
+}
+
 // Which native class serves which kind of node; a kind stands before its bases.
 constexpr struct {
     const char* kind;
@@ -43,7 +58,7 @@ constexpr struct {
     {KivDlgLabel::Name, &Make<NativeLabel>},
     {KivDlgLock::Name, &Make<NativePadlock>},
     {KivDlgSpinner::Name, &Make<NativeSpinner>},
-    {KivDlgEditor::Name, &Make<NativeEditor>},
+    {KivDlgEditor::Name, &MakeEditor},
     {KivComboColor::Name, &Make<NativeColourCombo>},
     {KivComboDashed::Name, &Make<NativeTypeCombo>},
     {KivComboWeight::Name, &Make<NativeWeightCombo>},
@@ -95,7 +110,7 @@ void FillGrid(KivDialog& frame, QWidget* surface, NativeGroup* inGroup)
         if (!piece) continue;
         unsigned int attachment = cell.node->GetGridConstraints().attachment;
         if (FillsColumn(cell, grid)) attachment |= KivDlgAttachLeft | KivDlgAttachRight;
-        layout->addWidget(piece->Widget(), cell.row, cell.column, cell.rows, cell.columns,
+        layout->addWidget(StandsFor(*piece, surface), cell.row, cell.column, cell.rows, cell.columns,
                           Alignment(attachment));
         if (auto* group = dynamic_cast<NativeGroup*>(piece)) {
             FillGrid(*cell.node, group->Content(), group);

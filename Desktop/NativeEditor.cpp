@@ -1,18 +1,30 @@
 #include "NativeEditor.h"
 
 #include "Dialog/KivUserHand.h"
+#include "DirectoryPath.h"
+#include "NativeDescription.h"
 #include "NativeText.h"
 
+#include <QAction>
+#include <QFileDialog>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QStyle>
 
-NativeEditor::NativeEditor(KivDialog& node, QWidget* parent) : QLineEdit(parent), NativePieceFor(node, this)
-{}
+NativeEditor::NativeEditor(KivDialog& node, QWidget* parent)
+    : QLineEdit(parent), NativePieceFor(node, this),
+      _mark(new QAction(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this), QString(), this))
+{
+    addAction(_mark, TrailingPosition);
+    _mark->setVisible(false);
+    connect(this, &QLineEdit::textEdited, this, [this] { Complain({}); });
+}
 
 void NativeEditor::ShowNode()
 {
     if (!isModified() || ToQt(TreeNode()->GetText()) != _shown) ShowText();
+    Describe();
 }
 
 void NativeEditor::ShowText()
@@ -21,16 +33,65 @@ void NativeEditor::ShowText()
     _shown = ToQt(TreeNode()->GetText());
     if (text() != _shown) setText(_shown);
     setModified(false);
+    CheckDirectory();
 }
 
 bool NativeEditor::CommitText()
 {
-    if (!TreeNode() || !isModified()) return true;
+    if (isModified()) Enter(text());
+    return true;
+}
+
+void NativeEditor::Enter(const QString& text)
+{
+    if (!TreeNode()) return;
     const QPointer<QWidget> self(this);
     // Only a field that cannot be used refuses a text: what the tree has is shown again then.
-    KivUserHand::Type(*TreeNode(), FromQt(text()));
+    KivUserHand::Type(*TreeNode(), FromQt(text));
     if (self) ShowText();
-    return true;
+}
+
+QFileDialog* NativeEditor::OpenChooser()
+{
+    auto* const chooser = new QFileDialog(this, WindowText("ChooseDirectory"), DirectoryPath(text()).Start());
+    chooser->setAttribute(Qt::WA_DeleteOnClose);
+    chooser->setFileMode(QFileDialog::Directory);
+    chooser->setOption(QFileDialog::ShowDirsOnly);
+    connect(chooser, &QFileDialog::fileSelected, this, &NativeEditor::Enter);
+    chooser->open();
+    return chooser;
+}
+
+void NativeEditor::CheckDirectory()
+{
+    const bool isMissing = TreeNode() && TreeNode()->IsDirectory() && DirectoryPath(_shown).IsMissing();
+    Complain(isMissing ? WindowText("NoDirectory").arg(_shown) : QString());
+}
+
+void NativeEditor::Complain(const QString& complaint)
+{
+    if (complaint == _complaint) return;
+    _complaint = complaint;
+    _mark->setVisible(!complaint.isEmpty());
+    _mark->setToolTip("<qt>" + complaint.toHtmlEscaped() + "</qt>"); // a path may look like markup
+    Describe();
+}
+
+// Why a field cannot be used matters more than what stands in it.
+void NativeEditor::Describe()
+{
+    if (!TreeNode()) return;
+    NativeDescription(*TreeNode()).ShowOn(*this);
+    if (_complaint.isEmpty() || !isEnabled()) return;
+    setToolTip(_mark->toolTip());
+    setAccessibleDescription(_complaint);
+}
+
+bool NativeEditor::event(QEvent* event)
+{
+    // The user may have made the directory meanwhile, or taken it away.
+    if (event->type() == QEvent::WindowActivate && !isModified()) CheckDirectory();
+    return QLineEdit::event(event);
 }
 
 void NativeEditor::keyPressEvent(QKeyEvent* event)

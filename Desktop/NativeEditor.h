@@ -6,7 +6,10 @@
 
 #include <QLineEdit>
 
-// A field for a line of text, entered with Enter or by leaving it.
+class QFileDialog;
+
+// A field for a line of text, entered with Enter or by leaving it. Where the text is the path of a directory
+// and leads to none it is marked, not refused: it may be meant for later or for another machine.
 class NativeEditor : public QLineEdit, public NativePieceFor<KivDlgEditor>, public NativeField {
 public:
     NativeEditor(KivDialog& node, QWidget* parent);
@@ -14,13 +17,25 @@ public:
     bool CommitText() override;
     bool IsTyping() const override { return isModified(); }
 
+    // Non-modal for the tree: the directory is entered when the dialog is accepted.
+    QFileDialog* OpenChooser();
+    // What is wrong with the path that is shown, else empty.
+    const QString& Complaint() const { return _complaint; }
+
 protected:
     void ShowNode() override;
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void ShowText();
+    void Enter(const QString& text);
+    void CheckDirectory();
+    void Complain(const QString& complaint);
+    void Describe();
 
     QString _shown; // as in NativeSpinner
+    QString _complaint;
+    QAction* _mark; // beside a path that leads nowhere
 };

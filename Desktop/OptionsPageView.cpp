@@ -1,6 +1,7 @@
 #include "OptionsPageView.h"
 
 #include "NativeBuilder.h"
+#include "NativeDirectoryButton.h"
 #include "NativePiece.h"
 
 OptionsPageView::OptionsPageView(KivEditorPage* page, QWidget* parent) : QScrollArea(parent), _page(page)
@@ -24,8 +25,9 @@ QList<QWidget*> OptionsPageView::Fields() const
     // The builder makes them in reading order. A padlock takes part also while it is open: it may close.
     const QList<QWidget*> widgets = widget()->findChildren<QWidget*>();
     for (QWidget* candidate : widgets) {
-        const auto* piece = dynamic_cast<NativePiece*>(candidate);
-        if (piece && (candidate->focusPolicy() & Qt::TabFocus || candidate->inherits("QAbstractButton")))
+        const bool isField =
+            dynamic_cast<NativePiece*>(candidate) || qobject_cast<NativeDirectoryButton*>(candidate);
+        if (isField && (candidate->focusPolicy() & Qt::TabFocus || candidate->inherits("QAbstractButton")))
             fields << candidate;
     }
     return fields;

@@ -1,34 +1,14 @@
 #include "SettingsWatch.h"
 
-#include "NativeText.h"
+#include "ReachablePlace.h"
 #include "Settings/KivSettingLayers.h"
 #include "Settings/KivSettingRepository.h"
-#include "Settings/KivTimedReading.h"
 
 #include <QGuiApplication>
-#include <algorithm>
-#include <unistd.h>
 
 namespace {
 
 constexpr int kSoon = 30; // milliseconds
-
-// The directory or file itself, or the nearest thing above it that is there. Null text when it lies on a
-// share that does not answer.
-QString Answering(const KivUnicodeString& place)
-{
-    const auto look = [](const KivUnicodeString& path) {
-        KivFileContent found;
-        std::string_view at = path.View();
-        while (at.size() > 1 && access(std::string(at).c_str(), F_OK) != 0)
-            at = at.substr(0, std::max<std::size_t>(at.rfind('/'), 1));
-        found.text = at;
-        found.state = KivFileContent::State::Read;
-        return found;
-    };
-    const KivFileContent found = std::move(KivReadInTime({place}, std::chrono::milliseconds(200), look)[0]);
-    return found.state == KivFileContent::State::Read ? ToQt(KivUnicodeString(found.text)) : QString();
-}
 
 } // namespace
 
@@ -62,7 +42,7 @@ void SettingsWatch::WatchPlaces()
     for (const KivUnicodeString& file : _repository.Files()) {
         const std::string_view path = file.View();
         for (const std::string_view place : {path, path.substr(0, path.rfind('/'))}) {
-            const QString found = Answering(KivUnicodeString(place));
+            const QString found = ReachablePlace(KivUnicodeString(place));
             if (!found.isEmpty() && !wanted.contains(found)) wanted << found;
         }
     }

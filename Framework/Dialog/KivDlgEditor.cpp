@@ -6,3 +6,15 @@ void KivDlgEditor::SetText(const KivUnicodeString& text, int notify)
     Changed();
     if (notify) SendNotification(&_modified);
 }
+
+void KivDlgEditor::SetVisibleTextWidth(int characters)
+{
+    _textWidth = characters;
+    Changed();
+}
+
+void KivDlgEditor::SetIsDirectory(bool isDirectory)
+{
+    _isDirectory = isDirectory;
+    Changed();
+}

@@ -14,7 +14,18 @@ public:
     // What a user has typed and committed.
     KivNotification* GetEditModifyNotification() const { return &_modified; }
 
+    // How many characters it shows at once; 0 leaves that to the native field.
+    void SetVisibleTextWidth(int characters);
+    int GetVisibleTextWidth() const { return _textWidth; }
+
+    // The text is the path of a directory: a native field offers to choose one. Any text may be typed all the
+    // same, also a path that does not exist.
+    void SetIsDirectory(bool isDirectory);
+    bool IsDirectory() const { return _isDirectory; }
+
 private:
     KivUnicodeString _text;
+    int _textWidth = 0;
+    bool _isDirectory = false;
     mutable KivNotification _modified{"KivDlgEditModifyNotification"};
 };

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "Base/KivUnicodeString.h"
+
+#include <QString>
+
+// The file or directory of an absolute path, or the nearest thing above it that is there. Null text when it
+// lies on a share that does not answer.
+QString ReachablePlace(const KivUnicodeString& path);

@@ -1,0 +1,107 @@
+#include "NativeDirectoryButton.h"
+#include "NativeEditor.h"
+#include "NativeFixture.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QTemporaryDir>
+
+namespace {
+
+class NativeDirectories : public NativeFixture {
+protected:
+    void SetUp() override
+    {
+        tree.file->SetIsDirectory(true);
+        NativeFixture::SetUp();
+        field = static_cast<NativeEditor*>(WidgetOf(tree.file));
+    }
+    QString Path(const char* below) const { return place.path() + below; }
+    void Show(const QString& path) { tree.file->SetText(path.toUtf8().constData(), 0); }
+    NativeDirectoryButton* Button() const { return area->findChild<NativeDirectoryButton*>(); }
+
+    QTemporaryDir place;
+    NativeEditor* field = nullptr;
+};
+
+TEST_F(NativeDirectories, AMissingOneIsKeptAndMarkedAndFollowsTheDisk)
+{
+    QFile file(Path("/file"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const struct {
+        QString path;
+        bool missing;
+    } cases[] = {{place.path(), false}, {Path("/"), false},      {"", false},
+                 {Path("/no"), true},   {Path("/file"), true},   {Path("/no/such/one"), true},
+                 {"no-such", true},     {"/\n\x01", true},       {QString(5000, 'x'), true},
+                 {".", false},          {Path("/file/x"), true}, {"//", false}};
+    for (const auto& [path, missing] : cases) {
+        field->setFocus();
+        field->selectAll();
+        field->insert(path);
+        field->setModified(true);
+        QTest::keyClick(field, Qt::Key_Return);
+        EXPECT_EQ(QString::fromUtf8(tree.file->GetText().ConvertToChar()), field->text()) << "never refused";
+        EXPECT_EQ(!field->Complaint().isEmpty(), missing) << path.toStdString();
+    }
+
+    Show(Path("/later"));
+    EXPECT_EQ(field->accessibleDescription(), "There is no such directory: " + Path("/later"));
+    EXPECT_TRUE(field->toolTip().contains(Path("/later")));
+    QDir().mkdir(Path("/later"));
+    QEvent activated(QEvent::WindowActivate);
+    QApplication::sendEvent(area.get(), &activated);
+    EXPECT_EQ(field->Complaint(), "");
+    EXPECT_EQ(field->accessibleDescription(), "Where symbols are looked for.");
+    QDir().rmdir(Path("/later"));
+    QApplication::sendEvent(area.get(), &activated);
+    EXPECT_NE(field->Complaint(), "");
+    tree.file->SetSensitivity(KivDlgDisabled);
+    EXPECT_NE(field->accessibleDescription(), field->Complaint()) << "why it is grey comes first";
+    EXPECT_FALSE(Button()->isEnabled());
+    EXPECT_EQ(Button()->toolTip(), field->toolTip());
+    EXPECT_EQ(Button()->accessibleDescription(), field->accessibleDescription());
+    tree.file->SetSensitivity(KivDlgEnabled);
+    EXPECT_EQ(Button()->toolTip(), "Choose a directory");
+    tree.file->SetVisibility(KivDlgHidden);
+    EXPECT_FALSE(Button()->isVisible());
+}
+
+TEST_F(NativeDirectories, TheChooserBeginsWhereTheTextLeadsAndEntersWhatIsChosen)
+{
+    QDir().mkdir(Path("/chosen"));
+    Show(Path("/no/such"));
+    EXPECT_EQ(Button()->accessibleName(), "Choose a directory");
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_Tab);
+    EXPECT_TRUE(Button()->hasFocus());
+    Listener typed(tree.file, tree.file->GetEditModifyNotification());
+    QTest::keyClick(Button(), Qt::Key_Space);
+    const QPointer<QFileDialog> chooser = field->findChild<QFileDialog*>();
+    ASSERT_TRUE(chooser);
+    EXPECT_EQ(chooser->directory().absolutePath(), place.path());
+    chooser->reject();
+    EXPECT_EQ(typed.heard, 0);
+
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, Path("/chosen/x"));
+    QFileDialog* const second = field->OpenChooser();
+    EXPECT_EQ(second->directory().absolutePath(), Path("/chosen")) << "what is typed and not entered yet";
+    emit second->fileSelected(Path("/chosen"));
+    EXPECT_EQ(field->text(), Path("/chosen"));
+    EXPECT_EQ(tree.file->GetText(), Path("/chosen").toUtf8().constData());
+    EXPECT_EQ(typed.heard, 1);
+    EXPECT_EQ(field->Complaint(), "");
+    second->close();
+    // A tree that goes while its directory is being chosen takes the field along.
+    QFileDialog* const third = field->OpenChooser();
+    page.reset();
+    emit third->fileSelected(Path("/chosen"));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(Button());
+}
+
+} // namespace
