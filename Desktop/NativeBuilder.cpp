@@ -86,14 +86,15 @@ Qt::Alignment Alignment(unsigned int attachment)
     return alignment;
 }
 
-// Spinners that have a column to themselves are all as wide as it: they line up on both sides.
+// Spinners, or combos, that have a column to themselves are all as wide as it: they line up on both sides.
 bool FillsColumn(const NativeCell& cell, const NativeGrid& grid)
 {
-    return cell.columns == 1 &&
-           std::all_of(grid.Cells().begin(), grid.Cells().end(), [&](const NativeCell& other) {
-               return other.column != cell.column || other.columns > 1 ||
-                      other.node->IsAKindOf(KivDlgSpinner::Name);
-           });
+    const auto hasOnly = [&](const char* kind) {
+        return std::all_of(grid.Cells().begin(), grid.Cells().end(), [&](const NativeCell& other) {
+            return other.column != cell.column || other.columns > 1 || other.node->IsAKindOf(kind);
+        });
+    };
+    return cell.columns == 1 && (hasOnly(KivDlgSpinner::Name) || hasOnly(KivDlgCombo::Name));
 }
 
 void FillGrid(KivDialog& frame, QWidget* surface, NativeGroup* inGroup)

@@ -12,6 +12,15 @@
 #include <QPointer>
 #include <QStyle>
 
+#include <algorithm>
+
+namespace {
+
+constexpr int kUsualLetters = 17; // of a line edit
+constexpr int kMostLetters = 80;
+
+} // namespace
+
 NativeEditor::NativeEditor(KivDialog& node, QWidget* parent)
     : QLineEdit(parent), NativePieceFor(node, this),
       _mark(new QAction(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this), QString(), this))
@@ -117,4 +126,14 @@ void NativeEditor::focusOutEvent(QFocusEvent* event)
     if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
         CommitText();
     if (self) QLineEdit::focusOutEvent(event);
+}
+
+QSize NativeEditor::sizeHint() const
+{
+    QSize size = QLineEdit::sizeHint();
+    const int asked = TreeNode() ? TreeNode()->GetVisibleTextWidth() : 0;
+    if (asked > 0)
+        size.rwidth() +=
+            (std::min(asked, kMostLetters) - kUsualLetters) * fontMetrics().horizontalAdvance(u'x');
+    return size;
 }

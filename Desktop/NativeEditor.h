@@ -16,6 +16,7 @@ public:
 
     bool CommitText() override;
     bool IsTyping() const override { return isModified(); }
+    QSize sizeHint() const override;
 
     // Non-modal for the tree: the directory is entered when the dialog is accepted.
     QFileDialog* OpenChooser();

@@ -24,7 +24,7 @@
 
 namespace {
 
-constexpr int kLettersWide = 92;
+constexpr int kLettersWide = 148; // the pages in two columns
 constexpr int kLinesHigh = 34;
 
 } // namespace

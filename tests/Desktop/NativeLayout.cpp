@@ -24,6 +24,13 @@ TEST_F(NativeLayout, PadlocksLabelsAndFieldsAlignDownAGroup)
     EXPECT_LE(WidgetOf(tree.vertical)->geometry().right(), WidgetOf(tree.grid)->width());
 }
 
+TEST_F(NativeLayout, ATextFieldIsAsWideAsItsPageAsks)
+{
+    const int usual = WidgetOf(tree.file)->sizeHint().width();
+    tree.file->SetVisibleTextWidth(45);
+    EXPECT_GT(WidgetOf(tree.file)->sizeHint().width(), 2 * usual);
+}
+
 TEST_F(NativeLayout, AReservedControlKeepsItsPlaceUnseen)
 {
     auto* space =

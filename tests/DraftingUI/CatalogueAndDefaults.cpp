@@ -1,3 +1,4 @@
+#include "Host/PageTables.h"
 #include "KivDrwCatalogue.h"
 #include "KivDrwOptionsServices.h"
 #include "KivDrwRepository.h"
@@ -6,6 +7,8 @@
 #include "Support/KivSettingsSandbox.h"
 
 #include <gtest/gtest.h>
+#include <map>
+#include <set>
 
 namespace {
 
@@ -185,6 +188,26 @@ TEST(ComputedDefaults, StyleFilesAreFoundOnceAndSorted)
     EXPECT_EQ(list.Size(), 0);
     const KivUnicodeString same("x");
     EXPECT_EQ(CompareStrings(&same, &same), -1);
+}
+
+// The buttons of a choice, and the list beside one, count as one control.
+TEST(Catalogue, EveryKeyOfAPageIsEditedInOnePlace)
+{
+    std::map<std::string, std::set<std::string>> places;
+    const auto visit = [&](const char* place, const std::vector<TableRow>& rows) {
+        for (const TableRow& row : rows) {
+            const std::string control = row.control;
+            const bool isOfChoice = control.starts_with("rad") || control == "comboSymbol";
+            for (const std::string& key : row.keys) places[key].insert(isOfChoice ? place : control);
+        }
+    };
+    for (const PageTable& table : PageTables()) {
+        visit(table.page, table.rows);
+        for (const WindowTable& window : table.windows) visit(window.name, window.rows);
+    }
+    for (const KivDrwRow& row : KivDrwCatalogue::Rows())
+        EXPECT_EQ(places[row.key].size(), row.onPage ? 1U : 0U) << row.key;
+    EXPECT_EQ(places.size(), KivDrwCatalogue::Rows().size());
 }
 
 } // namespace

@@ -82,7 +82,8 @@ TEST_F(OptionsManager, OffersThePagesThatHaveSomethingToShow)
     std::string titles;
     for (const KivOptionsSession::Page& page : session.Pages())
         titles += std::string(page.title.View()) + " ";
-    EXPECT_EQ(titles, "General View Generation Manipulators Annotation Compatibility Administration ");
+    EXPECT_EQ(titles, "General Layout View Generation Geometry Dimension Manipulators Annotation "
+                      "Compatibility Administration ");
     const KivOptionsSession::Page& page = session.Pages()[0];
     EXPECT_EQ(page.title, "General");
     EXPECT_NE(page.frame->FindDialog("DrwSet"), nullptr);

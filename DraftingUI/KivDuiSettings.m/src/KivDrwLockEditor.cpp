@@ -6,3 +6,10 @@ KivDrwLockEditor::KivDrwLockEditor(KivSettingRepository* repository, const KivSt
 {
     Wrap(MakeControl(name, style));
 }
+
+KivDrwLockEditor::KivDrwLockEditor(KivDialog* parent, const KivString& name, const KivSettingInfo& info,
+                                   unsigned long style)
+    : KivDrwLockControlOf(parent, name, info)
+{
+    Wrap(MakeControl(name, style));
+}

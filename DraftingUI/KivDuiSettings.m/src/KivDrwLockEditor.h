@@ -9,6 +9,8 @@ public:
     static constexpr const char* Name = "KivDrwLockEditor";
     KivDrwLockEditor(KivSettingRepository* repository, const KivString& attributeName, KivDialog* parent,
                      const KivString& name, unsigned long style);
+    KivDrwLockEditor(KivDialog* parent, const KivString& name, const KivSettingInfo& info,
+                     unsigned long style);
 
     // The field itself, on which pages also subscribe; null without a control.
     KivDlgEditor* GetEditor() const { return Wrapped(); }

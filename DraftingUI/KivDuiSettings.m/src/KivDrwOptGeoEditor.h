@@ -1,8 +1,9 @@
 #pragma once
 
+#include "KivDrwOptGeoFrm.h"
 #include "KivDrwTabEditor.h"
 
-class KivDrwOptGeoEditor final : public KivDrwTabEditor<KivDrwOptGeoEditor> {
+class KivDrwOptGeoEditor final : public KivDrwTabEditor<KivDrwOptGeoEditor, KivDrwOptGeoFrm> {
 public:
     static constexpr const char* Name = "KivDrwOptGeoEditor";
     static constexpr KivDrwGroup Group = KivDrwGroup::Geometry;

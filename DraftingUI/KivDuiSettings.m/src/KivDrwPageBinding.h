@@ -2,6 +2,7 @@
 
 #include "KivDrwBackgroundColour.h"
 #include "KivDrwSettingAccess.h"
+#include "KivDrwStoredColour.h"
 #include "KivPageValue.h"
 
 // The type of the value that a frame's Set accessor takes.
@@ -27,8 +28,8 @@ template <auto accessor> using KivValueOf = typename KivAccessorValue<decltype(a
         return KivDrwGetInfo(_repository, key, info);                                                        \
     }
 
-// The same for a background colour.
-#define KIV_BIND_BACKGROUND(colour, SetAccessor, GetAccessor, GetInfoAccessor)                               \
+// The same for a colour, in whatever form it is stored.
+#define KIV_BIND_COLOUR(colour, SetAccessor, GetAccessor, GetInfoAccessor)                                   \
     int SetAccessor(const int& r, const int& g, const int& b) override                                       \
     {                                                                                                        \
         colour.Write(_repository, r, g, b);                                                                  \

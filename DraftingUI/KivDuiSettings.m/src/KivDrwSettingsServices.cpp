@@ -4,18 +4,13 @@
 #include "KivDrwLockCheckButton.h"
 #include "KivDrwLockComboColor.h"
 #include "KivDrwLockSpinner.h"
+#include "KivDrwStoredColour.h"
 
 namespace {
 
 bool Sent(const KivDrwLockDialog* wrapper, const KivCommand* from)
 {
     return wrapper && from && wrapper->GetDialog() == from;
-}
-
-bool IsColour(int r, int g, int b)
-{
-    const auto inRange = [](int component) { return component >= 0 && component <= 255; };
-    return inRange(r) && inRange(g) && inRange(b);
 }
 
 } // namespace
@@ -41,7 +36,7 @@ HRESULT KivDrwSettingsServices::GetValueFromComboColor(KivDrwLockComboColor* com
     if (!Sent(combo, from)) return E_FAIL;
     int red = 0, green = 0, blue = 0;
     GetColorRGB(combo, red, green, blue);
-    if (!IsColour(red, green, blue)) return E_FAIL;
+    if (!KivDrwIsColour(red, green, blue)) return E_FAIL;
     r = red;
     g = green;
     b = blue;
@@ -50,7 +45,7 @@ HRESULT KivDrwSettingsServices::GetValueFromComboColor(KivDrwLockComboColor* com
 
 HRESULT KivDrwSettingsServices::UpdateComboColor(KivDrwLockComboColor* combo, int r, int g, int b)
 {
-    if (!combo || !IsColour(r, g, b)) return E_FAIL;
+    if (!combo || !KivDrwIsColour(r, g, b)) return E_FAIL;
     SetColorRGB(combo, r, g, b);
     return S_OK;
 }

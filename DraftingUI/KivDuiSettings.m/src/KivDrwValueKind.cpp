@@ -21,8 +21,7 @@ constexpr Kind kOfType[] = {
 constexpr Kind kColourComponent{"colour component", 0.0, 255.0};
 constexpr Kind kPackedColour{"packed colour 0xRRGGBB", 0.0, 0xFFFFFF};
 constexpr Kind kThickness{"thickness index", 0.0, 6.0};
-constexpr Kind kAngle{"angle in degrees", -360.0, 360.0};
-constexpr Kind kOffset{"length in millimetres", -1.0e12, 1.0e12};
+constexpr Kind kAngle{"angle in degrees", 0.0, 360.0};
 constexpr Kind kGraduation{"number of parts", 1.0, 100000.0};
 constexpr Kind kIndex{"choice", 0.0, kLargestInt};
 constexpr Kind kQuality{"choice", 0.0, 3.0};
@@ -37,9 +36,8 @@ constexpr Exception kExceptions[] = {
     {KivDrwKeys::RotSnapAngle.name, {"angle in degrees", 1.0, 355.0}},
     {KivDrwKeys::Drw_settings_GridSecondaryStep.name, kGraduation},
     {KivDrwKeys::Drw_settings_GridVSecondaryStep.name, kGraduation},
-    {KivDrwKeys::DrwCalloutSize.name, kIndex},
-    {KivDrwKeys::SourceSheetType.name, kIndex},
-    {KivDrwKeys::BackgroundViewToCopy.name, kIndex},
+    {KivDrwKeys::DrwCalloutSize.name, {"choice", 0.0, 1.0}},
+    {KivDrwKeys::SourceSheetType.name, {"choice", 0.0, 1.0}},
     {KivDrwKeys::DrwProject3DSymbol.name, {"choice", 0.0, 9.0}},
     {KivDrwKeys::GenWireFrameMod.name, {"choice", 1.0, 2.0}},
     {KivDrwKeys::DrwGenFilConfigure.name, {"choice", 1.0, 4.0}},
@@ -58,19 +56,14 @@ constexpr Exception kExceptions[] = {
     // A switch on its page, but a first start stores the level of detail here.
     {KivDrwKeys::KivDrwQmtAnnotLay.name, {"switch or level of detail", 0.0, 15.0}},
     {KivDrwKeys::GenDimSemiAutoTimeOut.name, {"time-out", 1.0, 300.0}},
-    {KivDrwKeys::Drw_settings_DragModeR14.name, kIndex},
+    {KivDrwKeys::Drw_settings_DragModeR14.name, {"choice", 0.0, 2.0}},
     {KivDrwKeys::Drw_settings_ColorDiagOverDefinedElts.name, kPackedColour},
     {KivDrwKeys::Drw_settings_ColorDiagNotConsistentElts.name, kPackedColour},
     {KivDrwKeys::Drw_settings_ColorDiagNotChangedElts.name, kPackedColour},
     {KivDrwKeys::Drw_settings_ColorDiagWellDefinedElts.name, kPackedColour},
     {KivDrwKeys::Drw_settings_ColorConstructElts.name, kPackedColour},
     {KivDrwKeys::Drw_settings_ColorSmartPick.name, kPackedColour},
-    {KivDrwKeys::DimLinePosRelative.name, kIndex},
-    {KivDrwKeys::DimLinePosValue.name, kOffset},
-    {KivDrwKeys::DimSnapValue.name, kIndex},
-    {KivDrwKeys::LineUpOffsetLength.name, kOffset},
     {KivDrwKeys::LineUpOffsetAngle.name, kAngle},
-    {KivDrwKeys::LineUpBaseOffsetLength.name, kOffset},
     {KivDrwKeys::LineUpBaseOffsetAngle.name, kAngle},
     {KivDrwKeys::DrwAnnotSnapMod.name, {"choice", 0.0, 2.0}},
     {KivDrwKeys::DrwBalloonAssocMod.name, {"choice", 0.0, 2.0}},

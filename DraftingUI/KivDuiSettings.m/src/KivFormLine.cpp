@@ -4,6 +4,7 @@
 #include "KivLineRows.h"
 #include "KivPageForm.h"
 #include "KivPageRows.h"
+#include "KivTextRow.h"
 
 #include <utility>
 
@@ -233,4 +234,19 @@ KivDrwLockComboWeight* KivFormLine::LineWeight(const KivString& name, KivCachedV
     }
     _form.Add(std::make_unique<KivLineWeightRow>(combo, value, Rule()));
     return combo;
+}
+
+KivDrwLockEditor* KivFormLine::Text(const KivString& name, KivCachedValue<KivUnicodeString>& value, int width,
+                                    Rule rule)
+{
+    if (LeavesOut(value)) return nullptr;
+    auto* editor = new KivDrwLockEditor(&_frame, name, value.Info(), 0UL);
+    Place(*editor);
+    Name(editor->GetDialog());
+    if (KivDlgEditor* field = editor->GetEditor()) {
+        field->SetVisibleTextWidth(width);
+        _form.Connect(field, field->GetEditModifyNotification());
+    }
+    _form.Add(std::make_unique<KivTextRow>(editor, value, std::move(rule)));
+    return editor;
 }

@@ -7,6 +7,7 @@
 #include "KivDrwLockComboColor.h"
 #include "KivDrwLockComboDashed.h"
 #include "KivDrwLockComboWeight.h"
+#include "KivDrwLockEditor.h"
 #include "KivDrwLockFrame.h"
 #include "KivDrwLockLabel.h"
 #include "KivDrwLockSpinner.h"
@@ -61,6 +62,10 @@ public:
     KivDrwLockLabel* Spacer(const KivString& name);
     // The help of the text that names this line's controls.
     KivUnicodeString LabelHelp() const;
+
+    // A field for a text, so many characters wide.
+    KivDrwLockEditor* Text(const KivString& name, KivCachedValue<KivUnicodeString>& value, int width,
+                           Rule rule = {});
 
 private:
     KivDrwLockSpinner* BareSpinner(const KivString& name, const KivSettingInfo& info, int width,

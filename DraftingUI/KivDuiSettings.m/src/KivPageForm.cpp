@@ -4,10 +4,11 @@
 
 #include <vector>
 
-KivFormGroup KivPageForm::Group(KivDialog& surface, const KivString& name, const KivString& icon, short row)
+KivFormGroup KivPageForm::Group(KivDialog& surface, const KivString& name, const KivString& icon, short row,
+                                short column, short rows)
 {
     auto* frame = new KivDlgToolsOptionsFrame(&surface, name, icon);
-    frame->SetGridConstraints(row, 0, 1, 1, KivDlgAttachAllSides);
+    frame->SetGridConstraints(row, column, rows, 1, KivDlgAttachAllSides);
     return {*this, *frame};
 }
 
@@ -23,12 +24,13 @@ void KivPageForm::Show()
 
 void KivPageForm::Take(KivCommand* from)
 {
-    // A row's rule may tell others, and they may destroy the page.
+    // Storing a value tells others, who may destroy the page.
     const KivWeakPtr<KivCommand> owner(&_owner);
     for (std::size_t i = 0; i < _rows.size(); ++i) {
-        const KivPageRow* const taken = _rows[i].get();
-        if (!_rows[i]->Take(from)) continue;
+        KivPageRow* const taken = _rows[i].get();
+        const bool isTaken = taken->Take(from);
         if (!owner) return;
+        if (!isTaken) continue;
         for (const auto& row : _rows) {
             if (row.get() != taken && row->IsOf(taken->Value())) row->Show();
         }

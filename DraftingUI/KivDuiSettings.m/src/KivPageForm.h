@@ -23,8 +23,9 @@ public:
         _callback = static_cast<KivCommand::Method>(callback);
     }
 
-    // A titled group on a surface, in the given row of its grid. The icon's name may be empty.
-    KivFormGroup Group(KivDialog& surface, const KivString& name, const KivString& icon, short row = 0);
+    // A titled group on a surface, from the given cell of its grid downwards. The icon's name may be empty.
+    KivFormGroup Group(KivDialog& surface, const KivString& name, const KivString& icon, short row = 0,
+                       short column = 0, short rows = 1);
 
     // Shows every lock record.
     void ShowLocks();

@@ -13,10 +13,11 @@ KivFormGroup KivPageFrame::Group(const KivString& name, const KivString& icon)
     return Group(name, icon, _groups);
 }
 
-KivFormGroup KivPageFrame::Group(const KivString& name, const KivString& icon, short row)
+KivFormGroup KivPageFrame::Group(const KivString& name, const KivString& icon, short row, short column,
+                                 short rows)
 {
-    _groups = static_cast<short>(row + 1);
-    return _form.Group(*this, name, icon, row);
+    _groups = static_cast<short>(row + rows);
+    return _form.Group(*this, name, icon, row, column, rows);
 }
 
 void KivPageFrame::Initialize()
@@ -29,11 +30,14 @@ void KivPageFrame::Initialize()
 void KivPageFrame::UpdateWidgets()
 {
     _form.Show();
+    _rules.Apply();
 }
 
 void KivPageFrame::Write(KivCommand* from, KivNotification*, void*)
 {
+    const KivWeakPtr<KivPageFrame> self(this);
     _form.Take(from);
+    if (self) _rules.Apply();
 }
 
 KivString KivPageFrame::GetResourceFile(int level) const

@@ -2,6 +2,7 @@
 
 #include "Dialog/KivDlgFrame.h"
 #include "KivPageForm.h"
+#include "KivPageRules.h"
 #include "KivPageValue.h"
 
 // What all page frames have in common, in calling order: construction, Build, Initialize, any number of
@@ -29,12 +30,15 @@ public:
     KivString GetResourceFile(int level) const override;
 
 protected:
-    // A titled group below those that are there, or in the given row of the page's grid.
+    // A titled group below those that are there, or in the given row of the page's grid. A long page stands
+    // in columns: a group may be as high as several of its neighbours.
     KivFormGroup Group(const KivString& name, const KivString& icon);
-    KivFormGroup Group(const KivString& name, const KivString& icon, short row);
+    KivFormGroup Group(const KivString& name, const KivString& icon, short row, short column = 0,
+                       short rows = 1);
 
     KivBoundValues _values; // in accessor order
     KivPageForm _form;
+    KivPageRules _rules; // applied whenever values are shown or stored
 
 private:
     KivString _catalogue;

@@ -1,0 +1,83 @@
+#include "KivDrwOptLayoutFrame.h"
+
+#include "Base/KivDirectory.h"
+
+namespace {
+
+constexpr int kPathWidth = 45; // characters
+
+const KivFormChoice& CalloutSizes()
+{
+    static const auto& sizes =
+        *new KivFormChoice{.catalogue = "KivDrwFrameLayout", .lines = {{"Scaled", 0}, {"Constant", 1}}};
+    return sizes;
+}
+
+const KivFormRadios& SheetSources()
+{
+    static const auto& sources =
+        *new KivFormRadios{.buttons = {{"radioSheetFirst", 1}, {"radioSheetOther", 0}}};
+    return sources;
+}
+
+} // namespace
+
+void KivDrwOptLayoutFrame::Build()
+{
+    BuildViews();
+    BuildSheets();
+    BuildTitleBlock();
+}
+
+void KivDrwOptLayoutFrame::BuildViews()
+{
+    KivFormGroup shown = Group("frameViewCreation", "I_DrwFrontView");
+    shown.Line().At(0, 2).Check("checkViewName", _viewName);
+    shown.Line().At(0, 2).Check("checkViewScale", _viewScale);
+    shown.Line().At(0, 2).Check("checkViewFrame", _viewFrame);
+    shown.Line("labelCalloutSize").Choice("comboCalloutSize", _calloutSize, CalloutSizes(), 0UL);
+
+    KivFormGroup placed = Group("frameViewPosition", "I_DrwViewPosition");
+    placed.Line().Check("checkViewOrientation", _viewOrientation);
+    placed.Line().Check("checkStrictPositioning", _strictPositioning);
+    placed.Line().Check("checkGenPropagation", _genPropagation);
+}
+
+void KivDrwOptLayoutFrame::BuildSheets()
+{
+    KivFormGroup sheet = Group("frameNewSheet", "I_DrwNewSheet");
+    sheet.Line().Check("checkBackgroundToCopy", _backgroundViewToCopy);
+    KivDrwLockDialog* sources = sheet.Radios("frameSheetSource", _sourceSheetType, SheetSources());
+    _rules.AvailableWhile([this] { return _backgroundViewToCopy.cached; }, {sources});
+}
+
+void KivDrwOptLayoutFrame::BuildTitleBlock()
+{
+    KivFormGroup titleBlock = Group("frameTitleBlock", "I_DrwTitleBlock");
+    _titleBlockField =
+        titleBlock.Line("labelTitleBlockPath")
+            .Text("editorTitleBlockPath", _titleBlockPath, kPathWidth, [this] { MarkMissingDirectory(); });
+    if (_titleBlockField && _titleBlockField->GetEditor())
+        _titleBlockField->GetEditor()->SetIsDirectory(true);
+    _missingLabel = titleBlock.Line().At(1).Label("labelTitleBlockMissing");
+}
+
+void KivDrwOptLayoutFrame::UpdateWidgets()
+{
+    KivDrwKeyPageFrame::UpdateWidgets();
+    MarkMissingDirectory();
+}
+
+// A directory may be away for a while, and a site's value may be meant for other machines: such a path is
+// kept, and said to lead nowhere.
+void KivDrwOptLayoutFrame::MarkMissingDirectory()
+{
+    KivDirectory directory;
+    const bool isMissing =
+        !_titleBlockPath.cached.IsEmpty() && KivOpenDirectory(_titleBlockPath.cached, directory) != 0;
+    if (!_missingLabel || !_titleBlockField || !_titleBlockField->GetEditor()) return;
+    _missingLabel->SetVisibility(isMissing ? KivDlgShown : KivDlgHidden);
+    // Who hears the page is told at the field.
+    KivDlgEditor& field = *_titleBlockField->GetEditor();
+    field.SetHelp(isMissing ? _missingLabel->GetTitle() : field.CatalogueText("Help"));
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "KivDrwPageBinding.h"
+#include "KivDrwSketcherSettings.h"
+
+// Settings by which the sketcher draws and picks: whoever listens to it is told of each change, as its own
+// setters do. They are stored in the page's repository, not by those setters, which write to the one that the
+// sketcher was made with. Without a repository nothing is stored, and nobody told.
+using KivDrwTellSketcher = void (Kiv2DBaseSketcherSettingsAdapt::*)();
+
+template <class Store> void KivDrwStoreAndTell(bool canStore, KivDrwTellSketcher tell, const Store& store)
+{
+    if (!canStore) return;
+    store();
+    (KivDrwSketcherSettings::GetSketcherSettings()->*tell)();
+}
+
+// The accessor triple of a drafting frame, bound to a key of which the sketcher is told by this operation.
+#define KIV_BIND_TOLD(Tell, key, SetAccessor, GetAccessor, GetInfoAccessor)                                  \
+    int SetAccessor(const KivValueOf<&Base::SetAccessor>& value) override                                    \
+    {                                                                                                        \
+        KivDrwStoreAndTell(_repository, &Kiv2DBaseSketcherSettingsAdapt::Tell,                               \
+                           [&] { KivDrwSet(_repository, key, value); });                                     \
+        return S_OK;                                                                                         \
+    }                                                                                                        \
+    int GetAccessor(KivValueOf<&Base::SetAccessor>& value) override                                          \
+    {                                                                                                        \
+        return KivDrwGet(_repository, key, value);                                                           \
+    }                                                                                                        \
+    int GetInfoAccessor(KivSettingInfo& info) override                                                       \
+    {                                                                                                        \
+        return KivDrwGetInfo(_repository, key, info);                                                        \
+    }
+
+// A colour of which the sketcher is told, for KIV_BIND_COLOUR.
+template <class Colour> struct KivDrwToldColour {
+    Colour colour;
+    KivDrwTellSketcher tell;
+
+    void Read(const KivSettingRepository* repository, int& r, int& g, int& b) const
+    {
+        colour.Read(repository, r, g, b);
+    }
+    void Write(KivSettingRepository* repository, int r, int g, int b) const
+    {
+        KivDrwStoreAndTell(repository && KivDrwIsColour(r, g, b), tell,
+                           [&] { colour.Write(repository, r, g, b); });
+    }
+    void GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const
+    {
+        colour.GetInfo(repository, info);
+    }
+};
+
+// How geometry is drawn.
+constexpr KivDrwToldColour<KivDrwPackedColour> KivDrwGeometryColour(const KivDrwKey<unsigned int>& key)
+{
+    return {{key}, &Kiv2DBaseSketcherSettingsAdapt::GeomUIModify};
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "KivDrwSettingAccess.h"
+
+// Colours as settings store them, each with what KIV_BIND_COLOUR asks of it. Components outside 0 to 255 are
+// not written.
+
+// Three integer keys from 0 to 255.
+struct KivDrwComponentColour {
+    const KivDrwKey<int>& red;
+    const KivDrwKey<int>& green;
+    const KivDrwKey<int>& blue;
+
+    constexpr KivDrwComponentColour(const KivDrwKey<int>& r, const KivDrwKey<int>& g, const KivDrwKey<int>& b)
+        : red(r), green(g), blue(b)
+    {}
+
+    void Read(const KivSettingRepository* repository, int& r, int& g, int& b) const;
+    void Write(KivSettingRepository* repository, int r, int g, int b) const;
+    // The lock is that of the red key, as with the background colours.
+    void GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const;
+};
+
+// One key that holds 0xRRGGBB.
+struct KivDrwPackedColour {
+    const KivDrwKey<unsigned int>& key;
+
+    void Read(const KivSettingRepository* repository, int& r, int& g, int& b) const;
+    void Write(KivSettingRepository* repository, int r, int g, int b) const;
+    void GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const;
+};
+
+// Whether these are components of a colour.
+bool KivDrwIsColour(int r, int g, int b);

@@ -1,0 +1,178 @@
+#include "Component/KivVar.h"
+#include "Dialog/KivComboColor.h"
+#include "Dialog/KivDlgCheckButton.h"
+#include "Dialog/KivDlgRadioButton.h"
+#include "Dialog/KivDlgSpinner.h"
+#include "Dialog/KivUserHand.h"
+#include "KivDrwOptGeoEditor.h"
+#include "KivDrwOptIntFrm.h"
+#include "KivDrwSketcherSettings.h"
+#include "Support/KivSettingsSandbox.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// The Geometry page in its editor, beside a sketcher that listens.
+class GeometryPage : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        for (const auto& [event, word] :
+             {std::pair(KivSketcherSettings::CpltModification(), "completion "),
+              std::pair(KivSketcherSettings::GeomUIModification(), "geometry "),
+              std::pair(KivSketcherSettings::Visu3DUIModification(), "visualisation ")})
+            callbacks.push_back(sketcher.AddCallback(
+                event, [this, said = word](KivCallbackEvent, KivNotification*) { heard += said + State(); }));
+        editor->BuildEditor(&page);
+        editor->SetUserSettingsValue(nullptr);
+    }
+    void TearDown() override
+    {
+        for (const KivCallbackId callback : callbacks) sketcher.RemoveCallback(callback);
+    }
+    // What the sketcher reads while it is told.
+    std::string State()
+    {
+        unsigned int r = 0, g = 0, b = 0;
+        sketcher.GetColorDiagElts(2, r, g, b);
+        return std::to_string(sketcher.GetDragMode()) + std::to_string(sketcher.GetPosSupports()) + "-" +
+               std::to_string(r) + " ";
+    }
+    std::string Heard() { return std::exchange(heard, {}); }
+    template <class T> T& Node(const char* name) { return *static_cast<T*>(page.FindDialog(name)); }
+
+    KivSettingsSandbox box;
+    KivDrwSketcherSettings& sketcher = *KivDrwSketcherSettings::GetSketcherSettings();
+    std::string heard;
+    std::vector<KivCallbackId> callbacks;
+    KivEditorPage page{nullptr, "page", 0UL};
+    KivVar<KivDrwOptGeoEditor> editor = KivVar<KivDrwOptGeoEditor>::Adopt(new KivDrwOptGeoEditor);
+};
+
+TEST_F(GeometryPage, TellsTheSketcherOfEachChangeAndOfWhatTakesItBack)
+{
+    const auto tick = [this](const char* name) {
+        EXPECT_TRUE(KivUserHand::Tick(Node<KivDlgCheckButton>(name)));
+    };
+    EXPECT_TRUE(KivUserHand::Choose(Node<KivDlgRadioButton>("radioDragRelaxation")));
+    EXPECT_EQ(Heard(), "geometry 21-255 ");
+    tick("checkPickCoincid_dialog");
+    EXPECT_EQ(Heard(), "completion 20-255 ");
+    EXPECT_TRUE(KivUserHand::ChooseColour(Node<KivComboColor>("comboIncons_dialog"), 1, 2, 3));
+    EXPECT_EQ(Heard(), "geometry 20-1 ");
+    tick("checkCstHori_dialog");
+    EXPECT_TRUE(KivUserHand::Turn(Node<KivDlgSpinner>("spinnerCstRefSize_dialog"), 1));
+    EXPECT_TRUE(KivUserHand::ChooseColour(Node<KivComboColor>("comboCstColor_dialog"), 1, 2, 3));
+    EXPECT_EQ(Heard(), "visualisation 20-1 visualisation 20-1 visualisation 20-1 ");
+    tick("checkEndPtsDupli_dialog");
+    EXPECT_EQ(Heard(), "") << "the sketcher does not know this one";
+    const std::string untouched = "visualisation 11-255 geometry 11-255 completion 11-255 ";
+    editor->CancelModification(nullptr);
+    EXPECT_EQ(Heard(), untouched);
+    EXPECT_TRUE(KivUserHand::Choose(Node<KivDlgRadioButton>("radioDragStandard")));
+    editor->CommitModification(nullptr);
+    EXPECT_EQ(Heard(), "geometry 01-255 ") << "a commit says nothing, deliberately";
+    editor->ResetUserSettingsValue();
+    EXPECT_EQ(Heard(), untouched);
+}
+
+// Whoever changes a setting, this page or another caller of the sketcher, the same listeners hear of it.
+TEST_F(GeometryPage, TellsTheSketcherWhatItsOwnSettersTell)
+{
+    using Set = void (KivSketcherSettings::*)(int on, int notify);
+    const std::pair<const char*, Set> switches[] = {
+        {"checkCreateCenter_dialog", &KivSketcherSettings::SetCreateCenter},
+        {"checkShowHV_dialog", &KivSketcherSettings::SetShowPosition},
+        {"checkDragEndPts_dialog", &KivSketcherSettings::SetDragWithEndPts},
+        {"checkGeomManip_dialog", &KivSketcherSettings::SetDragElts},
+        {"checkCstCreation_dialog", &KivSketcherSettings::SetCreateConstraint},
+        {"checkPickCoincid_dialog", &KivSketcherSettings::SetPosSupports},
+        {"checkPickAlign_dialog", &KivSketcherSettings::SetPosHorVertTo},
+        {"checkPickParaPerpenTang_dialog", &KivSketcherSettings::SetDirParaPerpTan},
+        {"checkPickHoriVerti_dialog", &KivSketcherSettings::SetDirHorVert},
+        {"checkVisuDiagnostic_dialog", &KivSketcherSettings::SetDiagElts}};
+    const auto event = [this] { return Heard().substr(0, 4); };
+    for (const auto& [name, set] : switches) {
+        EXPECT_TRUE(KivUserHand::Tick(Node<KivDlgCheckButton>(name)));
+        const std::string own = event();
+        (sketcher.*set)(1, 1);
+        EXPECT_EQ(own, event()) << name;
+    }
+}
+
+// Each colour by its components, and what is stored then.
+TEST(ColoursOfPages, AreStoredOnlyWithAllComponentsInRange)
+{
+    const KivSettingsSandbox box;
+    KivDrwOptGeoFrm geometry(nullptr, "DrwSet");
+    KivDrwOptIntFrm dimension(nullptr, "DrwSet");
+    KivSettingRepository& repository = *KivDrwRepository();
+    const auto stored = [&](const char* key, auto value) {
+        repository.ReadSetting(key, &value, 1);
+        return value;
+    };
+    int r = 0, g = 0, b = 0;
+    geometry.GetSmartPickColor(r, g, b);
+    EXPECT_EQ(std::tie(r, g, b), std::tuple(67, 102, 85));
+    EXPECT_EQ(geometry.SetSmartPickColor(255, 1, 2), S_OK);
+    EXPECT_EQ(geometry.SetCstColor(3, 4, 255), S_OK);
+    EXPECT_EQ(dimension.SetDimFakeColor(5, 6, 7), S_OK);
+    for (const auto& [red, green, blue] :
+         {std::tuple(256, 0, 0), std::tuple(0, -1, 0), std::tuple(0, 0, 256)}) {
+        geometry.SetSmartPickColor(red, green, blue);
+        geometry.SetCstColor(red, green, blue);
+        dimension.SetDimFakeColor(red, green, blue);
+        EXPECT_EQ(stored("Drw_settings_ColorSmartPick", 9U), 0xFF0102U);
+        EXPECT_EQ(stored("CstColorR", 9) * 1000000 + stored("CstColorG", 9) * 1000 + stored("CstColorB", 9),
+                  3004255);
+        EXPECT_EQ(stored("DimFakeR", 9) * 10000 + stored("DimFakeG", 9) * 100 + stored("DimFakeB", 9), 50607);
+    }
+}
+
+// Applications that have every group, or none, but no store of their own.
+class GeometryWithoutStore : public Kiv2DBaseOptGeoFrm {
+public:
+    GeometryWithoutStore() : Kiv2DBaseOptGeoFrm(nullptr, "DrwSet") {}
+    int WithFrameGeomCreation() override { return 1; }
+    int WithFrameGeomDrag() override { return 1; }
+    int WithFrameSmartPick() override { return 1; }
+    int WithFrameConstraint() override { return 1; }
+    int WithFrameGeomColor() override { return 1; }
+};
+class DimensionWithoutStore : public Kiv2DBaseOptDimFrm {
+public:
+    DimensionWithoutStore() : Kiv2DBaseOptDimFrm(nullptr, "DrwSet") {}
+    int WithFrameDimCreation() override { return 1; }
+    int WithFrameDimLinePos() override { return 1; }
+    int WithFrameDimLineUp() override { return 1; }
+    int WithFrameDimAnalysis() override { return 1; }
+    int WithFrameDimMove() override { return 1; }
+};
+
+TEST(GenericDrawingPages, BuildTheGroupsThatTheirApplicationHas)
+{
+    Kiv2DBaseOptGeoFrm noGeometry(nullptr, "DrwSet");
+    Kiv2DBaseOptDimFrm noDimension(nullptr, "DrwSet");
+    GeometryWithoutStore geometry;
+    DimensionWithoutStore dimension;
+    for (KivPageFrame* page :
+         std::initializer_list<KivPageFrame*>{&noGeometry, &noDimension, &geometry, &dimension}) {
+        page->Build();
+        page->Initialize();
+        page->Write(page, nullptr, nullptr);
+    }
+    EXPECT_TRUE(noGeometry.Children().empty() && noDimension.Children().empty());
+    EXPECT_EQ(geometry.Children().size(), 5U);
+    EXPECT_EQ(dimension.Children().size(), 5U);
+    // All zeros: what depends on a switch is greyed, and no padlock is closed.
+    for (const auto& [page, name, sensitivity] :
+         {std::tuple<KivPageFrame*, const char*, unsigned long>{&geometry, "checkCstVisu", KivDlgEnabled},
+          {&geometry, "spinnerCstRefSize", KivDlgDisabled},
+          {&dimension, "checkDimDesignMode", KivDlgEnabled},
+          {&dimension, "comboDimFake", KivDlgDisabled}})
+        EXPECT_EQ(static_cast<KivDrwLockDialog*>(page->FindDialog(name))->GetSensitivity(), sensitivity)
+            << name;
+}
+
+} // namespace
