@@ -56,20 +56,11 @@ void Kiv2DBaseOptAnnotFrm::BuildMove()
 void Kiv2DBaseOptAnnotFrm::BuildBalloon()
 {
     KivFormLine balloon = Group("frmBalloon", "I_DrwBalloon").Line();
-    balloon.Check("chkBalAssoc", _balloon3DAssoc, [this] { ApplyBalloonRule(); });
-    _balloonCombo = balloon.Choice("combBalAssocMod", _balloon3DAssocMod, BalloonAssociations(), kComboStyle);
-}
-
-void Kiv2DBaseOptAnnotFrm::UpdateWidgets()
-{
-    ApplyBalloonRule();
-    KivPageFrame::UpdateWidgets();
-}
-
-// What a balloon shows of its part can be chosen only while balloons are associated with the 3D.
-void Kiv2DBaseOptAnnotFrm::ApplyBalloonRule()
-{
-    if (_balloonCombo) _balloonCombo->SetSensitivity(_balloon3DAssoc.cached ? KivDlgEnabled : KivDlgDisabled);
+    balloon.Check("chkBalAssoc", _balloon3DAssoc);
+    // What a balloon shows of its part can be chosen only while balloons are associated with the 3D.
+    _rules.AvailableWhile(
+        [this] { return _balloon3DAssoc.cached != 0; },
+        {balloon.Choice("combBalAssocMod", _balloon3DAssocMod, BalloonAssociations(), kComboStyle)});
 }
 
 void Kiv2DBaseOptAnnotFrm::NotifPush(KivCommand* from, KivNotification*, void*)

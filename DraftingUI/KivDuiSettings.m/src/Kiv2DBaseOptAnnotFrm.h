@@ -16,7 +16,6 @@ public:
     Kiv2DBaseOptAnnotFrm(KivDialog* parent, const KivString& name) : KivClass(parent, name, Name) {}
 
     void Build() override;
-    void UpdateWidgets() override;
 
     // The snapping button was pressed: opens another window with the choice of the snap mode.
     void NotifPush(KivCommand* from, KivNotification* notification, void* data);
@@ -50,9 +49,7 @@ public:
 private:
     void BuildMove();
     void BuildBalloon();
-    void ApplyBalloonRule();
 
     KivWeakPtr<KivDlgPushButton> _snapButton;
-    KivWeakPtr<KivDrwLockCombo> _balloonCombo;
     KivWeakPtr<KivDlgDialog> _snapWindow; // the last one
 };

@@ -1,14 +1,10 @@
 #include "Kiv2DBaseOptGalFrm.h"
 
+#include "KivMeasureSetups.h"
+
 namespace {
 
-// Stored in millimetres, shown in metres.
-constexpr KivSpinnerSetup kLength{.magnitude = KivDlgMagnitudeLength,
-                                  .minimum = 0.0,
-                                  .maximum = 1.0e12,
-                                  .step = 0.005,
-                                  .shownPerStored = 0.001,
-                                  .storedPerShown = 1000.0};
+constexpr KivSpinnerSetup kLength = KivMillimetres(5.0);
 constexpr KivCountSetup kGraduation{.minimum = 1.0F, .maximum = 100000.0F, .values = 100000};
 // Stored in degrees, shown in radians: 1 to 355 degrees by 1. The ceiling of 355 is deliberate.
 constexpr KivSpinnerSetup kSnapAngle{.magnitude = KivDlgMagnitudeAngle,
@@ -42,7 +38,7 @@ void Kiv2DBaseOptGalFrm::BuildGrid()
     KivFormGroup grid = Group("frameGrid", "I_DisplayGrid");
     grid.Line().Check("checkGrid", _displayGrid);
     grid.Line().Check("checkSnap", _snapToPoint);
-    grid.Line().Check("checkAllowDistortions", _allowDistortions, [this] { ApplyDistortionRule(); });
+    grid.Line().Check("checkAllowDistortions", _allowDistortions);
 
     KivFormLine spacing = grid.Line("labelGridSpacing");
     spacing.Spinner("editorGridSpacing", _primSpaceH, kLength, [this] { MirrorSpacing(); });
@@ -51,6 +47,10 @@ void Kiv2DBaseOptGalFrm::BuildGrid()
     KivFormLine graduation = grid.Line("labelGridGraduation");
     graduation.Spinner("editorGridGraduation", _gradH, kGraduation, [this] { MirrorGraduation(); });
     _graduationV = graduation.Spinner("editorGridGraduationV", _gradV, kGraduation);
+
+    // The vertical grid has a spacing and a graduation of its own only while distortions are allowed.
+    _rules.AvailableWhile([this] { return _allowDistortions.cached != 0; },
+                          {_spacingV.Get(), _graduationV.Get()});
 }
 
 void Kiv2DBaseOptGalFrm::BuildRotation()
@@ -77,20 +77,6 @@ void Kiv2DBaseOptGalFrm::Build2DAxis()
     axis.Line().Check("checkViewReferential", _2DAxisDisplay);
     axis.Line().Check("checkViewRefZoom", _2DAxisZoom);
     axis.Line("labelViewAxisSize").Spinner("spinnerViewAxisSize", _2DAxisLength, kLength);
-}
-
-void Kiv2DBaseOptGalFrm::UpdateWidgets()
-{
-    KivPageFrame::UpdateWidgets();
-    ApplyDistortionRule();
-}
-
-// The vertical grid has a spacing and a graduation of its own only while distortions are allowed.
-void Kiv2DBaseOptGalFrm::ApplyDistortionRule()
-{
-    const unsigned long sensitivity = _allowDistortions.cached ? KivDlgEnabled : KivDlgDisabled;
-    if (_spacingV) _spacingV->SetSensitivity(sensitivity);
-    if (_graduationV) _graduationV->SetSensitivity(sensitivity);
 }
 
 // Without distortions the vertical grid follows the horizontal one; the spinner's notification stores it.

@@ -13,7 +13,6 @@ public:
     Kiv2DBaseOptGalFrm(KivDialog* parent, const KivString& name) : KivClass(parent, name, Name) {}
 
     void Build() override;
-    void UpdateWidgets() override;
 
     KIV_PAGE_SETTING(unsigned char, _showRuler, SetShowRuler, GetShowRuler, GetShowRulerInfo)
     KIV_PAGE_SETTING(unsigned char, _displayGrid, SetDisplayGrid, GetDisplayGrid, GetDisplayGridInfo)
@@ -59,7 +58,6 @@ private:
     void BuildColor();
     void Build2DAxis();
 
-    void ApplyDistortionRule();
     void MirrorSpacing();
     void MirrorGraduation();
 

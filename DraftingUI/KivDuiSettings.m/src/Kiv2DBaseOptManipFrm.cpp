@@ -1,14 +1,10 @@
 #include "Kiv2DBaseOptManipFrm.h"
 
+#include "KivMeasureSetups.h"
+
 namespace {
 
-// Stored in millimetres, shown in metres.
-constexpr KivSpinnerSetup kSize{.magnitude = KivDlgMagnitudeLength,
-                                .minimum = 0.0,
-                                .maximum = 1.0e12,
-                                .step = 0.001,
-                                .shownPerStored = 0.001,
-                                .storedPerShown = 1000.0};
+constexpr KivSpinnerSetup kSize = KivMillimetres(1.0);
 
 constexpr unsigned int kFilled = KivDlgAttachAllSides | KivDlgCentreHorizontally | KivDlgCentreVertically;
 constexpr unsigned int kFilledCentred = kFilled & ~KivDlgAttachRight;

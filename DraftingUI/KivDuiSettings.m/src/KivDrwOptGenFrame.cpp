@@ -38,7 +38,7 @@ void KivDrwOptGenFrame::BuildDimensions()
         line.Label("labelGenDimSemiAuto")->GetDialog()->SetGreysWithControl(false);
         return line.Spinner("spinnerGenDimSemiAuto", _genDimSemiAutoTimeOut, kTimeOut);
     };
-    _dimensionControls = {
+    const std::vector<KivDrwLockDialog*> controls = {
         dimensions.Line().At(0, 2).Check("checkGenDim", _genDim),
         dimensions.Line().Check("checkGenDimFilter", _genDimFilter),
         dimensions.Line().At(0, 2).Check("checkGenDimAutoPos", _genDimAutoPos),
@@ -47,17 +47,10 @@ void KivDrwOptGenFrame::BuildDimensions()
         dimensions.Line().At(0, 2).Check("checkGenDimFromPart", _genDimFromPart),
         timeOut(),
     };
-}
-
-void KivDrwOptGenFrame::UpdateWidgets()
-{
-    KivPageFrame::UpdateWidgets();
-    if (!_repository) return;
     // Only exact views have dimensions of their own. Balloons and the label never grey, deliberately.
-    const bool exact = KivDrwRead(_repository, KivDrwKeys::DrwGenerationModeVal) == 0;
-    for (const auto& control : _dimensionControls) {
-        if (control) control->SetSensitivity(exact ? KivDlgEnabled : KivDlgDisabled);
-    }
+    _rules.AvailableWhile(
+        [this] { return !_repository || KivDrwRead(_repository, KivDrwKeys::DrwGenerationModeVal) == 0; },
+        controls);
 }
 
 void KivDrwOptGenFrame::Write()

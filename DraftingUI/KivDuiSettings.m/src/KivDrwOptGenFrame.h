@@ -2,8 +2,6 @@
 
 #include "KivDrwKeyPageFrame.h"
 
-#include <vector>
-
 // The Generation page: which dimensions and balloons are made when views are generated from a part or an
 // assembly. It has no generic frame, and writes all its settings, in an order of its own, whenever one of
 // them changes.
@@ -13,7 +11,6 @@ public:
     KivDrwOptGenFrame(KivDialog* parent, const KivString& name);
 
     void Build() override;
-    void UpdateWidgets() override;
 
     // Takes what the controls show and stores all of it.
     void Write();
@@ -31,5 +28,4 @@ private:
     KIV_KEY_VALUE(_genDimSemiAutoTimeOut, int, KivDrwKeys::GenDimSemiAutoTimeOut)
     KIV_KEY_VALUE(_genBalloonByInstance, int, KivDrwKeys::GenBalloonByInstance)
     KIV_KEY_VALUE(_genDimFromPart, int, KivDrwKeys::DrwGenDimFromPart)
-    std::vector<KivWeakPtr<KivDrwLockDialog>> _dimensionControls;
 };

@@ -16,14 +16,9 @@ void KivDrwOptTrelFrm::Build()
     explode.Line().Check("chkExplodeDitto", _explodeDitto);
     explode.Line().Check("chkExplodeSymbolo", _explodeSymbolo);
     Group("frameBlinkRed", "").Line().Check("checkBlinkRed", _blinkRedValue);
-    _styleCombo = Group("frameGVSXml", "").Line("lbl").Names("chkGVSXml", _gvsXml, &GetGPSList);
-    if (_styleCombo && _styleCombo->GetCombo()) _styleCombo->GetCombo()->SetVisibleTextWidth(kStyleWidth);
-}
-
-void KivDrwOptTrelFrm::UpdateWidgets()
-{
-    KivPageFrame::UpdateWidgets();
+    KivDrwLockCombo* style = Group("frameGVSXml", "").Line("lbl").Names("chkGVSXml", _gvsXml, &GetGPSList);
+    if (style->GetCombo()) style->GetCombo()->SetVisibleTextWidth(kStyleWidth);
     // Nobody chooses a generative view style while the administrator prevents such styles.
-    const bool prevented = KivDrwRead(_repository, KivDrwKeys::DrwPreventGVS) != 0;
-    if (_styleCombo) _styleCombo->SetSensitivity(prevented ? KivDlgDisabled : KivDlgEnabled);
+    _rules.AvailableWhile([this] { return KivDrwRead(_repository, KivDrwKeys::DrwPreventGVS) == 0; },
+                          {style});
 }

@@ -14,7 +14,6 @@ public:
     KivDrwOptTrelFrm(KivDialog* parent, const KivString& name) : KivClass(parent, name, Name) {}
 
     void Build() override;
-    void UpdateWidgets() override;
 
     KIV_KEY_SETTING(unsigned char, _createCenterEndPts, KivDrwKeys::ImportCenterEndPoints,
                     SetCreateCenterEndPts, GetCreateCenterEndPts, GetCreateCenterEndPtsInfo)
@@ -31,5 +30,4 @@ public:
 
 private:
     KivSettingRepository* _repository = KivDrwRepository(); // may be null: the page then shows defaults
-    KivWeakPtr<KivDrwLockCombo> _styleCombo;
 };

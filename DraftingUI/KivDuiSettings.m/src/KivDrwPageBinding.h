@@ -12,13 +12,9 @@ template <class Frame, class T> struct KivAccessorValue<int (Frame::*)(const T&)
 };
 template <auto accessor> using KivValueOf = typename KivAccessorValue<decltype(accessor)>::Type;
 
-// The accessor triple of a drafting frame, bound to one key of its _repository. The frame states the alias
-// Base.
-#define KIV_BIND_SETTING(key, SetAccessor, GetAccessor, GetInfoAccessor)                                     \
-    int SetAccessor(const KivValueOf<&Base::SetAccessor>& value) override                                    \
-    {                                                                                                        \
-        return KivDrwSet(_repository, key, value);                                                           \
-    }                                                                                                        \
+// How an option of a drafting frame is read from a key of its _repository: two of its three accessors. The
+// frame states the alias Base.
+#define KIV_BIND_READING(key, SetAccessor, GetAccessor, GetInfoAccessor)                                     \
     int GetAccessor(KivValueOf<&Base::SetAccessor>& value) override                                          \
     {                                                                                                        \
         return KivDrwGet(_repository, key, value);                                                           \
@@ -27,6 +23,14 @@ template <auto accessor> using KivValueOf = typename KivAccessorValue<decltype(a
     {                                                                                                        \
         return KivDrwGetInfo(_repository, key, info);                                                        \
     }
+
+// The whole accessor triple, bound to one key.
+#define KIV_BIND_SETTING(key, SetAccessor, GetAccessor, GetInfoAccessor)                                     \
+    int SetAccessor(const KivValueOf<&Base::SetAccessor>& value) override                                    \
+    {                                                                                                        \
+        return KivDrwSet(_repository, key, value);                                                           \
+    }                                                                                                        \
+    KIV_BIND_READING(key, SetAccessor, GetAccessor, GetInfoAccessor)
 
 // The same for a colour, in whatever form it is stored.
 #define KIV_BIND_COLOUR(colour, SetAccessor, GetAccessor, GetInfoAccessor)                                   \

@@ -23,14 +23,7 @@ template <class Store> void KivDrwStoreAndTell(bool canStore, KivDrwTellSketcher
                            [&] { KivDrwSet(_repository, key, value); });                                     \
         return S_OK;                                                                                         \
     }                                                                                                        \
-    int GetAccessor(KivValueOf<&Base::SetAccessor>& value) override                                          \
-    {                                                                                                        \
-        return KivDrwGet(_repository, key, value);                                                           \
-    }                                                                                                        \
-    int GetInfoAccessor(KivSettingInfo& info) override                                                       \
-    {                                                                                                        \
-        return KivDrwGetInfo(_repository, key, info);                                                        \
-    }
+    KIV_BIND_READING(key, SetAccessor, GetAccessor, GetInfoAccessor)
 
 // A colour of which the sketcher is told, for KIV_BIND_COLOUR.
 template <class Colour> struct KivDrwToldColour {

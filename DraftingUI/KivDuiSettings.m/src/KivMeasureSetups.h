@@ -9,7 +9,7 @@ constexpr KivSpinnerSetup KivMillimetres(double step)
 {
     return {.magnitude = KivDlgMagnitudeLength,
             .minimum = 0.0,
-            .maximum = 1.0e9,
+            .maximum = 1.0e12,
             .step = step * 0.001,
             .shownPerStored = 0.001,
             .storedPerShown = 1000.0};

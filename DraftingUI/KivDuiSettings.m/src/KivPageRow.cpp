@@ -30,7 +30,9 @@ bool KivPageRow::Take(KivCommand* from)
         return true;
     }
     if (!ReadToStore()) return true;
+    // Storing tells others, who may destroy the page and this row with it.
+    const KivWeakPtr<KivDrwLockDialog> control(Control());
     _value.Save();
-    if (_rule) _rule();
+    if (control && _rule) _rule();
     return true;
 }
