@@ -61,7 +61,7 @@ protected:
     bool IsAsked(const TableRow& row)
     {
         if (row.enabledBy == kByItsPage) return true;
-        std::istringstream names(row.enabledBy);
+        std::istringstream names{std::string(row.enabledBy)};
         bool none = true;
         for (std::string name; std::getline(names, name, '|'); none = false) {
             const auto its = std::find_if(table.rows.begin(), table.rows.end(),

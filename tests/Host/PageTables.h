@@ -2,9 +2,13 @@
 
 #include <ostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 // What each page offers, as its users know it.
+
+// Enabled by rules that its page proves itself.
+inline constexpr std::string_view kByItsPage = "?";
 
 // A control and the keys that it edits, the one whose lock governs it first. A control that its page enables
 // by another one names that check button, or several of which one suffices ("checkA|checkB"); these may be
@@ -12,11 +16,8 @@
 struct TableRow {
     const char* control;
     std::vector<std::string> keys;
-    const char* enabledBy = "";
+    std::string_view enabledBy = {};
 };
-
-// Enabled by rules that its page proves itself.
-inline constexpr const char* kByItsPage = "?";
 
 // A window that stores what it shows when it is closed.
 struct WindowTable {
