@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QImageWriter>
+#include <QScrollArea>
 #include <ostream>
 
 namespace {
@@ -31,15 +32,13 @@ QString FileName(const KivUnicodeString& title)
     return name;
 }
 
-// A picture cannot be scrolled: the window becomes as large as its page needs.
-void ShowWholePage(OptionsWindow& options)
+// A picture cannot be scrolled: the window becomes as large as what is in its area needs.
+void ShowWhole(QWidget& window, const QScrollArea* area)
 {
-    options.resize(980, 760);
     QApplication::processEvents();
-    const OptionsPageView& page = options.PageView(options.CurrentPage());
-    if (!page.widget()) return;
-    const QSize missing = page.widget()->sizeHint() - page.viewport()->size();
-    options.resize(options.size() + missing.expandedTo(QSize(0, 0)).boundedTo(QSize(1200, 2400)));
+    if (!area || !area->widget()) return;
+    const QSize missing = area->widget()->sizeHint() - area->viewport()->size();
+    window.resize(window.size() + missing.expandedTo(QSize(0, 0)).boundedTo(QSize(1200, 2400)));
 }
 
 void CollectButtons(const KivDialog& node, std::vector<KivDlgPushButton*>& buttons)
@@ -74,7 +73,8 @@ bool DraftingPictures::Write(DraftingWindow& window, const KivUnicodeString& pag
     for (const KivOptionsSession::Page& shown : options.Session()->Pages()) {
         if (only && &shown != only) continue;
         options.ShowPage(KivUnicodeString(shown.editor));
-        ShowWholePage(options);
+        options.resize(980, 760);
+        ShowWhole(options, &options.PageView(options.CurrentPage()));
         const QString name = "options-" + FileName(shown.title);
         isSaved = isSaved && Save(options, name) && WriteWindows(options, *shown.frame, name);
     }
@@ -91,6 +91,7 @@ bool DraftingPictures::WriteWindows(const OptionsWindow& options, const KivDialo
         if (!KivUserHand::Press(*button)) continue;
         for (NativeDialog* window : options.findChildren<NativeDialog*>()) {
             if (!window->isVisible()) continue;
+            ShowWhole(*window, window->findChild<QScrollArea*>());
             isSaved = isSaved && Save(*window, name + "-" + FileName(window->Node()->GetTitle()));
             window->close();
         }
