@@ -1,13 +1,11 @@
 #include "KivDrwValueKind.h"
 
-#include <limits>
 #include <type_traits>
 
 namespace {
 
 using Kind = KivDrwValueKind;
 
-constexpr double kLargestInt = std::numeric_limits<int>::max();
 
 // What a stored type means where nothing else is said, in the order of KivDrwValue.
 constexpr Kind kOfType[] = {
@@ -23,7 +21,6 @@ constexpr Kind kPackedColour{"packed colour 0xRRGGBB", 0.0, 0xFFFFFF};
 constexpr Kind kThickness{"thickness index", 0.0, 6.0};
 constexpr Kind kAngle{"angle in degrees", 0.0, 360.0};
 constexpr Kind kGraduation{"number of parts", 1.0, 100000.0};
-constexpr Kind kIndex{"choice", 0.0, kLargestInt};
 constexpr Kind kQuality{"choice", 0.0, 3.0};
 constexpr Kind kResolution{"resolution", 1.0, 1200.0};
 
