@@ -6,7 +6,6 @@ namespace {
 
 using Kind = KivDrwValueKind;
 
-
 // What a stored type means where nothing else is said, in the order of KivDrwValue.
 constexpr Kind kOfType[] = {
     {"switch", 0.0, 1.0},
