@@ -39,7 +39,9 @@ HandWrittenDialog::HandWrittenDialog()
 {
     _padlock = QIcon(IconFrom("CheckLock").pixmap(16, 16));
     auto* pages = new QListWidget;
-    new QListWidgetItem(IconFrom("I_TabGeneral"), "General", pages);
+    for (const char* tab : {"General", "Layout", "View", "Generation", "Geometry", "Dimension",
+                            "Manipulators", "Annotation", "Compatibility", "Administration"})
+        new QListWidgetItem(IconFrom((std::string("I_Tab") + tab).c_str()), tab, pages);
     pages->setMaximumWidth(120);
     auto* page = new QWidget;
     _page = new QVBoxLayout(page);
