@@ -1,4 +1,3 @@
-#include "Dialog/KivDlgLabel.h"
 #include "OptionsPages.h"
 #include "Parameter/KivParmDictionary.h"
 #include "Parameter/KivParmEngine.h"
@@ -132,18 +131,6 @@ TEST_F(GeneralPage, ARefusedSaveIsSaidAndLosesNothing)
     std::filesystem::remove(box.root / "user");
     EXPECT_TRUE(session->Commit().empty());
     EXPECT_NE(box.Bytes(file).find("int Ruler = 1"), std::string::npos);
-}
-
-TEST_F(GeneralPage, WorksOnDefaultsWithoutAnyRepository)
-{
-    KivSettingRepository::Withhold(true);
-    Open();
-    EXPECT_EQ(Check("checkGrid").GetState(), KivDlgChecked);
-    EXPECT_TRUE(KivUserHand::Tick(Check("checkGrid")));
-    EXPECT_TRUE(session->Commit().empty());
-    session->Reset(Page("General"));
-    session->Cancel();
-    EXPECT_EQ(Spinner("editorGridSpacing").GetValue(), 0.1);
 }
 
 TEST_F(GeneralPage, StoredNonsenseIsShownAndBorne)
