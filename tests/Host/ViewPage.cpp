@@ -315,7 +315,7 @@ TEST_F(ViewPage, FieldAndCursorShowTheSameLevel)
     const struct {
         double x;
         int level;
-    } drags[] = {{12.0, 2}, {-40.0, 1}, {78.0, 15}, {1e300, 15}, {-1e300, 1}, {37.4, 7}};
+    } drags[] = {{12.0, 2}, {13.0, 3}, {-40.0, 1}, {78.0, 15}, {1e300, 15}, {-1e300, 1}, {37.4, 7}};
     for (const auto& [x, level] : drags) {
         EXPECT_TRUE(KivUserHand::Drag(graph, x, -3.0));
         expect(level, 5.0 * level, 10.0 + 13.0 / 1125.0 * 25.0 * level * level);
