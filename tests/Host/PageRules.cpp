@@ -117,6 +117,18 @@ TEST_F(PageRules, EachPressOpensAnotherSnapWindowAndAllShowTheSame)
     EXPECT_TRUE(Press("pushAnnotActiveSnap")) << "left open at the end";
 }
 
+TEST_F(PageRules, WhatIsChosenAlreadyIsNotWritten)
+{
+    Open();
+    EXPECT_TRUE(Press("pushAnnotActiveSnap"));
+    for (const char* radio : {"radioAnnotSnapOnGrid", "radioAnnotSnapOnOrient", "radioAnnotSnapBoth"}) {
+        if (IsChosen(radio)) Radio(radio).SetState(KivDlgChecked, 1);
+    }
+    Radio("radSheetCurrent").SetState(KivDlgChecked, 1);
+    for (const char* key : {"DrwAnnotSnapMod", "KivDrwSheetFromStyle"})
+        EXPECT_EQ(All().count(key), 0U) << key;
+}
+
 TEST_F(PageRules, HandlesAreMeasuredInMillimetres)
 {
     OpenOn("double ManipRefSize = 2\n");
