@@ -151,7 +151,7 @@ KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivCachedValue<in
     KivDrwLockSpinner* spinner = BareSpinner(name, value.Info(), kKivSpinnerWidth);
     spinner->SetFormat("%g");
     spinner->SetRange(setup.minimum, setup.maximum, setup.values);
-    _form.Add(std::make_unique<KivCountRow>(spinner, value, std::move(rule)));
+    _form.Add(std::make_unique<KivWholeRow>(spinner, value, std::move(rule)));
     return spinner;
 }
 

@@ -4,20 +4,7 @@
 #include "KivWholeOf.h"
 
 #include <algorithm>
-#include <limits>
 #include <utility>
-
-namespace {
-
-int Whole(float value)
-{
-    // The greatest float below 2^31; a cast of anything beyond is undefined.
-    constexpr float kGreatest = 2147483520.0F;
-    if (!(value > -kGreatest)) return std::numeric_limits<int>::min();
-    return value < kGreatest ? static_cast<int>(value) : std::numeric_limits<int>::max();
-}
-
-} // namespace
 
 KivMeasureRow::KivMeasureRow(KivDrwLockSpinner* spinner, KivCachedValue<double>& value, double shownPerStored,
                              double storedPerShown, Rule rule)
@@ -35,22 +22,6 @@ void KivMeasureRow::Read()
     if (_spinner)
         KivDrwSettingsServices::GetValueFromSpinner(_spinner.Get(), _spinner->GetDialog(), _storedPerShown,
                                                     _value.cached);
-}
-
-KivCountRow::KivCountRow(KivDrwLockSpinner* spinner, KivCachedValue<int>& value, Rule rule)
-    : KivPageRow(value, std::move(rule)), _spinner(spinner), _value(value)
-{}
-
-void KivCountRow::Show()
-{
-    if (_spinner) _spinner->SetCurrentValue(static_cast<float>(_value.cached), 0);
-}
-
-void KivCountRow::Read()
-{
-    if (!_spinner) return;
-    _value.cached = Whole(_spinner->GetCurrentValue());
-    Show();
 }
 
 KivWholeRow::KivWholeRow(KivDrwLockSpinner* spinner, KivCachedValue<int>& value, Rule rule)

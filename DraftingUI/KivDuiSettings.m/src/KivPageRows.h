@@ -54,21 +54,6 @@ private:
     double _storedPerShown;
 };
 
-// A count: what is typed is cut to a whole number and shown so.
-class KivCountRow final : public KivPageRow {
-public:
-    KivCountRow(KivDrwLockSpinner* spinner, KivCachedValue<int>& value, Rule rule);
-    void Show() override;
-    using KivPageRow::Read;
-    void Read() override;
-
-private:
-    KivDrwLockDialog* Control() const override { return _spinner.Get(); }
-
-    KivWeakPtr<KivDrwLockSpinner> _spinner;
-    KivCachedValue<int>& _value;
-};
-
 // A whole number that is typed as a real one: what is typed is cut towards zero and shown so.
 class KivWholeRow final : public KivPageRow {
 public:
