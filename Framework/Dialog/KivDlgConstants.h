@@ -22,7 +22,8 @@ inline constexpr unsigned int KivDlgAttachLeft = 8;
 inline constexpr unsigned int KivDlgAttachBottom = 16;
 inline constexpr unsigned int KivDlgCentreHorizontally = 32;
 inline constexpr unsigned int KivDlgCentreVertically = 64;
-inline constexpr unsigned int KivDlgAttachAllSides = 30;    // fills its cell
+inline constexpr unsigned int KivDlgAttachAllSides = 30; // fills its cell
+inline constexpr unsigned int KivDlgAttachAllSidesCentred = 126;
 inline constexpr unsigned int KivDlgAttachLeftCentred = 88; // at the left of its cell, vertically centred
 
 // Style of a frame whose children are placed by grid constraints.

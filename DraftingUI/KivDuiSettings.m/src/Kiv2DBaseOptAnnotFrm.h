@@ -4,8 +4,6 @@
 #include "KivPageFrame.h"
 #include "KivPageSetting.h"
 
-#include <vector>
-
 // The Annotation page: snapping of texts and leaders, moving of annotations, dittos, balloons, tables. Knows
 // no store: a frame derived from it binds the accessors.
 class Kiv2DBaseOptAnnotFrm : public KivClass<Kiv2DBaseOptAnnotFrm, KivPageFrame> {

@@ -6,8 +6,7 @@ namespace {
 
 constexpr KivSpinnerSetup kSize = KivMillimetres(1.0);
 
-constexpr unsigned int kFilled = KivDlgAttachAllSides | KivDlgCentreHorizontally | KivDlgCentreVertically;
-constexpr unsigned int kFilledCentred = kFilled & ~KivDlgAttachRight;
+constexpr unsigned int kFilledCentred = KivDlgAttachAllSidesCentred & ~KivDlgAttachRight;
 
 // The columns of the table of dimension handles.
 enum Column : short { Icon, Kind, Creation, Gap, Modification };
@@ -58,16 +57,16 @@ void Kiv2DBaseOptManipFrm::BuildDimManipulators()
     };
     KivFormGroup dimension = Group("frameDim", "I_DrwDim");
     KivFormLine header = dimension.Line();
-    header.At(Creation).Attached(kFilled).PlainLabel("_labelDimCreation");
+    header.At(Creation).Attached(KivDlgAttachAllSidesCentred).PlainLabel("_labelDimCreation");
     // Keeps the two columns of switches apart.
-    header.Attached(kFilled).PlainLabel("_labelSpaceDim")->SetTitle("   ");
-    header.Attached(kFilled).PlainLabel("_labelDimModification");
+    header.Attached(KivDlgAttachAllSidesCentred).PlainLabel("_labelSpaceDim")->SetTitle("   ");
+    header.Attached(KivDlgAttachAllSidesCentred).PlainLabel("_labelDimModification");
     for (const DimRow& row : rows) BuildDimRow(dimension.Line(), row);
 }
 
 void Kiv2DBaseOptManipFrm::BuildDimRow(KivFormLine line, const DimRow& row)
 {
-    line.Attached(kFilled).Picture(row.iconName)->SetIconName(row.icon, "", "", "");
+    line.Attached(KivDlgAttachAllSidesCentred).Picture(row.iconName)->SetIconName(row.icon, "", "", "");
     // It names two switches: a lock on one of them does not grey it.
     line.Attached(kFilledCentred).PlainLabel(row.labelName)->SetGreysWithControl(false);
     for (KivDrwLockCheckButton* button :

@@ -27,7 +27,6 @@ const KivFormChoice& ModeLines()
 constexpr KivSpinnerSetup kTolerance{
     .magnitude = KivDlgMagnitudeLength, .minimum = 0.0, .maximum = 1.0e12, .step = 0.001};
 
-constexpr unsigned int kFilled = KivDlgAttachAllSides | KivDlgCentreHorizontally | KivDlgCentreVertically;
 constexpr unsigned long kComboStyle = 0x40000;
 
 } // namespace
@@ -48,7 +47,7 @@ void KivDrwOptViewFrame::BuildElements()
     KivFormGroup elements = Group("frameGenElem", "I_DrwFrontView");
     KivFormLine axis = elements.Line();
     axis.Check("_checkGenAxis", _genAxis);
-    axis.Attached(kFilled).Check("_checkGenThread", _genThread);
+    axis.Attached(KivDlgAttachAllSidesCentred).Check("_checkGenThread", _genThread);
     KivFormLine center = elements.Line();
     center.Check("_checkGenCenter", _genCenter);
     center.Check("_checkGenHiddenLines", _genHiddenLines);
