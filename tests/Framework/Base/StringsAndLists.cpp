@@ -1,5 +1,4 @@
 #include "Base/KivListOfUnicodeString.h"
-#include "Base/KivToken.h"
 
 #include <gtest/gtest.h>
 
@@ -14,27 +13,6 @@ int AlwaysAfter(const KivUnicodeString*, const KivUnicodeString*)
     return 1;
 }
 
-KivListOfUnicodeString ListOf(std::initializer_list<const char*> texts)
-{
-    KivListOfUnicodeString list;
-    for (const char* text : texts) list.Append(KivUnicodeString(text));
-    return list;
-}
-
-std::string Joined(const KivListOfUnicodeString& list)
-{
-    std::string joined;
-    for (int i = 1; i <= list.Size(); ++i) joined += std::string(list[i].View()) + ",";
-    return joined;
-}
-
-TEST(Lists, DuplicatesLeaveTheFirstInPlace)
-{
-    KivListOfUnicodeString list = ListOf({"b", "a", "b", "c", "a"});
-    list.RemoveDuplicates();
-    EXPECT_EQ(Joined(list), "b,a,c,");
-}
-
 TEST(Lists, QuickSortBearsComparisonsThatAreNoOrdering)
 {
     KivListOfUnicodeString list;
@@ -46,15 +24,6 @@ TEST(Lists, QuickSortBearsComparisonsThatAreNoOrdering)
     list.QuickSort(&AlwaysAfter);
     list.RemoveDuplicates();
     EXPECT_EQ(list.Size(), 250);
-}
-
-TEST(Strings, TokensSkipEmptyOnesAndEnd)
-{
-    KivToken tokens("/s1::/s2:");
-    EXPECT_EQ(tokens.GetNextToken(":"), "/s1");
-    EXPECT_EQ(tokens.GetNextToken(":"), "/s2");
-    EXPECT_TRUE(tokens.GetNextToken(":").IsEmpty());
-    EXPECT_TRUE(tokens.GetNextToken(":").IsEmpty());
 }
 
 TEST(Strings, PartsAreCutAtTheEnds)

@@ -1,10 +1,8 @@
-#include "Parameter/KivControlUnit.h"
 #include "Parameter/KivParmDictionary.h"
 #include "Parameter/KivParmEngine.h"
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <string>
 
 namespace {
@@ -30,23 +28,6 @@ protected:
     static constexpr const char* kAngle = KivParmDictionary::AngleType;
     KivParmEngine& _engine = KivParmEngine::Instance();
 };
-
-TEST_F(CurrentUnits, EveryNameSelectsItsNumber)
-{
-    const std::map<std::string, int> lengths{{"METER", 41},   {"MM", 42},      {"CM", 43},
-                                             {"KM", 44},      {"INCH", 45},    {"FOOT", 46},
-                                             {"F_I_F64", 47}, {"F_I_F16", 48}, {"F_I_DEC", 49}};
-    const std::map<std::string, int> angles{{"RADIAN", 11}, {"DEGREE", 12}, {"GRADE", 13}};
-    for (const auto& [name, number] : lengths) {
-        EXPECT_TRUE(_engine.SetCurrentUnit(kLength, name));
-        EXPECT_EQ(Unit(kLength), name);
-        EXPECT_EQ(KivControlUnit::Named(name, KivDlgMagnitudeLength)->number, number);
-        EXPECT_EQ(KivControlUnit::Named(name, KivDlgMagnitudeAngle), nullptr);
-    }
-    for (const auto& [name, number] : angles)
-        EXPECT_EQ(KivControlUnit::Named(name, KivDlgMagnitudeAngle)->number, number);
-    EXPECT_EQ(KivControlUnit::Named("mm", KivDlgMagnitudeLength), nullptr);
-}
 
 TEST_F(CurrentUnits, PeopleCallThemInTheirWay)
 {

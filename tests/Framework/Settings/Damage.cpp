@@ -27,29 +27,9 @@ protected:
 
 TEST_F(Damage, ALineCostsItselfAlone)
 {
-    const char* const lines[] = {
-        "int Bad = 2147483648",
-        "int Bad = 1.5",
-        "int Bad = 1,5",
-        "int Bad = 1 2",
-        "int Bad =",
-        "int Bad",
-        "unsigned Bad = -1",
-        "float Bad = 1e39",
-        "double Bad = nan",
-        "double Bad = inf",
-        "double Bad = 1e999",
-        "double Bad = 0x10",
-        "string Bad = x",
-        "string Bad = \"x",
-        "string Bad = \"\\q\"",
-        "string Bad = \"\xff\"",
-        "string Bad = \"\\x4\"",
-        "string Bad = \"a\"b\"",
-    };
-    for (const char* line : lines) {
+    const auto costsItself = [&](const std::string& line) {
         box.diagnostics.clear();
-        box.Write(file, "int Before = 1\n" + std::string(line) + "\nint After = 2\n");
+        box.Write(file, "int Before = 1\n" + line + "\nint After = 2\n");
         const KivSettingRepository& repository = box.Reopen();
         EXPECT_EQ(box.Read(repository, "Before", 0), 1) << line;
         EXPECT_EQ(box.Read(repository, "After", 0), 2) << line;
@@ -57,7 +37,15 @@ TEST_F(Damage, ALineCostsItselfAlone)
         EXPECT_EQ(repository.GetInfo("Bad", &info, 0), E_FAIL) << line;
         EXPECT_EQ(box.Said("DraftingOptions.kivsettings:2: Bad: "), 1) << line;
         EXPECT_FALSE(repository.IsProtected());
-    }
+    };
+    const std::pair<std::string, std::vector<const char*>> types[] = {
+        {"int", {"", " =", " = 2147483648", " = 1.5", " = 1,5", " = 1 2"}},
+        {"unsigned", {" = -1"}},
+        {"float", {" = 1e39"}},
+        {"double", {" = nan", " = inf", " = 1e999", " = 0x10"}},
+        {"string", {" = x", " = \"x", " = \"\\q\"", " = \"\xff\"", " = \"\\x4\"", " = \"a\"b\""}}};
+    for (const auto& [type, ends] : types)
+        for (const char* end : ends) costsItself(type + " Bad" + end);
 }
 
 TEST_F(Damage, TheOriginalIsSetAsideBeforeTheFirstSave)

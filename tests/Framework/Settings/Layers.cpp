@@ -1,16 +1,11 @@
 #include "Settings/KivSettingRepository.h"
-#include "Settings/KivTimedReading.h"
 #include "Support/KivSettingsSandbox.h"
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <sys/stat.h>
-#include <thread>
 
 namespace {
-
-using Receipt = KivSettingRepository::Receipt;
 
 class Layers : public ::testing::Test {
 protected:
@@ -161,34 +156,6 @@ TEST_F(Layers, LocksHoldWhateverBecomesOfTheFile)
     EXPECT_EQ(box.Reopen().WriteSetting("Ruler", &other, 1, 0), S_OK);
     std::filesystem::remove_all(box.root / "site");
     EXPECT_EQ(box.Reopen().WriteSetting("Ruler", &other, 1, 0), S_OK);
-}
-
-TEST_F(Layers, ASlowShareIsNotWaitedFor)
-{
-    std::atomic<bool> isFree{false};
-    std::atomic<int> readers{0};
-    const auto slow = [&](const KivUnicodeString& path) {
-        ++readers;
-        while (path == "/slow" && !isFree) std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        KivFileContent content;
-        content.state = KivFileContent::State::Read;
-        return content;
-    };
-    const auto states = [&] {
-        std::string all;
-        for (const auto& content : KivReadInTime({"/slow", "/fast"}, std::chrono::milliseconds(200), slow)) {
-            all += content.state == KivFileContent::State::Read ? 'r' : '-';
-        }
-        return all;
-    };
-    EXPECT_EQ(states(), "-r");
-    const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(states(), "-r"); // the first reader is still stuck: no second one, no second wait
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(150));
-    EXPECT_EQ(readers, 3);
-    isFree = true;
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    EXPECT_EQ(states(), "rr");
 }
 
 TEST_F(Layers, AnAdministratorEditsOneLayer)
