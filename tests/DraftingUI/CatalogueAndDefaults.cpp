@@ -46,6 +46,7 @@ TEST(Catalogue, GroupsHaveTheirSizesAndResetKeys)
 {
     const std::size_t sizes[] = {24, 11, 38, 8, 31, 61, 16, 12, 6, 11};
     const std::size_t onPage[] = {24, 10, 37, 8, 31, 61, 16, 12, 6, 11};
+    const std::size_t reset[] = {25, 10, 37, 8, 31, 61, 16, 12, 6, 11};
     std::size_t all = 0;
     for (const KivDrwGroup group : KivDrwCatalogue::Groups()) {
         const auto index = static_cast<std::size_t>(group);
@@ -57,8 +58,10 @@ TEST(Catalogue, GroupsHaveTheirSizesAndResetKeys)
             EXPECT_EQ(KivDrwCatalogue::Find(row.key), &row) << "a key that stands twice";
         }
         EXPECT_EQ(edited, onPage[index]);
+        EXPECT_EQ(KivDrwCatalogue::ResetKeys(group).size(), reset[index]);
         all += rows.size();
     }
+    EXPECT_STREQ(KivDrwCatalogue::ResetKeys(KivDrwGroup::General).back(), "DrwAreaFillTol") << "deliberate";
     EXPECT_EQ(all, 218U);
     EXPECT_EQ(KivDrwCatalogue::Find("DrwExplodeSymbol"), nullptr);
 }
@@ -126,15 +129,6 @@ TEST_F(FirstStart, KeepsWhatThereIsAndGathersWithoutWriting)
 
     KivSettingRepository::Withhold(true);
     EXPECT_EQ(ResetAndWriteSettings(1), 0);
-}
-
-TEST_F(FirstStart, YieldsToASiteDefaultThatComesLater)
-{
-    KivDrwOptionsServices::InitOptionsOnDisk();
-    box.NameLayers({"site"});
-    box.Write(box.File("site"), "int Ruler = 1\n");
-    KivSettingRepository::ForgetAll();
-    EXPECT_EQ(KivDrwRead(KivDrwRepository(), KivDrwKeys::Ruler), 1);
 }
 
 TEST_F(FirstStart, WritesNothingOverAFileThatCannotBeRead)

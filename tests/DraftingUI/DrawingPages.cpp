@@ -4,6 +4,7 @@
 #include "Dialog/KivDlgRadioButton.h"
 #include "Dialog/KivDlgSpinner.h"
 #include "Dialog/KivUserHand.h"
+#include "Kiv2DBaseOptGalFrm.h"
 #include "KivDrwOptGeoEditor.h"
 #include "KivDrwOptIntFrm.h"
 #include "KivDrwSketcherSettings.h"
@@ -131,6 +132,17 @@ TEST(ColoursOfPages, AreStoredOnlyWithAllComponentsInRange)
 }
 
 // Applications that have every group, or none, but no store of their own.
+class GeneralWithoutStore : public Kiv2DBaseOptGalFrm {
+public:
+    GeneralWithoutStore() : Kiv2DBaseOptGalFrm(nullptr, "DrwSet") {}
+    int WithFrameRuler() override { return 1; }
+    int WithFrameGrid() override { return 1; }
+    int WithFrameRotation() override { return 1; }
+    int WithFrameColor() override { return 1; }
+    int WithFrameTree() override { return 1; }
+    int WithFrame2DAxis() override { return 1; }
+    int WithFrameHideWhenStartWkb() override { return 1; }
+};
 class GeometryWithoutStore : public Kiv2DBaseOptGeoFrm {
 public:
     GeometryWithoutStore() : Kiv2DBaseOptGeoFrm(nullptr, "DrwSet") {}
@@ -152,27 +164,34 @@ public:
 
 TEST(GenericDrawingPages, BuildTheGroupsThatTheirApplicationHas)
 {
+    Kiv2DBaseOptGalFrm noGeneral(nullptr, "DrwSet");
     Kiv2DBaseOptGeoFrm noGeometry(nullptr, "DrwSet");
     Kiv2DBaseOptDimFrm noDimension(nullptr, "DrwSet");
+    GeneralWithoutStore general;
     GeometryWithoutStore geometry;
     DimensionWithoutStore dimension;
-    for (KivPageFrame* page :
-         std::initializer_list<KivPageFrame*>{&noGeometry, &noDimension, &geometry, &dimension}) {
+    const std::pair<KivPageFrame*, std::size_t> pages[] = {
+        {&noGeneral, 0}, {&noGeometry, 0}, {&noDimension, 0}, {&general, 7}, {&geometry, 5}, {&dimension, 5}};
+    for (const auto& [page, groups] : pages) {
         page->Build();
         page->Initialize();
         page->Write(page, nullptr, nullptr);
+        EXPECT_EQ(page->Children().size(), groups);
     }
-    EXPECT_TRUE(noGeometry.Children().empty() && noDimension.Children().empty());
-    EXPECT_EQ(geometry.Children().size(), 5U);
-    EXPECT_EQ(dimension.Children().size(), 5U);
     // All zeros: what depends on a switch is greyed, and no padlock is closed.
     for (const auto& [page, name, sensitivity] :
-         {std::tuple<KivPageFrame*, const char*, unsigned long>{&geometry, "checkCstVisu", KivDlgEnabled},
+         {std::tuple<KivPageFrame*, const char*, unsigned long>{&general, "checkGrid", KivDlgEnabled},
+          {&geometry, "checkCstVisu", KivDlgEnabled},
           {&geometry, "spinnerCstRefSize", KivDlgDisabled},
           {&dimension, "checkDimDesignMode", KivDlgEnabled},
           {&dimension, "comboDimFake", KivDlgDisabled}})
         EXPECT_EQ(static_cast<KivDrwLockDialog*>(page->FindDialog(name))->GetSensitivity(), sensitivity)
             << name;
+    double spacing = 7.0;
+    int red = 7, green = 7, blue = 7;
+    EXPECT_EQ(general.GetPrimSpaceH(spacing), E_FAIL);
+    EXPECT_EQ(general.GetSheetColor(red, green, blue), E_FAIL);
+    EXPECT_EQ(spacing + red + green + blue, 0.0);
 }
 
 } // namespace
