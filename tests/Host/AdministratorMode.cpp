@@ -1,46 +1,30 @@
-#include "Component/KivLibrary.h"
-#include "Dialog/KivComboColor.h"
-#include "Dialog/KivDlgLock.h"
-#include "Dialog/KivDlgSpinner.h"
-#include "Dialog/KivUserHand.h"
-#include "Options/KivOptionsSession.h"
-#include "Support/KivSettingsSandbox.h"
-
-#include <gtest/gtest.h>
+#include "OptionsPages.h"
 
 namespace {
 
 // The General page on an administrator's layer.
-class AdministratorMode : public testing::Test {
+class AdministratorMode : public OptionsPages {
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(KivLoadLibrary("KivDuiSettings"));
+        file = box.File("site");
         box.NameLayers({"company", "site"});
         box.Write(box.File("company"), "lock int Ruler = 1\nlock float BackgroundColorGreenDitto = 1\n");
         box.Write(file, "# ours\nlock double RotSnapAngle = 45\nlock View*\n");
     }
-    void Open(const char* layer)
+    void Edit(const char* layer)
     {
         session.reset();
-        KivSettingRepository::SetEditedLayer(layer ? KivUnicodeString((box.root / layer).string())
-                                                   : KivUnicodeString());
-        KivSettingRepository::ForgetAll();
-        session = std::make_unique<KivOptionsSession>(manager);
+        KivSettingRepository::SetEditedLayer(KivUnicodeString((box.root / layer).string()));
+        Open();
     }
-    KivDialog* Node(const std::string& name) { return session->Root().FindDialog(name.c_str()); }
-    KivDlgLock& Lock(const std::string& row) { return *static_cast<KivDlgLock*>(Node(row + "Lock")); }
-    bool IsEnabled(const std::string& row) { return Node(row + "_dialog")->IsEnabled(); }
-
-    KivSettingsSandbox box;
-    std::filesystem::path file = box.File("site");
-    KivUserSettingsManager manager;
-    std::unique_ptr<KivOptionsSession> session;
+    KivDlgLock& Lock(const std::string& row) { return Node<KivDlgLock>(row + "Lock"); }
+    bool IsEnabled(const std::string& row) { return Control(row).IsEnabled(); }
 };
 
 TEST_F(AdministratorMode, PadlocksAreSwitchesThatOkSaves)
 {
-    Open("site");
+    Edit("site");
     EXPECT_TRUE(Lock("spinnerRotSnapAngle").IsClosed() && Lock("spinnerRotSnapAngle").IsSwitch());
     EXPECT_TRUE(IsEnabled("spinnerRotSnapAngle")) << "whoever edits the layer changes what it locks";
     EXPECT_TRUE(KivUserHand::Press(Lock("spinnerRotSnapAngle")));
@@ -66,7 +50,9 @@ TEST_F(AdministratorMode, PadlocksAreSwitchesThatOkSaves)
               "lock Drw_settings_GridVPrimarySpacing\n");
 
     // A user of the layer meets what was locked, and no switch.
-    Open(nullptr);
+    session.reset();
+    KivSettingRepository::SetEditedLayer({});
+    Open();
     EXPECT_FALSE(IsEnabled("checkSnap") || IsEnabled("comboBackgroundColor") ||
                  IsEnabled("checkViewReferential"));
     EXPECT_TRUE(IsEnabled("spinnerRotSnapAngle"));
@@ -76,7 +62,7 @@ TEST_F(AdministratorMode, PadlocksAreSwitchesThatOkSaves)
     }
     EXPECT_TRUE(Lock("checkSnap").IsClosed());
 
-    Open("site");
+    Edit("site");
     EXPECT_TRUE(KivUserHand::Press(Lock("comboBackgroundColor")));
     ASSERT_TRUE(session->Commit().empty());
     EXPECT_EQ(box.Bytes(file).find("lock BackgroundColor"), std::string::npos) << "all three are open again";
@@ -84,7 +70,7 @@ TEST_F(AdministratorMode, PadlocksAreSwitchesThatOkSaves)
 
 TEST_F(AdministratorMode, CancelTakesLocksBackAndPadlocksShowIt)
 {
-    Open("site");
+    Edit("site");
     const std::string bytes = box.Bytes(file);
     for (const char* row : {"spinnerRotSnapAngle", "checkSnap", "comboBackgroundColorDD"})
         ASSERT_TRUE(KivUserHand::Press(Lock(row))) << row;

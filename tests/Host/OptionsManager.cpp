@@ -1,41 +1,11 @@
 #include "Base/KivEnvironment.h"
-#include "Component/KivLibrary.h"
-#include "Options/KivOptionsSession.h"
-#include "Support/KivSettingsSandbox.h"
-
-#include <gtest/gtest.h>
+#include "OptionsPages.h"
 
 namespace {
 
-class OptionsManager : public testing::Test {
+class OptionsManager : public OptionsPages {
 protected:
-    static void SetUpTestSuite()
-    {
-        for (const char* library : {"KivDuiSettings", "KivDrwSettingCtrl"})
-            ASSERT_TRUE(KivLoadLibrary(library));
-    }
-    void SetUp() override { _before = KivBaseUnknown::LiveObjects(); }
-    void TearDown() override
-    {
-        manager.Get()->Release();
-        manager = {};
-        EXPECT_EQ(KivBaseUnknown::LiveObjects(), _before);
-    }
-
-    KivSettingsSandbox box;
-    struct Handle {
-        KivUserSettingsManager* made = nullptr;
-        KivUserSettingsManager* Get()
-        {
-            if (!made) made = new KivUserSettingsManager;
-            return made;
-        }
-        KivUserSettingsManager* operator->() { return Get(); }
-        KivUserSettingsManager& operator*() { return *Get(); }
-    } manager;
-
-private:
-    long _before = 0;
+    void SetUp() override { manager = std::make_unique<KivUserSettingsManager>(); }
 };
 
 TEST_F(OptionsManager, FindsTheTenFactoriesThroughTheDictionary)
@@ -78,18 +48,18 @@ TEST_F(OptionsManager, FindsTheTenFactoriesThroughTheDictionary)
 
 TEST_F(OptionsManager, OffersThePagesThatHaveSomethingToShow)
 {
-    KivOptionsSession session(*manager);
+    Open();
     std::string titles;
-    for (const KivOptionsSession::Page& page : session.Pages())
+    for (const KivOptionsSession::Page& page : session->Pages())
         titles += std::string(page.title.View()) + " ";
     EXPECT_EQ(titles, "General Layout View Generation Geometry Dimension Manipulators Annotation "
                       "Compatibility Administration ");
-    const KivOptionsSession::Page& page = session.Pages()[0];
+    const KivOptionsSession::Page& page = session->Pages()[0];
     EXPECT_EQ(page.title, "General");
     EXPECT_NE(page.frame->FindDialog("DrwSet"), nullptr);
-    EXPECT_EQ(session.FindPage("general"), &page);
-    EXPECT_EQ(session.FindPage("kivdrwoptgaleditor"), &page);
-    EXPECT_EQ(session.FindPage("Fonts"), nullptr);
+    EXPECT_EQ(session->FindPage("general"), &page);
+    EXPECT_EQ(session->FindPage("kivdrwoptgaleditor"), &page);
+    EXPECT_EQ(session->FindPage("Fonts"), nullptr);
 }
 
 TEST_F(OptionsManager, SaysWhichLibraryCannotBeLoaded)

@@ -30,7 +30,12 @@ protected:
         EXPECT_EQ(KivBaseUnknown::LiveObjects(), _before);
     }
 
-    // Opens the options anew, as the next start of a program would.
+    // Opens the options anew, as the next start of a program would, on what a user has stored.
+    void OpenOn(const std::string& content)
+    {
+        box.Write(file, content);
+        Open();
+    }
     void Open()
     {
         session.reset();

@@ -43,6 +43,24 @@ protected:
         }
         return changed;
     }
+    std::string Shown()
+    {
+        std::ostringstream shown;
+        for (const TableRow& row : table.rows) {
+            KivDialog& control = Control(row.control);
+            const auto is = [&](const char* kind) { return control.IsAKindOf(kind); };
+            unsigned int red = 0, green = 0, blue = 0;
+            if (is(KivDlgCheckButton::Name)) shown << static_cast<KivDlgCheckButton&>(control).GetState();
+            if (is(KivDlgRadioButton::Name)) shown << static_cast<KivDlgRadioButton&>(control).GetState();
+            if (is(KivDlgSpinner::Name)) shown << static_cast<KivDlgSpinner&>(control).GetValue();
+            if (is(KivDlgEditor::Name)) shown << static_cast<KivDlgEditor&>(control).GetText().View();
+            if (is(KivDlgCombo::Name)) shown << static_cast<KivDlgCombo&>(control).KivDlgCombo::GetSelect();
+            if (is(KivComboColor::Name))
+                static_cast<KivComboColor&>(control).GetSelectedColor(&red, &green, &blue);
+            shown << ' ' << red << ' ' << green << ' ' << blue << '\n';
+        }
+        return shown.str();
+    }
     void DriveAll()
     {
         for (const TableRow& row : table.rows) Drive(Control(row.control));
@@ -216,8 +234,10 @@ TEST_P(PageFamily, OkCancelAndResetMeanWhatTheySay)
     OpenWith("# mine\r\nint " + other + " = 1\n");
     const std::string bytes = box.Bytes(file);
     const Values before = All();
+    const std::string asOpened = Shown();
     DriveAll();
     EXPECT_NE(All(), before);
+    EXPECT_NE(Shown(), asOpened);
     EXPECT_EQ(box.Bytes(file), bytes) << "nothing is saved before OK";
     session->Cancel();
     KivCommand::DrainDelayedDestruction();
@@ -225,6 +245,7 @@ TEST_P(PageFamily, OkCancelAndResetMeanWhatTheySay)
     EXPECT_EQ(box.Bytes(file), bytes);
 
     for (const char* button : table.buttons) ASSERT_TRUE(Press(button));
+    EXPECT_EQ(Shown(), asOpened);
     DriveAll();
     const Values driven = All();
     EXPECT_TRUE(session->Commit().empty());
@@ -233,6 +254,9 @@ TEST_P(PageFamily, OkCancelAndResetMeanWhatTheySay)
     EXPECT_EQ(All(), driven);
 
     session->Reset(Page(table.page));
+    const std::string reset = Shown();
+    session->Refill();
+    EXPECT_EQ(Shown(), reset);
     for (const std::string& key : Keys()) EXPECT_EQ(All().count(key), 0U) << key << " is still the user's";
     EXPECT_EQ(All().at(other), "1");
     session->Cancel();

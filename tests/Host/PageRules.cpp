@@ -9,11 +9,6 @@ namespace {
 // The special rules of single pages.
 class PageRules : public OptionsPages {
 protected:
-    void OpenOn(const std::string& content)
-    {
-        box.Write(file, content);
-        Open();
-    }
     std::vector<KivDlgDialog*> Windows()
     {
         std::vector<KivDlgDialog*> windows;
@@ -129,13 +124,63 @@ TEST_F(PageRules, WhatIsChosenAlreadyIsNotWritten)
         EXPECT_EQ(All().count(key), 0U) << key;
 }
 
-TEST_F(PageRules, HandlesAreMeasuredInMillimetres)
+TEST_F(PageRules, ADirectoryThatDoesNotExistIsKeptAndMarked)
 {
-    OpenOn("double ManipRefSize = 2\n");
+    KivDlgEditor& field = (OpenOn(""), Node<KivDlgEditor>("editorTitleBlockPath_dialog"));
+    EXPECT_TRUE(field.IsDirectory());
+    const KivUnicodeString usual = field.CatalogueText("Help");
+    const std::string there = box.root.string(), away = there + "/away";
+    box.Write(box.root / "file", "");
+    for (const auto& [path, isMarked] : {std::pair(there, false),
+                                         {away, true},
+                                         {there + "/file", true},
+                                         {std::string(), false},
+                                         {away, true}}) {
+        EXPECT_TRUE(KivUserHand::Type(field, path.c_str()));
+        EXPECT_EQ(Stored("DrwFrameAndTitleBlockPath", KivUnicodeString("?")), path.c_str());
+        EXPECT_EQ(field.GetText(), path.c_str());
+        EXPECT_EQ(Node<KivDialog>("labelTitleBlockMissing").IsShown(), isMarked) << path;
+        EXPECT_EQ(field.GetHelp() == usual, !isMarked) << "who hears the page is told too";
+    }
+    std::filesystem::create_directory(away);
+    session->Refill();
+    EXPECT_FALSE(Node<KivDialog>("labelTitleBlockMissing").IsShown()) << "it is back";
+    EXPECT_TRUE(session->Commit().empty());
+    EXPECT_EQ(box.Bytes(file).find("TitleBlockFile"), std::string::npos) << "on no page";
+}
+
+TEST_F(PageRules, MeasuresAreStoredInMillimetresAndDegrees)
+{
+    OpenOn("double LineUpOffsetLength = 12.5\ndouble LineUpOffsetAngle = 90\ndouble ManipRefSize = 2\n");
+    const struct {
+        const char* row;
+        const char* typed;
+        const char* key;
+        double stored;
+    } measures[] = {{"spinnerDimLinePos", "0", "DimLinePosValue", 0.0},
+                    {"spinnerDimLinePos", "-1", "DimLinePosValue", 0.0},
+                    {"spinnerLineUpBaseLength", "1 in", "LineUpBaseOffsetLength", 25.4},
+                    {"spinnerLineUpBaseAngle", "360", "LineUpBaseOffsetAngle", 360.0},
+                    {"spinnerLineUpBaseAngle", "361", "LineUpBaseOffsetAngle", 360.0},
+                    {"spinnerCstRefSize", "3.5", "CstRefSize", 3.5},
+                    {"editorManipRefSize", "0.005 m", "ManipRefSize", 5.0},
+                    {"editorManipRefSize", "-1", "ManipRefSize", 5.0}};
     EXPECT_EQ(Spinner("editorManipRefSize").GetValue(), 0.002);
-    EXPECT_TRUE(KivUserHand::Type(Spinner("editorManipRefSize"), "0.005 m"));
-    EXPECT_EQ(Stored("ManipRefSize", 0.0), 5.0);
-    EXPECT_FALSE(KivUserHand::Type(Spinner("editorManipRefSize"), "-1"));
+    EXPECT_NEAR(Spinner("spinnerLineUpLength").GetValue(), 0.0125, 1e-12);
+    EXPECT_NEAR(Spinner("spinnerLineUpAngle").GetValue(), 1.5707963267948966, 1e-12);
+    for (const auto& [row, typed, key, stored] : measures) {
+        KivUserHand::Type(Spinner(row), typed);
+        EXPECT_NEAR(Stored(key, -1.0), stored, 1e-9) << row << " " << typed;
+    }
+}
+
+TEST_F(PageRules, AModeThatThereIsNoneOfStaysUntilOneIsChosen)
+{
+    OpenOn("int Drw_settings_DragModeR14 = 7\n");
+    for (const char* radio : {"radioDragStandard", "radioDragMinimum", "radioDragRelaxation"})
+        EXPECT_FALSE(IsChosen(radio));
+    EXPECT_TRUE(KivUserHand::Choose(Radio("radioDragMinimum")));
+    EXPECT_EQ(Stored("Drw_settings_DragModeR14", 9), 1);
 }
 
 TEST_F(PageRules, GenerationWritesAllItsKeysInItsOwnOrder)
