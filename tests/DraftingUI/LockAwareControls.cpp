@@ -163,6 +163,8 @@ TEST_F(LockAwareControls, LineTypesColoursAndRangesFollowTheirContracts)
     EXPECT_EQ(dashed->GetSelect(), 3U);
     auto* without = new KivDrwLockComboDashed(nullptr, "", page.get(), "dashed", 0, 0UL, 0U);
     EXPECT_EQ(without->GetCombo()->GetLineCount(), 7);
+    without->SetSelect(8);
+    EXPECT_EQ(without->GetSelect(), 1U) << "there is none";
 
     auto* colour = new KivDrwLockComboColor(page.get(), "colour", KivSettingInfo());
     unsigned int r = 0, g = 0, b = 0;

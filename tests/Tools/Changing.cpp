@@ -135,18 +135,4 @@ TEST_F(ToolTest, ExportsWhatDiffersAndImportsIt)
     Expect("import $root", 3, "", "a directory stands in place");
 }
 
-TEST_F(ToolTest, ManyProcessesAtOnceLoseNothing)
-{
-    const char* const keys[] = {"Ruler",   "DimCircle", "GenDim",       "RotSnapAuto",
-                                "ORunCre", "ORunMod",   "ExplodeDitto", "DrwBlinkRed"};
-    std::string script;
-    for (const char* key : keys)
-        script += std::string("(for i in 0 1 0 1 0 1; do kivsettings set ") + key + "=$i || exit 1; done) & ";
-    EXPECT_EQ(Shell(script + "wait").err, "");
-    std::string all;
-    for (const char* key : keys) (all += ' ') += key;
-    Expect("get" + all, 0, "1\n1\n1\n1\n1\n1\n1\n1\n");
-    EXPECT_EQ(box.Names("user"), std::vector<std::string>{"DraftingOptions.kivsettings"});
-}
-
 } // namespace

@@ -64,11 +64,12 @@ TEST_F(ToolTest, ComparesOwnValuesLocksAndFiles)
 TEST_F(ToolTest, ChecksEveryLineOfEveryLayer)
 {
     box.NameLayers({"company", "site", "away"});
-    box.Write(box.File("company"), "lock int Ruler = 1\nlock Rulr\nlock Gen*\n");
+    box.Write(box.File("company"), "lock int Ruler = 1\nlock Rulr\nlock Gen*\nint ORunCre = 1\n");
     box.Write(box.File("site"),
               "lock Ruler\nint Ruler = 0\nfloat ViewName = 1\nint ViewName = 2\nlock Nothing*\nrubbish\n"
-              "matrix Foreign = 1\nlock int ViewFrame = 1\nint GenDim = 1\n");
-    box.Write(box.File("user"), "lock int ViewFrame = 0\nint Foreign = 1\n");
+              "matrix Foreign = 1\nlock int ViewFrame = 1\nint GenDim = 1\nlock int GenDimAnal = 1\n"
+              "lock GenD*\n");
+    box.Write(box.File("user"), "lock int ViewFrame = 0\nint Foreign = 1\ninitial int ORunCre = 0\n");
     const std::string company = Path("company"), site = Path("site"), user = Path("user");
     const std::pair<std::string, const char*> expected[] = {
         {company + ":2: Rulr: ", "did you mean Ruler?"},
@@ -82,10 +83,13 @@ TEST_F(ToolTest, ChecksEveryLineOfEveryLayer)
         {site + ":6: ", "the line is not used"},
         {site + ":7: Foreign: ", "the type is unknown"},
         {site + ":9: GenDim: ", "line 3) locks it"},
+        {site + ":10: GenDimAnal: ", "neither lock nor value have an effect: layer \"company\""},
+        {site + ":11: GenD*: ", "the lock has no effect: layer \"company\""},
         {Path("away") + ": ", "away"},
         {user + ":1: ViewFrame: ", "binds nobody"},
         {user + ":1: ViewFrame: ", "line 8) locks it"},
         {user + ":2: Foreign: ", "no setting of this name"},
+        {user + ":3: ORunCre: ", "the value of the first start yields to the one of layer \"company\""},
     };
     const ToolRun run = Run("check");
     EXPECT_EQ(run.code, 1);
@@ -103,6 +107,8 @@ TEST_F(ToolTest, ChecksEveryLineOfEveryLayer)
                             "\", \"line\": 2, \"key\": \"Rulr\""),
               std::string::npos);
 
+    std::filesystem::permissions(box.root / "site", std::filesystem::perms::all);
+    EXPECT_NE(Run("check").out.find("not enforced: every user may write"), std::string::npos);
     std::filesystem::remove(user);
     std::filesystem::create_directories(user);
     EXPECT_EQ(Run("check").code, 3);

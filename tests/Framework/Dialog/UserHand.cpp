@@ -1,5 +1,4 @@
 #include "Dialog/KivComboColor.h"
-#include "Dialog/KivComboDashed.h"
 #include "Dialog/KivDlgCheckButton.h"
 #include "Dialog/KivDlgFrame.h"
 #include "Dialog/KivDlgLabel.h"
@@ -49,12 +48,6 @@ TEST_F(UserHand, ReachesOnlyWhatAUserCould)
     button->SetSensitivity(KivDlgEnabled);
     EXPECT_EQ(KivUserHand::Tick(*button).why, lock->GetReason());
     lock->SetInfo(KivSettingInfo());
-    page.SetVisibility(KivDlgHidden);
-    EXPECT_FALSE(KivUserHand::Tick(*button));
-    page.SetVisibility(KivDlgShown);
-    page.SetSensitivity(KivDlgDisabled);
-    EXPECT_FALSE(KivUserHand::Tick(*button));
-    page.SetSensitivity(KivDlgEnabled);
     EXPECT_EQ(button->GetState(), KivDlgChecked);
     EXPECT_EQ(listener.heard, 1);
 
@@ -124,16 +117,6 @@ TEST_F(UserHand, LabelsGreyWithTheirControl)
     EXPECT_FALSE(label->IsEnabled());
     delete spinner;
     EXPECT_TRUE(label->IsEnabled());
-}
-
-TEST_F(UserHand, LineTypesAreNumberedFromOne)
-{
-    auto* combo = new KivComboDashed(&page, "combo", 0, 0, 0);
-    combo->SetSelect(8);
-    EXPECT_EQ(combo->GetSelect(), 1U);
-    combo->AddOtherType("S_DrwBreakLine8", 1);
-    combo->SetSelect(8);
-    EXPECT_EQ(combo->GetSelect(), 8U);
 }
 
 } // namespace

@@ -11,17 +11,13 @@ class CurrentUnits : public testing::Test {
 protected:
     ~CurrentUnits() override
     {
-        _engine.Withhold(kLength, false);
         _engine.SetCurrentUnit(kLength, "mm");
         _engine.SetCurrentUnit(kAngle, "deg");
     }
 
     std::string Unit(const char* type) const
     {
-        const KivParmMagnitude* const magnitude = _engine.Magnitude(type);
-        if (!magnitude) return "no magnitude";
-        const KivParmUnit* const unit = magnitude->CurrentUnit();
-        return unit ? std::string(unit->Name().View()) : "no unit";
+        return std::string(_engine.Magnitude(type)->CurrentUnit()->Name().View());
     }
 
     static constexpr const char* kLength = KivParmDictionary::LengthType;
@@ -42,21 +38,6 @@ TEST_F(CurrentUnits, PeopleCallThemInTheirWay)
     EXPECT_EQ(Unit(kLength), "INCH");
     EXPECT_TRUE(_engine.SetCurrentUnit(kAngle, "gon"));
     EXPECT_EQ(Unit(kAngle), "GRADE");
-}
-
-TEST_F(CurrentUnits, MagnitudeUnitOrBothMayBeMissing)
-{
-    EXPECT_EQ(Unit("MASS"), "no magnitude");
-    EXPECT_TRUE(_engine.SetForeignUnit(kLength, "FURLONG"));
-    EXPECT_EQ(Unit(kLength), "FURLONG");
-    EXPECT_TRUE(_engine.SetForeignUnit(kLength, nullptr));
-    EXPECT_EQ(Unit(kLength), "no unit");
-    _engine.Withhold(kLength, true);
-    EXPECT_EQ(Unit(kLength), "no magnitude");
-    EXPECT_EQ(Unit(kAngle), "DEGREE");
-    _engine.Withhold(kLength, false);
-    EXPECT_TRUE(_engine.SetCurrentUnit(kLength, "km"));
-    EXPECT_EQ(Unit(kLength), "KM");
 }
 
 TEST_F(CurrentUnits, ListenersHearOfChangesAlone)

@@ -148,52 +148,6 @@ TEST_F(Locks, ManyPrefixesAreResolvedInLinearTime)
     EXPECT_EQ(Locker("P31415xKey"), "site:31416");
 }
 
-TEST_F(Locks, WhatHasNoEffectIsFoundWithItsPlace)
-{
-    box.NameLayers({"company", "site"});
-    box.Write(box.File("company"), "lock int Ruler = 1\nlock Gone\nlock Dim*\nlock Zebra*\nint Grid = 1\n");
-    box.Write(box.File("site"), "lock Ruler\nlock int DimA = 2\nlock DimA*\nint Ruler = 3\nint Grid = x\n"
-                                "lock Snap\nint Gone = 1\n");
-    box.Write(box.File("user"),
-              "int Ruler = 4\nlock Grid\ninitial int Grid = 4\nint Snap = 4\nint Free = 4\n");
-    const char* known[] = {"Ruler", "Grid", "Snap", "DimA", "DimB", "Free"};
-    const auto all = [&](const KivUnicodeString& edited) {
-        std::vector<std::string> words;
-        for (const KivSettingFinding& finding : KivCheckSettings("DraftingOptions", known, edited)) {
-            words.push_back(std::string(finding.layer.View()) + ":" + std::to_string(finding.line) + " " +
-                            std::string(finding.key.View()) + " " + std::string(finding.text.View()));
-            std::string& text = words.back();
-            for (std::size_t at; (at = text.find(box.root.string() + "/")) != std::string::npos;)
-                text.erase(at, box.root.string().size() + 1);
-        }
-        return words;
-    };
-    const std::string company = "layer \"company\" (company/DraftingOptions.kivsettings, line ";
-    const std::string site = "layer \"site\" (site/DraftingOptions.kivsettings, line ";
-    EXPECT_EQ(
-        all({}),
-        (std::vector<std::string>{
-            "site:5 Grid the value is no number of its type; the line is not used",
-            "site:0  the administrator's file is damaged; there is no copy of it: what can be read is in "
-            "force",
-            "company:2 Gone the lock has no effect: there is no setting of this name",
-            "company:4 Zebra* the lock has no effect: no setting's name begins so",
-            "site:1 Ruler the lock has no effect: " + company + "1) locks it already",
-            "site:2 DimA neither lock nor value have an effect: " + company + "3) locks it already",
-            "site:3 DimA* the lock has no effect: " + company + "3) locks it already",
-            "site:4 Ruler the value is not used: " + company + "1) locks it already",
-            "site:7 Gone the value is not used: there is no setting of this name",
-            "user:1 Ruler the value is not used: " + company + "1) locks it already",
-            "user:2 Grid a lock in the user's own file binds nobody",
-            "user:3 Grid the value of the first start yields to the one of " + company + "5)",
-            "user:4 Snap the value is not used: " + site + "6) locks it already",
-        }));
-    EXPECT_TRUE(box.diagnostics.empty()) << "what is found is not said a second time";
-    EXPECT_EQ(all(KivUnicodeString((box.root / "site").string())).size(), 8U);
-    std::filesystem::permissions(box.root / "site", std::filesystem::perms::all);
-    EXPECT_EQ(all({})[2], "site:0  its locks are not enforced: every user may write to the directory");
-}
-
 TEST_F(Locks, TheFileOnDiskIsFoundWantingWhileItsCopyIsInForce)
 {
     box.NameLayers({"site"});
