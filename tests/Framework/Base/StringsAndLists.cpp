@@ -13,17 +13,22 @@ int AlwaysAfter(const KivUnicodeString*, const KivUnicodeString*)
     return 1;
 }
 
-TEST(Lists, QuickSortBearsComparisonsThatAreNoOrdering)
+TEST(Lists, DropDuplicatesAndBearComparisonsThatAreNoOrdering)
 {
     KivListOfUnicodeString list;
     for (int i = 0; i < 5000; ++i) list.Append(KivUnicodeString(std::to_string(i * 7919 % 250)));
+    KivListOfUnicodeString once = list;
+    once.Append("0");
+    once.RemoveDuplicates();
+    ASSERT_EQ(once.Size(), 250);
+    EXPECT_TRUE(once[1] == "0" && once[2] == "169") << "the first of each, in place";
+
     list.QuickSort(&NeverEqual);
     ASSERT_EQ(list.Size(), 5000);
     for (int i = 2; i <= list.Size(); ++i) ASSERT_LE(list[i - 1].View(), list[i].View());
 
     list.QuickSort(&AlwaysAfter);
-    list.RemoveDuplicates();
-    EXPECT_EQ(list.Size(), 250);
+    EXPECT_EQ(list.Size(), 5000);
 }
 
 TEST(Strings, PartsAreCutAtTheEnds)
