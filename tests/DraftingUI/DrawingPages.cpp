@@ -7,46 +7,28 @@
 #include "Kiv2DBaseOptGalFrm.h"
 #include "KivDrwOptGeoEditor.h"
 #include "KivDrwOptIntFrm.h"
-#include "KivDrwSketcherSettings.h"
-#include "Support/KivSettingsSandbox.h"
-
-#include <gtest/gtest.h>
+#include "SketcherTest.h"
 
 namespace {
 
 // The Geometry page in its editor, beside a sketcher that listens.
-class GeometryPage : public testing::Test {
+class GeometryPage : public SketcherTest {
 protected:
     void SetUp() override
     {
-        for (const auto& [event, word] :
-             {std::pair(KivSketcherSettings::CpltModification(), "completion "),
-              std::pair(KivSketcherSettings::GeomUIModification(), "geometry "),
-              std::pair(KivSketcherSettings::Visu3DUIModification(), "visualisation ")})
-            callbacks.push_back(sketcher.AddCallback(
-                event, [this, said = word](KivCallbackEvent, KivNotification*) { heard += said + State(); }));
         editor->BuildEditor(&page);
         editor->SetUserSettingsValue(nullptr);
     }
-    void TearDown() override
-    {
-        for (const KivCallbackId callback : callbacks) sketcher.RemoveCallback(callback);
-    }
     // What the sketcher reads while it is told.
-    std::string State()
+    std::string State() override
     {
         unsigned int r = 0, g = 0, b = 0;
         sketcher.GetColorDiagElts(2, r, g, b);
         return std::to_string(sketcher.GetDragMode()) + std::to_string(sketcher.GetPosSupports()) + "-" +
                std::to_string(r) + " ";
     }
-    std::string Heard() { return std::exchange(heard, {}); }
     template <class T> T& Node(const char* name) { return *static_cast<T*>(page.FindDialog(name)); }
 
-    KivSettingsSandbox box;
-    KivDrwSketcherSettings& sketcher = *KivDrwSketcherSettings::GetSketcherSettings();
-    std::string heard;
-    std::vector<KivCallbackId> callbacks;
     KivEditorPage page{nullptr, "page", 0UL};
     KivVar<KivDrwOptGeoEditor> editor = KivVar<KivDrwOptGeoEditor>::Adopt(new KivDrwOptGeoEditor);
 };

@@ -4,10 +4,7 @@
 #include "KivDrwOptGeoEditor.h"
 #include "KivDrwOptViewEditor.h"
 #include "KivDrwRepository.h"
-#include "KivDrwSketcherSettings.h"
-#include "Support/KivSettingsSandbox.h"
-
-#include <gtest/gtest.h>
+#include "SketcherTest.h"
 
 namespace {
 
@@ -16,31 +13,13 @@ template <class Editor> KivVar<Editor> Made()
     return KivVar<Editor>::Adopt(new Editor);
 }
 
-class Editors : public testing::Test {
+class Editors : public SketcherTest {
 protected:
     void SetUp() override
     {
         KivDrwRepository()->AddListener([this](const auto&) { heard += "repository "; });
-        for (const auto& [event, word] :
-             {std::pair(KivSketcherSettings::GridModification(), "grid "),
-              std::pair(KivSketcherSettings::SnapModification(), "snap "),
-              std::pair(KivSketcherSettings::CpltModification(), "completion "),
-              std::pair(KivSketcherSettings::GeomUIModification(), "geometry "),
-              std::pair(KivSketcherSettings::Visu3DUIModification(), "visualisation ")})
-            callbacks.push_back(KivDrwSketcherSettings::GetSketcherSettings()->AddCallback(
-                event, [this, said = word](KivCallbackEvent, KivNotification*) { heard += said; }));
-    }
-    void TearDown() override
-    {
-        for (const KivCallbackId callback : callbacks)
-            KivDrwSketcherSettings::GetSketcherSettings()->RemoveCallback(callback);
     }
     void Write(const char* key, int value) { KivDrwRepository()->WriteSetting(key, &value, 1, 0); }
-    std::string Heard() { return std::exchange(heard, {}); }
-
-    KivSettingsSandbox box;
-    std::string heard;
-    std::vector<KivCallbackId> callbacks;
 };
 
 TEST_F(Editors, CommitOnceUntilOneIsClosed)

@@ -1,13 +1,8 @@
-#include "Base/KivDiagnostic.h"
 #include "Dialog/KivDlgFrame.h"
 #include "Dialog/KivTextCatalogue.h"
+#include "Support/KivSettingsSandbox.h"
 
-#include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <unistd.h>
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -15,29 +10,21 @@ class TextCatalogues : public testing::Test {
 protected:
     void SetUp() override
     {
-        Write(
-            "English",
+        box.Write(
+            box.root / "Module/texts/English/Test.texts",
             "# comment\n\ncheck.Title = \"&Show && tell\"\n check.Help=\"Two\\nlines, \\\"quoted\\\"\"\r\n");
-        Write("Deutsch", "check.Title = \"&Zeigen\"\nno text at all\nbad = \"open\nbad = \"in\"side\"\n");
-        KivTextCatalogue::SetResourceRoot(KivUnicodeString(root.string()));
-        before = KivSetDiagnosticSink([this](const KivDiagnostic& d) { said.push_back(d); });
+        box.Write(box.root / "Module/texts/Deutsch/Test.texts",
+                  "check.Title = \"&Zeigen\"\nno text at all\nbad = \"open\nbad = \"in\"side\"\n");
+        KivTextCatalogue::SetResourceRoot(KivUnicodeString(box.root.string()));
     }
     void TearDown() override
     {
-        KivSetDiagnosticSink(before);
         KivTextCatalogue::SetLanguage("English");
         KivTextCatalogue::SetResourceRoot("");
-        fs::remove_all(root);
-    }
-    void Write(const char* language, const char* content)
-    {
-        fs::create_directories(root / "Module/texts" / language);
-        std::ofstream(root / "Module/texts" / language / "Test.texts", std::ios::binary) << content;
     }
 
-    fs::path root = fs::temp_directory_path() / ("kiv-texts-" + std::to_string(getpid()));
-    std::vector<KivDiagnostic> said;
-    KivDiagnosticSink before;
+    KivSettingsSandbox box;
+    const std::vector<KivDiagnostic>& said = box.diagnostics;
 };
 
 TEST_F(TextCatalogues, ReachTheNodesBelowAndFallBackToEnglishThenToTheName)
@@ -53,7 +40,7 @@ TEST_F(TextCatalogues, ReachTheNodesBelowAndFallBackToEnglishThenToTheName)
     ASSERT_EQ(said.size(), 3U);
     EXPECT_EQ(said[2].line, 4);
 
-    KivTextCatalogue::SetResourceRoot(KivUnicodeString(root.string()));
+    KivTextCatalogue::SetResourceRoot(KivUnicodeString(box.root.string()));
     KivTextCatalogue::SetLanguage("Klingon");
     page.SetTextCatalogue("Test");
     EXPECT_EQ(check->GetSpokenTitle(), "Show & tell");
