@@ -1,4 +1,5 @@
 #include "NativeFixture.h"
+#include "TestHand.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -23,9 +24,9 @@ protected:
 TEST_F(NativeChoices, ExcludeEachOtherOnlyAmongTheirOwn)
 {
     EXPECT_EQ(Shown(), "---0") << "nothing has to be chosen";
-    QTest::mouseClick(Radio(1), Qt::LeftButton, {}, QPoint(8, Radio(1)->height() / 2));
+    TestHand::ClickIndicator(Radio(1));
     EXPECT_EQ(Shown(), "-x-1");
-    QTest::mouseClick(Radio(1), Qt::LeftButton, {}, QPoint(8, Radio(1)->height() / 2));
+    TestHand::ClickIndicator(Radio(1));
     EXPECT_EQ(Shown(), "-x-1") << "a second click takes nothing back";
     EXPECT_EQ(tree.otherChoices[1]->GetState(), KivDlgChecked)
         << "natively a neighbour, but of another choice";
@@ -38,7 +39,7 @@ TEST_F(NativeChoices, ExcludeEachOtherOnlyAmongTheirOwn)
 
     for (KivDlgRadioButton* locked : tree.otherChoices) {
         auto* button = static_cast<QAbstractButton*>(WidgetOf(locked));
-        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
+        TestHand::ClickIndicator(button);
         EXPECT_EQ(button->accessibleDescription().toStdString(),
                   LockOf(locked->GetParentDialog())->GetReason().View());
     }
@@ -75,18 +76,6 @@ TEST_F(NativeChoices, ArrowsGoRoundAndChooseWhatIsEnabled)
     for (const std::size_t i : {1U, 2U}) tree.choices[i]->SetSensitivity(KivDlgDisabled);
     QTest::keyClick(Radio(0), Qt::Key_Down);
     EXPECT_EQ(Shown(), "x--0");
-}
-
-TEST_F(NativeChoices, TabEntersAChoiceOnce)
-{
-    tree.choices[1]->SetState(KivDlgChecked, 0);
-    WidgetOf(tree.file)->setFocus();
-    // In reading order: the padlock of the choice beside it stands at the height of the first line.
-    for (QWidget* next : {WidgetOf(LockOf(tree.otherChoices[0]->GetParentDialog())),
-                          WidgetOf(tree.choices[1]), WidgetOf(tree.symbol)}) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        ASSERT_EQ(QApplication::focusWidget(), next) << next->objectName().toStdString();
-    }
 }
 
 TEST_F(NativeChoices, APushButtonIsPressedByClickSpaceAndEnter)

@@ -1,44 +1,27 @@
 #include "NativeColourCombo.h"
 #include "NativeFixture.h"
 #include "NativeSpinner.h"
+#include "TestHand.h"
 
-#include <QApplication>
 #include <QClipboard>
 #include <QColorDialog>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QToolTip>
-#include <QWheelEvent>
-#include <QtTest/qtestspontaneevent.h>
 
 namespace {
 
 class NativeControls : public NativeFixture {
 protected:
-    void Wheel(QWidget* over)
-    {
-        const QPointF place = over->rect().center();
-        QWheelEvent event(place, over->mapToGlobal(place), QPoint(), QPoint(0, -120), Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        // As from a real wheel: only those reach the parents of a field that ignores them.
-        QSpontaneKeyEvent::setSpontaneous(&event);
-        qApp->notify(over, &event);
-    }
     NativeSpinner* Spinner(const KivDialog* node) { return static_cast<NativeSpinner*>(WidgetOf(node)); }
     QString Text(const KivDialog* node) { return WidgetOf(node)->findChild<QLineEdit*>()->text(); }
-    void TypeOver(QWidget* field, const char* text)
-    {
-        field->setFocus();
-        QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClicks(field, text);
-    }
 };
 
 TEST_F(NativeControls, ClicksAndKeysChangeTheTreeOnce)
 {
     Listener ticked(tree.show, tree.show->GetChkBModifyNotification());
-    QTest::mouseClick(WidgetOf(tree.show), Qt::LeftButton, {}, QPoint(8, WidgetOf(tree.show)->height() / 2));
+    TestHand::ClickIndicator(WidgetOf(tree.show));
     EXPECT_EQ(tree.show->GetState(), KivDlgChecked);
     QTest::keyClick(WidgetOf(tree.show), Qt::Key_Space);
     EXPECT_EQ(tree.show->GetState(), KivDlgUnchecked);
@@ -50,7 +33,7 @@ TEST_F(NativeControls, ClicksAndKeysChangeTheTreeOnce)
     EXPECT_EQ(chosen.heard, 1);
 
     Listener typed(tree.file, tree.file->GetEditModifyNotification());
-    TypeOver(WidgetOf(tree.file), "parts");
+    TestHand::TypeOver(WidgetOf(tree.file), "parts");
     EXPECT_EQ(typed.heard, 0);
     QTest::keyClick(WidgetOf(tree.file), Qt::Key_Return);
     EXPECT_EQ(tree.file->GetText(), "parts");
@@ -83,10 +66,10 @@ TEST_F(NativeControls, NeitherLockedNorDependentOnesCanBeChanged)
           static_cast<KivDialog*>(tree.vertical), static_cast<KivDialog*>(tree.lockedColour)}) {
         QWidget* widget = WidgetOf(node);
         EXPECT_FALSE(widget->isEnabled());
-        QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(8, widget->height() / 2));
+        TestHand::ClickIndicator(widget);
         for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Up, Qt::Key_Down, Qt::Key_5, Qt::Key_Return})
             QTest::keyClick(widget, key);
-        Wheel(widget);
+        TestHand::Wheel(widget);
         const QString why = QString::fromUtf8(node->WhyDisabled().ConvertToChar());
         ASSERT_FALSE(why.isEmpty());
         EXPECT_EQ(widget->accessibleDescription(), why);
@@ -124,7 +107,7 @@ TEST_F(NativeControls, SpinnerTakesWhatTheTreeUnderstands)
     QWidget* field = WidgetOf(tree.horizontal);
     for (const auto& [text, stored, shown] :
          {std::tuple{"20,5", 0.0205, "20.5 mm"}, {"1.5 in", 0.0381, "38.1 mm"}, {"2'", 0.6096, "609.6 mm"}}) {
-        TypeOver(field, text);
+        TestHand::TypeOver(field, text);
         QTest::keyClick(field, Qt::Key_Return);
         EXPECT_DOUBLE_EQ(tree.horizontal->GetValue(), stored);
         EXPECT_EQ(Text(tree.horizontal), shown);
@@ -150,7 +133,7 @@ TEST_F(NativeControls, SpinnerTakesWhatTheTreeUnderstands)
     QTest::mouseClick(field, Qt::LeftButton, {}, down.center());
     EXPECT_EQ(entered.heard, 5);
     EXPECT_EQ(Text(tree.horizontal), "10 mm");
-    TypeOver(field, "7");
+    TestHand::TypeOver(field, "7");
     WidgetOf(tree.show)->setFocus();
     EXPECT_DOUBLE_EQ(tree.horizontal->GetValue(), 0.007) << "leaving the field enters the text";
 }
@@ -158,7 +141,7 @@ TEST_F(NativeControls, SpinnerTakesWhatTheTreeUnderstands)
 TEST_F(NativeControls, ARefusedTextStaysWithItsReasonUntilItIsLeft)
 {
     NativeSpinner* field = Spinner(tree.horizontal);
-    TypeOver(field, "wide");
+    TestHand::TypeOver(field, "wide");
     QTest::keyClick(field, Qt::Key_Return);
     EXPECT_EQ(Text(tree.horizontal), "wide");
     EXPECT_EQ(tree.horizontal->GetValue(), 0.1);
@@ -177,7 +160,7 @@ TEST_F(NativeControls, ARefusedTextStaysWithItsReasonUntilItIsLeft)
     EXPECT_FALSE(bubble->isVisible());
     EXPECT_TRUE(field->Refusal().isEmpty());
 
-    TypeOver(field, "-5");
+    TestHand::TypeOver(field, "-5");
     QTest::keyClick(field, Qt::Key_Return);
     EXPECT_FALSE(field->Refusal().isEmpty());
     QTest::keyClicks(field, "0");
@@ -193,14 +176,14 @@ TEST_F(NativeControls, TheWheelScrollsThePageOverFieldsThatNobodyChose)
                             static_cast<KivDialog*>(tree.background)}) {
         WidgetOf(tree.show)->setFocus();
         area->verticalScrollBar()->setValue(0);
-        Wheel(WidgetOf(node));
+        TestHand::Wheel(WidgetOf(node));
         EXPECT_GT(area->verticalScrollBar()->value(), 0);
         EXPECT_FALSE(WidgetOf(node)->hasFocus());
     }
     EXPECT_EQ(tree.horizontal->GetValue(), 0.1);
     EXPECT_EQ(tree.direction->GetSelect(), 0);
     WidgetOf(tree.direction)->setFocus();
-    Wheel(WidgetOf(tree.direction));
+    TestHand::Wheel(WidgetOf(tree.direction));
     EXPECT_EQ(tree.direction->GetSelect(), 1);
 }
 

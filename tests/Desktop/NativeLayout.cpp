@@ -1,8 +1,5 @@
 #include "NativeFixture.h"
 
-#include <QCheckBox>
-#include <QLabel>
-
 namespace {
 
 using NativeLayout = NativeFixture;
@@ -19,6 +16,9 @@ TEST_F(NativeLayout, PadlocksLabelsAndFieldsAlignDownAGroup)
     EXPECT_EQ(left(tree.background), left(tree.file));
     EXPECT_GT(left(tree.vertical), left(tree.horizontal));
     EXPECT_EQ(PlaceOf(tree.horizontal).y(), PlaceOf(tree.vertical).y());
+    const auto& cells = tree.horizontal->GetLabel()->GetParentDialog()->Children();
+    ASSERT_EQ(cells[0]->GetVisibility(), KivDlgReserved);
+    EXPECT_FALSE(WidgetOf(cells[0])->isVisible()) << "it only keeps the place of a padlock";
     // A long title does not push the fields of other rows aside.
     EXPECT_LT(left(tree.horizontal), left(tree.show) + WidgetOf(tree.show)->width());
     EXPECT_LE(WidgetOf(tree.vertical)->geometry().right(), WidgetOf(tree.grid)->width());
@@ -31,56 +31,17 @@ TEST_F(NativeLayout, ATextFieldIsAsWideAsItsPageAsks)
     EXPECT_GT(WidgetOf(tree.file)->sizeHint().width(), 2 * usual);
 }
 
-TEST_F(NativeLayout, AReservedControlKeepsItsPlaceUnseen)
+TEST_F(NativeLayout, LabelsNameTheirFields)
 {
-    auto* space =
-        static_cast<KivDlgCheckButton*>(tree.horizontal->GetLabel()->GetParentDialog()->Children()[0]);
-    ASSERT_EQ(space->GetVisibility(), KivDlgReserved);
-    QWidget* widget = WidgetOf(space);
-    EXPECT_FALSE(widget->isVisible());
-    EXPECT_EQ(widget->sizeHint(), WidgetOf(LockOf(tree.show))->sizeHint());
-    EXPECT_TRUE(widget->sizePolicy().retainSizeWhenHidden());
-}
-
-TEST_F(NativeLayout, TabGoesInReadingOrderAndVisitsClosedPadlocks)
-{
-    const KivDialog* const order[] = {
-        tree.show,       LockOf(tree.snap),         tree.distort, tree.horizontal, LockOf(tree.angle),
-        tree.background, LockOf(tree.lockedColour), tree.type,    tree.weight,     tree.direction,
-        tree.file};
-    WidgetOf(order[0])->setFocus();
-    for (const KivDialog* node : order) {
-        ASSERT_EQ(QApplication::focusWidget(), WidgetOf(node)) << node->KivCommand::GetName().ConvertToChar();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    }
-}
-
-TEST_F(NativeLayout, EveryControlHasANameAndEveryLabelItsPartner)
-{
-    int controls = 0;
-    const QList<QWidget*> widgets = area->widget()->findChildren<QWidget*>();
-    for (const QWidget* widget : widgets) {
-        const auto* piece = dynamic_cast<const NativePiece*>(widget);
-        if (!piece) continue;
-        ++controls;
-        const std::string name = widget->objectName().toStdString();
-        EXPECT_FALSE(widget->accessibleName().isEmpty()) << name;
-        EXPECT_FALSE(widget->accessibleName().contains("_dialog")) << name;
-        const bool isField = piece->Node()->IsAKindOf(KivDlgControl::Name) &&
-                             !piece->Node()->IsAKindOf(KivDlgCheckButton::Name);
-        EXPECT_FALSE(isField && widget->accessibleDescription().isEmpty()) << name;
-        const auto* label = dynamic_cast<const QLabel*>(widget);
-        EXPECT_FALSE(label && !label->buddy()) << name;
-        EXPECT_FALSE(!widget->isEnabled() && widget->toolTip().isEmpty()) << name;
-    }
-    EXPECT_GE(controls, 30);
-    EXPECT_EQ(WidgetOf(tree.vertical)->accessibleName(), "Vertical spacing");
-    EXPECT_EQ(WidgetOf(tree.horizontal)->accessibleName(), "Primary spacing");
-    EXPECT_EQ(WidgetOf(tree.angle)->accessibleName(), "Snap angle");
-    EXPECT_EQ(WidgetOf(tree.direction)->accessibleName(), "Gradient direction");
-    EXPECT_EQ(WidgetOf(tree.colours)->accessibleName(), "Colours & lines");
+    const std::pair<const KivDialog*, const char*> names[] = {{tree.vertical, "Vertical spacing"},
+                                                              {tree.horizontal, "Primary spacing"},
+                                                              {tree.angle, "Snap angle"},
+                                                              {tree.direction, "Gradient direction"},
+                                                              {tree.colours, "Colours & lines"}};
+    for (const auto& [node, name] : names) EXPECT_EQ(WidgetOf(node)->accessibleName(), name);
     EXPECT_EQ(WidgetOf(tree.show)->whatsThis(),
               "Draws the grid on the sheet, below everything else. It is never printed.");
+    EXPECT_EQ(WidgetOf(tree.background)->accessibleDescription(), "Colour of the sheet.");
     // The letter of a label leads to its field.
     QTest::keyClick(area.get(), Qt::Key_P, Qt::AltModifier);
     EXPECT_EQ(QApplication::focusWidget(), WidgetOf(tree.horizontal));

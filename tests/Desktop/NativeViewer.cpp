@@ -4,15 +4,12 @@
 #include "NativeBuilder.h"
 #include "Options/KivEditorPage.h"
 #include "Support/KivTestGraph.h"
+#include "TestHand.h"
+#include "TestPicture.h"
 
 #include <QAccessible>
-#include <QApplication>
-#include <QDir>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTest>
-#include <QWheelEvent>
-#include <QtTest/qtestspontaneevent.h>
 #include <gtest/gtest.h>
 
 namespace {
@@ -41,22 +38,8 @@ protected:
 
     QPoint PlaceOf(const Kiv2DPoint& place) const { return widget->Graph().ToWindow(place).toPoint(); }
     QPoint PlaceOf(int level) const { return PlaceOf(KivTestGraph::OnCurve(KivTestGraph::kStep * level)); }
-    void Move(const QPoint& to) const
-    {
-        QMouseEvent move(QEvent::MouseMove, to, widget->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(widget, &move);
-    }
-    // A picture for people to look at, in the directory that they name; returned for the test.
-    QImage Take(const char* name, int scale = 1) const
-    {
-        QImage image(widget->size() * scale, QImage::Format_ARGB32_Premultiplied);
-        image.setDevicePixelRatio(scale);
-        widget->render(&image);
-        const QString directory = qEnvironmentVariable("KIV_TEST_PICTURES");
-        const QString file = QString("%1-%2.png").arg(name).arg(scale);
-        EXPECT_TRUE(directory.isEmpty() || image.save(QDir(directory).filePath(file)));
-        return image;
-    }
+    void Move(const QPoint& to) const { TestHand::Drag(widget, to); }
+    QImage Take(int scale = 1) const { return TestPicture::Take(*widget, scale); }
 
     long before = KivBaseUnknown::LiveObjects();
     QPalette usual = QApplication::palette();
@@ -103,11 +86,7 @@ TEST_F(NativeViewers, KeysStepAlsoFromRightToLeftAndTheWheelOnlyScrolls)
     EXPECT_EQ(levels, (std::vector{5, 6, 5, 4, 15, 15, 1}));
     QTest::keyClick(widget, Qt::Key_Right, Qt::ControlModifier);
     EXPECT_EQ(graph->level, 1) << "somebody else's shortcut";
-    const QPointF middle = widget->rect().center();
-    QWheelEvent wheel(middle, widget->mapToGlobal(middle), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&wheel);
-    qApp->notify(widget, &wheel);
+    TestHand::Wheel(widget);
     EXPECT_GT(area->verticalScrollBar()->value(), 0);
     EXPECT_EQ(graph->level, 1);
 }
@@ -136,7 +115,7 @@ TEST_F(NativeViewers, ScreenReadersFindASlider)
 
 TEST_F(NativeViewers, ALockedOneIsGreyAndSaysWhyAndDoesNotMove)
 {
-    const QImage free = Take("viewer-free");
+    const QImage free = Take();
     KivSettingInfo info;
     auto* lock = new KivDlgLock(page.get(), "lock", info, 0);
     lock->AddAssociatedDialog(graph->viewer.Get());
@@ -151,7 +130,7 @@ TEST_F(NativeViewers, ALockedOneIsGreyAndSaysWhyAndDoesNotMove)
     QTest::mouseClick(widget, Qt::LeftButton, {}, PlaceOf(9));
     QTest::keyClick(widget, Qt::Key_End);
     EXPECT_EQ(graph->moves, 0);
-    EXPECT_NE(Take("viewer-locked"), free);
+    EXPECT_NE(Take(), free);
     lock->SetInfo(KivSettingInfo());
     Move(PlaceOf(9));
     EXPECT_EQ(graph->moves, 0) << "what was let go of stays so";
@@ -197,7 +176,7 @@ TEST_F(NativeViewers, ThePictureIsSharpAndFollowsPointAndTheme)
     };
     const QColor base = usual.color(QPalette::Base), ink = usual.color(QPalette::Text);
     for (const int scale : {1, 2, 3}) {
-        const QImage image = Take("viewer", scale);
+        const QImage image = Take(scale);
         const QColor handle = at(image, PlaceOf(4));
         EXPECT_GT(handle.saturation(), 100);
         EXPECT_GT(at(image, PlaceOf(10)).saturation(), 60) << "no curve";
@@ -210,7 +189,7 @@ TEST_F(NativeViewers, ThePictureIsSharpAndFollowsPointAndTheme)
         }
         EXPECT_EQ(inked, scale);
         graph->Show(13);
-        const QImage moved = Take("viewer-moved", scale);
+        const QImage moved = Take(scale);
         EXPECT_EQ(at(moved, PlaceOf(4) + QPoint(3, 0)), base);
         EXPECT_EQ(at(moved, PlaceOf(13) + QPoint(3, 0)), handle);
         graph->Show(4);
@@ -220,9 +199,9 @@ TEST_F(NativeViewers, ThePictureIsSharpAndFollowsPointAndTheme)
     dark.setColor(QPalette::Highlight, QColor(60, 110, 180));
     QApplication::setPalette(dark);
     QTest::qWait(1);
-    EXPECT_EQ(at(Take("viewer-dark"), PlaceOf({40.0, 60.0})), QColor(32, 33, 36));
+    EXPECT_EQ(at(Take(), PlaceOf({40.0, 60.0})), QColor(32, 33, 36));
     graph->viewer->SetSensitivity(KivDlgDisabled);
-    EXPECT_EQ(at(Take("viewer-dark-grey", 2), PlaceOf(4)), QColor(32, 33, 36)) << "a hollow handle";
+    EXPECT_EQ(at(Take(2), PlaceOf(4)), QColor(32, 33, 36)) << "a hollow handle";
     QFont large = widget->font();
     large.setPointSize(3 * large.pointSize());
     widget->setFont(large);

@@ -1,22 +1,14 @@
 #include "Dialog/KivUserHand.h"
 #include "NativeDialog.h"
-#include "NativePiece.h"
-#include "NativeSpinner.h"
-#include "OptionsWindow.h"
-#include "TestEditors.h"
+#include "OptionsFixture.h"
 #include "TestWindow.h"
 
-#include <QApplication>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QTemporaryDir>
-#include <QTest>
-#include <gtest/gtest.h>
 
 namespace {
 
 // A window that the test page's push button has opened, driven natively.
-class OptionsSubWindow : public testing::Test {
+class OptionsSubWindow : public OptionsFixture {
 public:
     // Makes a window at each press, as pages do.
     struct Opener : KivCommand {
@@ -34,33 +26,31 @@ public:
     {
         TestWindow::closed.clear();
         TestWindow::stored = 0.0;
-        TestEditor::log.clear();
-        TestEditor::failing = false;
-        OpenOptions();
+        OptionsFixture::SetUp();
+        Watch();
     }
     void TearDown() override
     {
         opener.reset();
-        options.reset();
-        KivCommand::DrainDelayedDestruction();
-        EXPECT_EQ(KivBaseUnknown::LiveObjects(), before);
+        OptionsFixture::TearDown();
     }
     void OpenOptions(const OptionsMemory& memory = OptionsMemory(QString()))
     {
-        options = std::make_unique<OptionsWindow>(OpenTestSession(), memory);
-        ASSERT_TRUE(options->ShowPage("TestEditor"));
-        options->show();
-        opener = std::make_unique<Opener>(Frame()->FindDialog("pushSettings_dialog"));
+        Open(memory);
+        Watch();
+    }
+    // Lets the page's button make windows, and presses it.
+    void Watch()
+    {
+        opener = std::make_unique<Opener>(OptionsFixture::Node("pushSettings_dialog"));
         Press();
     }
-    KivDialog* Frame() { return options->Session()->FindPage("TestEditor")->frame.Get(); }
     void Press()
     {
-        QTest::keyClick(NativePiece::Of(Frame()->FindDialog("pushSettings_dialog"))->Widget(), Qt::Key_Space);
+        QTest::keyClick(WidgetOf("pushSettings_dialog"), Qt::Key_Space);
         native = opener->made.empty() ? nullptr : Native(opener->made.back().Get());
         ASSERT_TRUE(native);
-        native->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(native));
+        Activate(native);
     }
     static NativeDialog* Native(const TestWindow* node)
     {
@@ -71,16 +61,9 @@ public:
     {
         return static_cast<NativeSpinner*>(NativePiece::Of(Node()->spinner)->Widget());
     }
-    void TypeOver(const char* text)
-    {
-        Spinner()->setFocus();
-        Spinner()->findChild<QLineEdit*>()->selectAll();
-        QTest::keyClicks(Spinner(), text);
-    }
+    void TypeOver(const char* text) { TestHand::TypeOver(Spinner(), text); }
     QPushButton* CloseButton() { return native->findChild<QPushButton*>(); }
 
-    long before = KivBaseUnknown::LiveObjects();
-    std::unique_ptr<OptionsWindow> options;
     std::unique_ptr<Opener> opener;
     QPointer<NativeDialog> native;
 };
@@ -88,7 +71,7 @@ public:
 TEST_F(OptionsSubWindow, ShowsItsNodeBesideThePage)
 {
     EXPECT_EQ(native->windowTitle(), "Points & more") << "a title that is set late counts";
-    EXPECT_EQ(native->parentWidget(), options.get());
+    EXPECT_EQ(native->parentWidget(), window.get());
     EXPECT_FALSE(native->isModal());
     EXPECT_FALSE(CloseButton()->isDefault() || CloseButton()->autoDefault());
     EXPECT_EQ(QApplication::focusWidget(), Spinner());
@@ -137,14 +120,14 @@ TEST_F(OptionsSubWindow, EveryWayOfClosingOnlyAsks)
         TypeOver("20");
         QTest::keyClick(Spinner(), Qt::Key_Return);
         EXPECT_EQ(Node()->spinner->GetValue(), 0.02);
-        EXPECT_TRUE(native->isVisible() && options->isVisible()) << "Enter closes nothing";
+        EXPECT_TRUE(native->isVisible() && window->isVisible()) << "Enter closes nothing";
         const QPointer<NativeDialog> gone = native;
         close(*this);
         QTest::qWait(1);
         EXPECT_FALSE(gone);
         EXPECT_EQ(TestWindow::closed, heard);
     }
-    EXPECT_TRUE(options->isVisible());
+    EXPECT_TRUE(window->isVisible());
     EXPECT_TRUE(TestEditor::log.empty());
 }
 
@@ -163,13 +146,13 @@ TEST_F(OptionsSubWindow, ClosingEntersWhatWasTyped)
 TEST_F(OptionsSubWindow, TheEndOfTheOptionsEndsItToo)
 {
     TypeOver("wide");
-    options->accept();
-    ASSERT_TRUE(options->isVisible()) << "OK would have thrown the text away";
+    window->accept();
+    ASSERT_TRUE(window->isVisible()) << "OK would have thrown the text away";
     EXPECT_TRUE(native->isVisible());
     EXPECT_FALSE(Spinner()->Refusal().isEmpty());
     TypeOver("9");
-    options->accept();
-    EXPECT_FALSE(options->isVisible());
+    window->accept();
+    EXPECT_FALSE(window->isVisible());
     EXPECT_EQ(TestWindow::stored, 0.009) << "what was typed is entered before the pages commit";
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(native);
@@ -179,9 +162,9 @@ TEST_F(OptionsSubWindow, TheEndOfTheOptionsEndsItToo)
         OpenOptions();
         TypeOver("wide");
         if (cancel)
-            options->reject();
+            window->reject();
         else
-            options.reset();
+            window.reset();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_FALSE(native);
     }
@@ -219,17 +202,17 @@ TEST_F(OptionsSubWindow, AnythingMayGoFirst)
 
 TEST_F(OptionsSubWindow, AWindowHasNoCellInThePage)
 {
-    const QSize hint = options->sizeHint();
+    const QSize hint = window->sizeHint();
     Node()->SetGridConstraints(9, 9, 1, 1, KivDlgAttachAllSides);
-    KivDialog* cell = Frame()->FindDialog("pushSettings_dialog");
+    KivDialog* cell = OptionsFixture::Node("pushSettings_dialog");
     EXPECT_EQ(Node()->GetParentDialog(), cell->GetParentDialog());
-    EXPECT_EQ(options->sizeHint(), hint);
+    EXPECT_EQ(window->sizeHint(), hint);
     // Also where it stood before the page was built.
-    KivDialog* other = options->Session()->FindPage("OtherTestEditor")->frame.Get();
+    KivDialog* other = Frame("OtherTestEditor");
     auto* early = new TestWindow(other->FindDialog("pushSettings"));
     early->SetGridConstraints(9, 9, 1, 1, KivDlgAttachAllSides);
-    ASSERT_TRUE(options->ShowPage("OtherTestEditor"));
-    EXPECT_EQ(options->sizeHint(), hint);
+    ASSERT_TRUE(window->ShowPage("OtherTestEditor"));
+    EXPECT_EQ(window->sizeHint(), hint);
     EXPECT_EQ(Native(early)->windowTitle(), "Points & more");
 }
 
@@ -244,10 +227,10 @@ TEST_F(OptionsSubWindow, ItsPlaceIsRemembered)
     QTest::qWait(1);
     Press();
     EXPECT_EQ(native->geometry(), chosen);
-    options->accept();
+    window->accept();
     OpenOptions(memory);
     EXPECT_EQ(native->geometry(), chosen);
-    options->reject();
+    window->reject();
     memory.RememberWindow("PointWindow", QRect(90000, 90000, 5000, 5000));
     OpenOptions(memory);
     EXPECT_TRUE(native->screen()->availableGeometry().contains(native->geometry()));

@@ -1,75 +1,28 @@
-#include "NativePiece.h"
-#include "NativeSpinner.h"
+#include "OptionsFixture.h"
 #include "OptionsMessageStrip.h"
 #include "OptionsPageView.h"
-#include "OptionsWindow.h"
-#include "TestEditors.h"
 
-#include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPointer>
-#include <QPushButton>
 #include <QScreen>
 #include <QTemporaryDir>
-#include <QTest>
-#include <algorithm>
-#include <gtest/gtest.h>
 
 namespace {
 
 using Log = std::vector<std::string>;
 
-class OptionsWindows : public testing::Test {
+class OptionsWindows : public OptionsFixture {
 protected:
     void SetUp() override
     {
-        TestEditor::log.clear();
-        TestEditor::failing = false;
-        TestEditor::stored = 0.1;
-        Open(OptionsMemory(QString()));
+        OptionsFixture::SetUp();
+        Activate(window.get());
     }
-    void TearDown() override
-    {
-        window.reset();
-        KivCommand::DrainDelayedDestruction();
-        EXPECT_EQ(KivBaseUnknown::LiveObjects(), before);
-    }
-    void Open(const OptionsMemory& memory)
-    {
-        window = std::make_unique<OptionsWindow>(OpenTestSession(), memory);
-        window->show();
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-        ASSERT_TRUE(!memory.Page().IsEmpty() || window->ShowPage("TestEditor"));
-    }
-    // Libraries that are loaded offer pages beside the test's own.
-    KivDialog* Frame() { return window->Session()->FindPage("TestEditor")->frame.Get(); }
     int PageNumber(const char* name)
     {
         return static_cast<int>(window->Session()->FindPage(name) - window->Session()->Pages().data());
     }
-    NativeSpinner* Spinner()
-    {
-        KivDialog* frame = Frame();
-        return static_cast<NativeSpinner*>(NativePiece::Of(frame->FindDialog("editorH_dialog"))->Widget());
-    }
-    QPushButton* Button(const char* text)
-    {
-        const QList<QPushButton*> buttons = window->findChildren<QPushButton*>();
-        const auto found = std::find_if(buttons.begin(), buttons.end(),
-                                        [&](QPushButton* button) { return button->text() == text; });
-        return found == buttons.end() ? nullptr : *found;
-    }
-    void TypeOver(const char* text)
-    {
-        Spinner()->setFocus();
-        Spinner()->findChild<QLineEdit*>()->selectAll();
-        QTest::keyClicks(Spinner(), text);
-    }
-
-    long before = KivBaseUnknown::LiveObjects();
-    std::unique_ptr<OptionsWindow> window;
 };
 
 TEST_F(OptionsWindows, PagesAreBuiltWhenFirstShownAndKeysWalkThem)
@@ -93,14 +46,16 @@ TEST_F(OptionsWindows, TabGoesFromTheListThroughThePageToTheButtons)
     for (const char* page : {"TestEditor", "OtherTestEditor", "TestEditor"}) {
         ASSERT_TRUE(window->ShowPage(page));
         // A padlock that closes while the window is open takes its place.
-        KivDialog* frame = window->Session()->FindPage(page)->frame.Get();
+        KivDialog* frame = Frame(page);
         static_cast<KivDlgLock*>(frame->FindDialog("checkGridLock"))->SetInfo(TestPage::LockedInfo("Grid"));
+        // A choice is entered once, where it stands: below the padlock of the one beside it.
+        static_cast<KivDlgRadioButton*>(frame->FindDialog("radioPoint1"))->SetState(KivDlgChecked, 0);
         QList<QWidget*> order;
         for (const char* name :
              {"checkGridLock", "checkSnapLock", "checkAllowDistortions_dialog", "editorH_dialog",
               "editorAngleLock", "comboBackground_dialog", "comboDetailLock", "comboType_dialog",
-              "comboWeight_dialog", "comboDirection_dialog", "editorFile_dialog", "radioPoint0",
-              "radioOtherLock", "comboSymbol_dialog", "pushSettings_dialog"})
+              "comboWeight_dialog", "comboDirection_dialog", "editorFile_dialog", "radioOtherLock",
+              "radioPoint1", "comboSymbol_dialog", "pushSettings_dialog"})
             order << NativePiece::Of(frame->FindDialog(name))->Widget();
         order << Button("Reset") << Button("OK") << Button("Cancel");
         window->findChild<QListWidget*>()->setFocus();
@@ -113,7 +68,7 @@ TEST_F(OptionsWindows, TabGoesFromTheListThroughThePageToTheButtons)
 
 TEST_F(OptionsWindows, EnterEntersTheFieldAndThenIsOK)
 {
-    TypeOver("wide");
+    TestHand::TypeOver(Spinner(), "wide");
     QTest::keyClick(Spinner(), Qt::Key_Return);
     EXPECT_TRUE(window->isVisible());
     QTest::mouseClick(Button("OK"), Qt::LeftButton);
@@ -124,7 +79,7 @@ TEST_F(OptionsWindows, EnterEntersTheFieldAndThenIsOK)
 
     int finished = -1;
     QObject::connect(window.get(), &QDialog::finished, [&](int result) { finished = result; });
-    TypeOver("20");
+    TestHand::TypeOver(Spinner(), "20");
     QTest::keyClick(Spinner(), Qt::Key_Return);
     EXPECT_FALSE(window->isVisible());
     EXPECT_EQ(finished, QDialog::Accepted);
@@ -134,22 +89,19 @@ TEST_F(OptionsWindows, EnterEntersTheFieldAndThenIsOK)
 
 TEST_F(OptionsWindows, AnyOtherWayOfClosingCancels)
 {
-    const Log cancelled{"cancel", "cancel", "close", "close"};
-    QTest::keyClick(window.get(), Qt::Key_Escape);
-    EXPECT_FALSE(window->isVisible());
-    EXPECT_EQ(TestEditor::log, cancelled);
-    TestEditor::log.clear();
-    Open(OptionsMemory(QString()));
-    window->close();
-    EXPECT_EQ(TestEditor::log, cancelled);
-    TestEditor::log.clear();
-    Open(OptionsMemory(QString()));
-    QTest::mouseClick(Button("Cancel"), Qt::LeftButton);
-    EXPECT_EQ(TestEditor::log, cancelled);
-    TestEditor::log.clear();
-    Open(OptionsMemory(QString()));
-    window.reset();
-    EXPECT_EQ(TestEditor::log, cancelled);
+    const std::function<void()> ways[] = {
+        [this] { QTest::keyClick(window.get(), Qt::Key_Escape); },
+        [this] { window->close(); },
+        [this] { QTest::mouseClick(Button("Cancel"), Qt::LeftButton); },
+        [this] { window.reset(); },
+    };
+    for (const auto& close : ways) {
+        Open();
+        TestEditor::log.clear();
+        close();
+        EXPECT_FALSE(window && window->isVisible());
+        EXPECT_EQ(TestEditor::log, (Log{"cancel", "cancel", "close", "close"})) << &close - ways;
+    }
 }
 
 TEST_F(OptionsWindows, WhatCouldNotBeSavedIsSaidAndTheWindowStays)
@@ -171,7 +123,7 @@ TEST_F(OptionsWindows, DiagnosticsAreShownAndPassedOn)
     std::vector<KivDiagnostic> heard;
     const KivDiagnosticSink outer =
         KivSetDiagnosticSink([&](const KivDiagnostic& diagnostic) { heard.push_back(diagnostic); });
-    Open(OptionsMemory(QString()));
+    Open();
     heard.clear();
     for (int i = 0; i < 2; ++i) KivReport({.text = "odd", .file = "a.kivsettings", .line = 3});
     EXPECT_EQ(window->Messages().Messages().count("a.kivsettings:3: odd"), 1);
@@ -190,7 +142,7 @@ TEST_F(OptionsWindows, ResetFillsTheShownPage)
 
 TEST_F(OptionsWindows, F1ShowsTheLongHelpOfTheField)
 {
-    QWidget* check = NativePiece::Of(Frame()->FindDialog("checkGrid_dialog"))->Widget();
+    QWidget* check = WidgetOf("checkGrid_dialog");
     check->setFocus();
     QTest::keyClick(check, Qt::Key_F1);
     QWidget* panel = check->findChild<QWidget*>("NativePanel");
@@ -232,15 +184,6 @@ TEST_F(OptionsWindows, MayBeLeftToDeleteItself)
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_FALSE(own);
     }
-}
-
-TEST_F(OptionsWindows, WhatPagesCondemnGoesBetweenEvents)
-{
-    const KivWeakPtr<KivDialog> group = Frame()->FindDialog("frameColour");
-    group->RequestDelayedDestruction();
-    EXPECT_TRUE(group);
-    QTest::qWait(1);
-    EXPECT_FALSE(group);
 }
 
 } // namespace

@@ -20,8 +20,8 @@
 
 namespace {
 
-// The drafting library's own page, loaded at run time, in the real window and on real files.
-class GeneralPage : public testing::Test {
+// The drafting library's own pages, loaded at run time, in the real window and on real files.
+class RealPages : public testing::Test {
 protected:
     void SetUp() override
     {
@@ -49,6 +49,26 @@ protected:
         return window->Session()->FindPage("KivDrwOptGalEditor")->frame.Get()->FindDialog(name);
     }
     QWidget* WidgetOf(const char* name) { return NativePiece::Of(Node(name))->Widget(); }
+    template <class Look> void LookAtEach(const char* picture, Look&& look)
+    {
+        const QString directory = qEnvironmentVariable("KIV_TEST_PICTURES");
+        for (int page = 0; page < window->PageCount(); ++page) {
+            const KivString editor = window->Session()->Pages()[static_cast<std::size_t>(page)].editor;
+            SCOPED_TRACE(editor.ConvertToChar());
+            ASSERT_TRUE(window->ShowPage(KivUnicodeString(editor)));
+            QTest::qWait(1);
+            OptionsPageView& view = window->PageView(page);
+            QList<QWidget*> shown;
+            for (QWidget* widget : view.findChildren<QWidget*>()) {
+                const auto* piece = dynamic_cast<NativePiece*>(widget);
+                if (piece && widget != view.widget() && widget->isVisibleTo(window.get())) shown << widget;
+            }
+            EXPECT_GE(shown.size(), 10);
+            look(view, shown);
+            const QString file = QString("%1-%2.png").arg(picture).arg(page);
+            EXPECT_TRUE(directory.isEmpty() || window->grab().save(QDir(directory).filePath(file)));
+        }
+    }
     static QString Library()
     {
         return QString::fromUtf8(KivInstallRoot().ConvertToChar()) + "/lib/libKivDuiSettings.so";
@@ -58,27 +78,7 @@ protected:
     std::unique_ptr<OptionsWindow> window;
 };
 
-TEST_F(GeneralPage, IsChangedCommittedAndCancelledThroughTheWindow)
-{
-    Open();
-    const bool shown = static_cast<QAbstractButton*>(WidgetOf("checkGrid_dialog"))->isChecked();
-    QTest::keyClick(WidgetOf("checkGrid_dialog"), Qt::Key_Space);
-    window->reject();
-    Open();
-    EXPECT_EQ(static_cast<QAbstractButton*>(WidgetOf("checkGrid_dialog"))->isChecked(), shown);
-    QTest::keyClick(WidgetOf("checkGrid_dialog"), Qt::Key_Space);
-    window->accept();
-    KivSettingRepository::ForgetAll();
-    Open();
-    EXPECT_NE(static_cast<QAbstractButton*>(WidgetOf("checkGrid_dialog"))->isChecked(), shown);
-
-    EXPECT_FALSE(WidgetOf("checkSnap_dialog")->isEnabled());
-    EXPECT_TRUE(WidgetOf("checkSnap_dialog")->accessibleDescription().contains("site"));
-    EXPECT_TRUE(window->Messages().Messages().isEmpty())
-        << window->Messages().Messages().join('\n').toStdString();
-}
-
-TEST_F(GeneralPage, AnAdministratorsPadlocksAreSwitches)
+TEST_F(RealPages, AnAdministratorsPadlocksAreSwitches)
 {
     KivSettingRepository::SetEditedLayer(KivUnicodeString((sandbox.root / "site").string()));
     KivSettingRepository::ForgetAll();
@@ -107,7 +107,7 @@ TEST_F(GeneralPage, AnAdministratorsPadlocksAreSwitches)
         << sandbox.Bytes(sandbox.File("site"));
 }
 
-TEST_F(GeneralPage, LinesItsFieldsUp)
+TEST_F(RealPages, LineTheirFieldsUp)
 {
     Open();
     const auto left = [&](const char* name) { return WidgetOf(name)->mapTo(window.get(), QPoint()).x(); };
@@ -116,35 +116,10 @@ TEST_F(GeneralPage, LinesItsFieldsUp)
     EXPECT_EQ(left("comboBackgroundColor_dialog"), left("comboBackgroundColorDD_dialog"));
 }
 
-// All pages alike.
-class AllPages : public GeneralPage {
-protected:
-    template <class Look> void LookAtEach(const char* picture, Look&& look)
-    {
-        const QString directory = qEnvironmentVariable("KIV_TEST_PICTURES");
-        for (int page = 0; page < window->PageCount(); ++page) {
-            const KivString editor = window->Session()->Pages()[static_cast<std::size_t>(page)].editor;
-            SCOPED_TRACE(editor.ConvertToChar());
-            ASSERT_TRUE(window->ShowPage(KivUnicodeString(editor)));
-            QTest::qWait(1);
-            OptionsPageView& view = window->PageView(page);
-            QList<QWidget*> shown;
-            for (QWidget* widget : view.findChildren<QWidget*>()) {
-                const auto* piece = dynamic_cast<NativePiece*>(widget);
-                if (piece && widget != view.widget() && widget->isVisibleTo(window.get())) shown << widget;
-            }
-            EXPECT_GE(shown.size(), 10);
-            look(view, shown);
-            const QString file = QString("%1-%2.png").arg(picture).arg(page);
-            EXPECT_TRUE(directory.isEmpty() || window->grab().save(QDir(directory).filePath(file)));
-        }
-    }
-};
-
-TEST_F(AllPages, NameAndExplainEveryControl)
+TEST_F(RealPages, NameAndExplainEveryControl)
 {
     Open();
-    EXPECT_EQ(window->PageCount(), 10);
+    EXPECT_GE(window->PageCount(), 10);
     LookAtEach("page", [](OptionsPageView&, const QList<QWidget*>& shown) {
         for (const QWidget* widget : shown) {
             const KivDialog* node = dynamic_cast<const NativePiece*>(widget)->Node();
@@ -161,9 +136,11 @@ TEST_F(AllPages, NameAndExplainEveryControl)
             EXPECT_FALSE(dynamic_cast<const QAbstractButton*>(widget) && widget->toolTip().isEmpty()) << name;
         }
     });
+    EXPECT_TRUE(window->Messages().Messages().isEmpty())
+        << window->Messages().Messages().join('\n').toStdString();
 }
 
-TEST_F(AllPages, StillFitWhenTranslationsAreLonger)
+TEST_F(RealPages, StillFitWhenTranslationsAreLonger)
 {
     // Read anew in the other language.
     const auto speak = [](const char* language) {
