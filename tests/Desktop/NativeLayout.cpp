@@ -16,9 +16,11 @@ TEST_F(NativeLayout, PadlocksLabelsAndFieldsAlignDownAGroup)
     EXPECT_EQ(left(tree.background), left(tree.file));
     EXPECT_GT(left(tree.vertical), left(tree.horizontal));
     EXPECT_EQ(PlaceOf(tree.horizontal).y(), PlaceOf(tree.vertical).y());
-    const auto& cells = tree.horizontal->GetLabel()->GetParentDialog()->Children();
-    ASSERT_EQ(cells[0]->GetVisibility(), KivDlgReserved);
-    EXPECT_FALSE(WidgetOf(cells[0])->isVisible()) << "it only keeps the place of a padlock";
+    // What only keeps the place of a padlock is not seen.
+    const KivDialog* space = tree.horizontal->GetLabel()->GetParentDialog()->Children()[0];
+    EXPECT_FALSE(WidgetOf(space)->isVisible());
+    EXPECT_EQ(WidgetOf(space)->sizeHint(), WidgetOf(LockOf(tree.show))->sizeHint());
+    EXPECT_TRUE(WidgetOf(space)->sizePolicy().retainSizeWhenHidden());
     // A long title does not push the fields of other rows aside.
     EXPECT_LT(left(tree.horizontal), left(tree.show) + WidgetOf(tree.show)->width());
     EXPECT_LE(WidgetOf(tree.vertical)->geometry().right(), WidgetOf(tree.grid)->width());
