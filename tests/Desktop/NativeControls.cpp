@@ -61,9 +61,7 @@ TEST_F(NativeControls, FollowTheTree)
 
 TEST_F(NativeControls, NeitherLockedNorDependentOnesCanBeChanged)
 {
-    for (KivDialog* node :
-         {static_cast<KivDialog*>(tree.snap), static_cast<KivDialog*>(tree.angle),
-          static_cast<KivDialog*>(tree.vertical), static_cast<KivDialog*>(tree.lockedColour)}) {
+    for (KivDialog* node : Nodes{tree.snap, tree.angle, tree.vertical, tree.lockedColour}) {
         QWidget* widget = WidgetOf(node);
         EXPECT_FALSE(widget->isEnabled());
         TestHand::ClickIndicator(widget);
@@ -172,8 +170,7 @@ TEST_F(NativeControls, ARefusedTextStaysWithItsReasonUntilItIsLeft)
 
 TEST_F(NativeControls, TheWheelScrollsThePageOverFieldsThatNobodyChose)
 {
-    for (KivDialog* node : {static_cast<KivDialog*>(tree.horizontal), static_cast<KivDialog*>(tree.direction),
-                            static_cast<KivDialog*>(tree.background)}) {
+    for (KivDialog* node : Nodes{tree.horizontal, tree.direction, tree.background}) {
         WidgetOf(tree.show)->setFocus();
         area->verticalScrollBar()->setValue(0);
         TestHand::Wheel(WidgetOf(node));

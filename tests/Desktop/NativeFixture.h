@@ -13,6 +13,8 @@
 // The test page in a scroll area that is smaller than the page.
 class NativeFixture : public testing::Test {
 protected:
+    using Nodes = std::initializer_list<KivDialog*>;
+
     void SetUp() override
     {
         area->setWidgetResizable(true);

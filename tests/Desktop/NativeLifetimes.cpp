@@ -41,8 +41,7 @@ TEST_F(NativeLifetimes, AWidgetOrTheWindowMayGoFirst)
     EXPECT_FALSE(tree.show->GetView());
     tree.show->SetState(KivDlgChecked, 1);
     area.reset();
-    for (const KivDialog* node : {static_cast<KivDialog*>(tree.grid), static_cast<KivDialog*>(tree.angle),
-                                  tree.grid->Children().front(), static_cast<KivDialog*>(page.get())})
+    for (const KivDialog* node : Nodes{tree.grid, tree.angle, tree.grid->Children().front(), page.get()})
         EXPECT_FALSE(node->GetView());
     tree.grid->SetSensitivity(KivDlgDisabled);
     tree.type->SetSelect(3U);

@@ -1,5 +1,6 @@
 #include "Base/KivEnvironment.h"
 #include "Component/KivLibrary.h"
+#include "Dialog/KivDlgCheckButton.h"
 #include "Dialog/KivDlgLabel.h"
 #include "Dialog/KivTextCatalogue.h"
 #include "NativePiece.h"
@@ -132,6 +133,9 @@ TEST_F(RealPages, NameAndExplainEveryControl)
                 continue;
             }
             EXPECT_FALSE(widget->accessibleName().isEmpty()) << name;
+            const bool isField =
+                node->IsAKindOf(KivDlgControl::Name) && !node->IsAKindOf(KivDlgCheckButton::Name);
+            EXPECT_FALSE(isField && widget->accessibleDescription().isEmpty()) << name;
             EXPECT_FALSE(!widget->isEnabled() && widget->toolTip().isEmpty()) << name;
             EXPECT_FALSE(dynamic_cast<const QAbstractButton*>(widget) && widget->toolTip().isEmpty()) << name;
         }

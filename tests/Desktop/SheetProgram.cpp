@@ -94,11 +94,8 @@ TEST_F(SheetProgram, TheSheetFollowsOkAndGoesBackOnCancel)
     auto* const tree = window.findChild<DraftingTree*>();
     QTreeWidgetItem* const parameters = tree->ViewItem()->child(0);
     const auto tick = [&] {
-        for (const KivOptionsSession::Page& page : window.Options().Current()->Session()->Pages())
-            if (auto* const found =
-                    dynamic_cast<KivDlgCheckButton*>(page.frame.Get()->FindDialog("checkGrid_dialog")))
-                return KivUserHand::Tick(*found).done;
-        return false;
+        KivDialog& page = *window.Options().Current()->Session()->FindPage("General")->frame.Get();
+        return KivUserHand::Tick(*static_cast<KivDlgCheckButton*>(page.FindDialog("checkGrid_dialog"))).done;
     };
 
     window.OpenOptions("General");
@@ -110,7 +107,7 @@ TEST_F(SheetProgram, TheSheetFollowsOkAndGoesBackOnCancel)
     EXPECT_FALSE(settings.Style().grid);
     EXPECT_EQ(window.Options().Current(), nullptr);
 
-    window.OpenOptions();
+    window.OpenOptions("General");
     ASSERT_TRUE(tick());
     KivDrwSketcherSettings::GetSketcherSettings()->GridModify(); // as if a page told the sheet meanwhile
     EXPECT_TRUE(settings.Style().grid);

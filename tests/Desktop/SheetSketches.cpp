@@ -6,6 +6,7 @@
 #include "SheetLayout.h"
 #include "SheetView.h"
 #include "Support/KivSettingsSandbox.h"
+#include "TestPicture.h"
 
 #include <QTest>
 #include <climits>
@@ -35,16 +36,10 @@ protected:
         repository->WriteSetting(key.name, &value, 1, 0);
     }
     QImage Grab() const { return view->grab().toImage(); }
-    QImage Sketch() const { return Grab().copy(view->SketchFrame().toAlignedRect()); }
     // How many points of the sketch have a colour.
     int Count(QRgb colour) const
     {
-        const QImage sketch = Sketch();
-        int count = 0;
-        for (int y = 0; y < sketch.height(); ++y)
-            for (int x = 0; x < sketch.width(); ++x)
-                count += (sketch.pixel(x, y) & 0xFFFFFFU) == (colour & 0xFFFFFFU);
-        return count;
+        return TestPicture::Count(Grab().copy(view->SketchFrame().toAlignedRect()), QColor(colour));
     }
 
     KivSettingsSandbox box;
@@ -77,29 +72,22 @@ TEST_F(SheetSketches, EachSettingShowsWhenTheSketcherIsToldAndIsTakenBack)
         Write(key, key.makeDefault() ? 0 : 255);
         expectChange(key.name);
     }
-    for (const auto& key : {Drw_settings_ColorDiagOverDefinedElts, Drw_settings_ColorDiagNotConsistentElts,
-                            Drw_settings_ColorDiagNotChangedElts, Drw_settings_ColorDiagWellDefinedElts,
-                            Drw_settings_ColorConstructElts}) {
-        Write(key, 0x12ABCDU);
-        expectChange(key.name);
-    }
-    Write(CstRefSize, 3.0);
-    expectChange(CstRefSize.name);
-}
-
-TEST_F(SheetSketches, DiagnosticColoursAreShownAsChosenWhileTheirSwitchIsOn)
-{
     const unsigned int odd = 0x12ABCDU;
     for (const auto& key : {Drw_settings_ColorDiagOverDefinedElts, Drw_settings_ColorDiagNotConsistentElts,
                             Drw_settings_ColorDiagNotChangedElts, Drw_settings_ColorDiagWellDefinedElts}) {
-        sketcher->SetDiagElts(1, 1);
         Write(key, odd);
-        sketcher->GeomUIModify();
-        EXPECT_GT(Count(odd), 10) << key.name;
+        expectChange(key.name);
+        Write(key, odd);
+        sketcher->SetDiagElts(1, 1);
+        EXPECT_GT(Count(odd), 10) << key.name << ": as it was chosen";
         sketcher->SetDiagElts(0, 1);
-        EXPECT_EQ(Count(odd), 0) << key.name;
+        EXPECT_EQ(Count(odd), 0) << key.name << ": its switch is off";
         repository->Rollback();
     }
+    Write(Drw_settings_ColorConstructElts, odd);
+    expectChange(Drw_settings_ColorConstructElts.name);
+    Write(CstRefSize, 3.0);
+    expectChange(CstRefSize.name);
 }
 
 // OK on the page of these settings tells the sketcher nothing.

@@ -7,9 +7,8 @@
 #include "SheetRotation.h"
 #include "SheetRuler.h"
 #include "SheetView.h"
+#include "TestHand.h"
 
-#include <QTest>
-#include <QWheelEvent>
 #include <gtest/gtest.h>
 
 namespace {
@@ -37,9 +36,7 @@ protected:
         QLineF arm(middle, view->Handle());
         QTest::mousePress(view.get(), Qt::LeftButton, {}, arm.p2().toPoint());
         arm.setAngle(arm.angle() + degrees);
-        QMouseEvent move(QEvent::MouseMove, arm.p2(), view->mapToGlobal(arm.p2()), Qt::NoButton,
-                         Qt::LeftButton, keys);
-        QApplication::sendEvent(view.get(), &move);
+        TestHand::Drag(view.get(), arm.p2(), keys);
         QTest::mouseRelease(view.get(), Qt::LeftButton, {}, arm.p2().toPoint());
     }
 
@@ -157,11 +154,9 @@ TEST_F(SheetViews, ThePlaceSnapsToTheGridAndIsSaidInTheUsersUnit)
 TEST_F(SheetViews, ZoomAndPanAreBounded)
 {
     Show();
-    const QPointF around(500.0, 300.0);
+    const QPointF around = view->rect().center();
     const QPointF fixed = view->Camera().ToSheet(around);
-    QWheelEvent wheel(around, view->mapToGlobal(around), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(view.get(), &wheel);
+    TestHand::Wheel(view.get());
     EXPECT_LT(QLineF(view->Camera().ToSheet(around), fixed).length(), 1.0e-6) << "it stays under the cursor";
     for (int i = 0; i < 200; ++i) view->ZoomIn();
     EXPECT_LE(view->Camera().Zoom(), SheetCamera::kLargest * 1.000001);
@@ -179,9 +174,7 @@ TEST_F(SheetViews, ZoomAndPanAreBounded)
     const QPointF before = view->Camera().ToWindow({0.0, 0.0});
     QTest::keyPress(view.get(), Qt::Key_Space);
     QTest::mousePress(view.get(), Qt::LeftButton, {}, QPoint(300, 250));
-    QMouseEvent move(QEvent::MouseMove, QPointF(320, 240), view->mapToGlobal(QPointF(320, 240)), Qt::NoButton,
-                     Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view.get(), &move);
+    TestHand::Drag(view.get(), {320, 240});
     QTest::mouseRelease(view.get(), Qt::LeftButton, {}, QPoint(320, 240));
     QTest::keyRelease(view.get(), Qt::Key_Space);
     EXPECT_LT(QLineF(view->Camera().ToWindow({0.0, 0.0}) - before, QPointF(20.0, -10.0)).length(), 1.0e-6);
