@@ -1,16 +1,12 @@
 #include "NativeViewer.h"
 
-#include "Dialog/KivDlgLock.h"
-#include "NativeBuilder.h"
-#include "Options/KivEditorPage.h"
+#include "NativeFixture.h"
 #include "Support/KivTestGraph.h"
 #include "TestHand.h"
 #include "TestPicture.h"
 
 #include <QAccessible>
-#include <QScrollArea>
 #include <QScrollBar>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -18,13 +14,7 @@ class NativeViewers : public testing::Test {
 protected:
     void SetUp() override
     {
-        area = std::make_unique<QScrollArea>();
-        area->setWidgetResizable(true);
-        area->setWidget(NativeBuilder::Build(*page, area.get()));
-        area->resize(160, 70);
-        area->show();
-        area->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(area.get()));
+        area = ShowInArea(*page, QSize(160, 70));
         widget = static_cast<NativeViewer*>(NativePiece::Of(graph->viewer.Get())->Widget());
     }
     void TearDown() override

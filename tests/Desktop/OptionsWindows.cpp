@@ -54,8 +54,8 @@ TEST_F(OptionsWindows, TabGoesFromTheListThroughThePageToTheButtons)
         for (const char* name :
              {"checkGridLock", "checkSnapLock", "checkAllowDistortions_dialog", "editorH_dialog",
               "editorAngleLock", "comboBackground_dialog", "comboDetailLock", "comboType_dialog",
-              "comboWeight_dialog", "comboDirection_dialog", "editorFile_dialog", "radioOtherLock",
-              "radioPoint1", "comboSymbol_dialog", "pushSettings_dialog"})
+              "comboDirection_dialog", "editorFile_dialog", "radioOtherLock", "radioPoint1",
+              "comboSymbol_dialog", "pushSettings_dialog"})
             order << NativePiece::Of(frame->FindDialog(name))->Widget();
         order << Button("Reset") << Button("OK") << Button("Cancel");
         window->findChild<QListWidget*>()->setFocus();

@@ -107,10 +107,6 @@ TestPage::TestPage(KivEditorPage& page)
     type->AddOtherType("S_DrwBreakLine8", 1);
     type->SetSelect(4U);
     Label(colours, 2, "labelType", "Line &type:", type);
-    row = Row(colours, 3, 1, "comboWeight", free);
-    weight = Place(row, new KivComboWeight(row, "comboWeight_dialog", 0, 0, 0), nullptr, "Its thickness.");
-    weight->SetSelect(2U);
-    Label(colours, 3, "labelWeight", "Line &weight:", weight);
     row = Row(colours, 4, 1, "comboDirection", free);
     direction = Place(row, new KivDlgCombo(row, "comboDirection_dialog", 0), nullptr, "");
     for (const char* line : {"Left to right", "Top to bottom", "Diagonal"}) direction->SetLine(line);

@@ -3,7 +3,6 @@
 #include "Dialog/KivComboColor.h"
 #include "Dialog/KivComboDashed.h"
 #include "Dialog/KivComboSymbol.h"
-#include "Dialog/KivComboWeight.h"
 #include "Dialog/KivDlgCheckButton.h"
 #include "Dialog/KivDlgEditor.h"
 #include "Dialog/KivDlgLabel.h"
@@ -40,7 +39,6 @@ struct TestPage {
     KivDlgSpinner *horizontal, *vertical, *angle;
     KivComboColor *background, *lockedColour;
     KivComboDashed* type;
-    KivComboWeight* weight;
     KivDlgCombo* direction;
     KivDlgEditor* file;
     std::array<KivDlgRadioButton*, 3> choices, otherChoices; // the others are locked
