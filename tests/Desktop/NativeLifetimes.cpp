@@ -45,6 +45,12 @@ TEST_F(NativeLifetimes, AWidgetOrTheWindowMayGoFirst)
         EXPECT_FALSE(node->GetView());
     tree.grid->SetSensitivity(KivDlgDisabled);
     tree.type->SetSelect(3U);
+    // The page is shown again by another window, as it is by now.
+    area = ShowInArea(*page, QSize(700, 250));
+    EXPECT_TRUE(static_cast<QAbstractButton*>(WidgetOf(tree.show))->isChecked());
+    EXPECT_FALSE(WidgetOf(tree.show)->isEnabled());
+    tree.show->SetState(KivDlgUnchecked, 0);
+    EXPECT_FALSE(static_cast<QAbstractButton*>(WidgetOf(tree.show))->isChecked());
 }
 
 TEST_F(NativeLifetimes, ANodeMayGoWhileItsOwnEventIsUnderWay)
@@ -60,15 +66,6 @@ TEST_F(NativeLifetimes, ANodeMayGoWhileItsOwnEventIsUnderWay)
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(button);
     EXPECT_FALSE(destroyer.victim);
-}
-
-TEST_F(NativeLifetimes, APageCanBeShownAgainAfterItsWindow)
-{
-    area = std::make_unique<QScrollArea>();
-    area->setWidget(NativeBuilder::Build(*page, area.get()));
-    EXPECT_TRUE(NativePiece::Of(tree.horizontal));
-    tree.show->SetState(KivDlgChecked, 0);
-    EXPECT_TRUE(static_cast<QAbstractButton*>(WidgetOf(tree.show))->isChecked());
 }
 
 } // namespace
