@@ -117,12 +117,15 @@ void NativeDialog::TakePlace()
     const auto covers = [&](const QDialog* other) {
         return other != this && other->isVisible() && other->pos() == place.topLeft();
     };
-    while (std::any_of(others.begin(), others.end(), covers)) place.translate(step, step);
-
     const QRect free = (there ? there : parentWidget()->screen())->availableGeometry();
     place.setSize(place.size().boundedTo(free.size()));
     place.moveLeft(std::max(free.left(), std::min(place.left(), free.right() - place.width() + 1)));
     place.moveTop(std::max(free.top(), std::min(place.top(), free.bottom() - place.height() + 1)));
+    // One that stands at the edge of the screen is passed from the corner.
+    for (qsizetype i = 0; i < others.size() && std::any_of(others.begin(), others.end(), covers); ++i) {
+        place.translate(step, step);
+        if (!free.contains(place)) place.moveTopLeft(free.topLeft());
+    }
     setGeometry(place);
 }
 

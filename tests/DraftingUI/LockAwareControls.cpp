@@ -114,12 +114,25 @@ TEST_F(LockAwareControls, AnswerTheirFallbacksWithoutAControl)
         EXPECT_EQ(control->GetPrecision(), 1);
         EXPECT_EQ(control->GetMagnitude(), 11);
     }
+    auto* check = static_cast<KivDrwLockCheckButton*>(rows[0]);
+    check->SetState(KivDlgChecked, 1);
+    EXPECT_EQ(check->GetChkBModifyNotification(), nullptr);
+    EXPECT_EQ(check->GetChkBDoubleClickNotification(), nullptr);
     auto* colour = static_cast<KivDrwLockComboColor*>(rows[2]);
     unsigned int r = 7, g = 7, b = 7;
+    EXPECT_EQ(colour->GetCombo(), nullptr);
     EXPECT_EQ(colour->GetSelectedColor(&r, &g, &b), 0);
     EXPECT_EQ(r, 7U);
     EXPECT_EQ(static_cast<KivDrwLockComboDashed*>(rows[3])->GetSelect(), 0U);
     EXPECT_EQ(static_cast<KivDrwLockComboWeight*>(rows[4])->GetSelect(), 1U);
+    auto* spinner = static_cast<KivDrwLockSpinner*>(rows[6]);
+    spinner->SetValue(4.0, 1);
+    double least = 1.0, most = 2.0, step = 3.0;
+    spinner->GetMinMaxStep(least, most, step);
+    EXPECT_EQ(least + most + step, 6.0);
+    EXPECT_EQ(spinner->GetValue(), 0.0);
+    EXPECT_EQ(spinner->GetFormat(), nullptr);
+    EXPECT_EQ(spinner->GetSpinnerModifyNotification(), nullptr);
 }
 
 TEST_F(LockAwareControls, FramesAndLabelsKeepTheRowsInLine)
