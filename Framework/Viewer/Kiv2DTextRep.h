@@ -19,7 +19,6 @@ public:
     const Kiv2DPoint& GetPosition() const { return _position; }
     void SetText(const KivUnicodeString& text) { _text = text; }
     const KivUnicodeString& GetText() const { return _text; }
-    void SetAnchor(Kiv2DAnchor anchor) { _anchor = anchor; }
     Kiv2DAnchor GetAnchor() const { return _anchor; }
 
     void DrawOn(Kiv2DCanvas& canvas) const override

@@ -1,5 +1,7 @@
 #include "KivDrwOptGenFrame.h"
 
+#include "KivDrwGenerationMode.h"
+
 namespace {
 
 constexpr KivWholeSetup kTimeOut{.unit = KivDlgUnitSecond,
@@ -49,7 +51,10 @@ void KivDrwOptGenFrame::BuildDimensions()
     };
     // Only exact views have dimensions of their own. Balloons and the label never grey, deliberately.
     _rules.AvailableWhile(
-        [this] { return !_repository || KivDrwRead(_repository, KivDrwKeys::DrwGenerationModeVal) == 0; },
+        [this] {
+            return !_repository ||
+                   KivDrwRead(_repository, KivDrwKeys::DrwGenerationModeVal) == KivDrwExactMode;
+        },
         controls);
 }
 

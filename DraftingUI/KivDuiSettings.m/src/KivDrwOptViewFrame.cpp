@@ -7,19 +7,19 @@
 #include "KivDrwButtonProject3DPts.h"
 #include "KivDrwButtonRasterView.h"
 #include "KivDrwButtonWireFrameMod.h"
+#include "KivDrwGenerationMode.h"
 #include "KivDrwSettingsServices.h"
 
 namespace {
 
-// The generation modes as they are stored.
-enum Mode { Exact = 0, Raster = 2, Hrv = 3 };
-
 // Modes 2 and 3 stand in the combo the other way round, deliberately.
 const KivFormChoice& ModeLines()
 {
-    static const auto& lines =
-        *new KivFormChoice{.catalogue = "KivDrwOptView",
-                           .lines = {{"ExactView", 0}, {"VbxView", 1}, {"HRV", 3}, {"PictureView", 2}}};
+    static const auto& lines = *new KivFormChoice{.catalogue = "KivDrwOptView",
+                                                  .lines = {{"ExactView", KivDrwExactMode},
+                                                            {"VbxView", KivDrwVbxMode},
+                                                            {"HRV", KivDrwHrvMode},
+                                                            {"PictureView", KivDrwRasterMode}}};
     return lines;
 }
 
@@ -152,17 +152,17 @@ bool KivDrwOptViewFrame::IsTicked(const char* check)
 void KivDrwOptViewFrame::Apply(const KivDrwViewRule& rule, bool styled)
 {
     const int mode = _mode.cached;
-    switch (styled ? rule.styled : (mode == Exact ? rule.exact : rule.other)) {
+    switch (styled ? rule.styled : (mode == KivDrwExactMode ? rule.exact : rule.other)) {
     case KivDrwWhen::Always:
         return Enable(rule.control, true);
     case KivDrwWhen::Never:
         return Enable(rule.control, false);
     case KivDrwWhen::Exact:
-        return Enable(rule.control, mode == Exact);
+        return Enable(rule.control, mode == KivDrwExactMode);
     case KivDrwWhen::Raster:
-        return Enable(rule.control, mode == Raster);
+        return Enable(rule.control, mode == KivDrwRasterMode);
     case KivDrwWhen::Pictures:
-        return Enable(rule.control, mode == Raster || mode == Hrv);
+        return Enable(rule.control, mode == KivDrwRasterMode || mode == KivDrwHrvMode);
     case KivDrwWhen::UnlessCulling:
         return Enable(rule.control, _occlusionCulling.cached != 1);
     case KivDrwWhen::IfTicked:
@@ -189,7 +189,7 @@ void KivDrwOptViewFrame::Write(KivCommand*, KivNotification*, void*)
     // What the style or the mode governs is never written from here.
     if (StyleGoverns()) return;
     for (KivBoundValue* value : {&_genHiddenLines, &_genApplyUncut, &_gen3DColors}) value->Save();
-    if (_mode.cached == Exact) WriteExactOptions();
+    if (_mode.cached == KivDrwExactMode) WriteExactOptions();
 }
 
 void KivDrwOptViewFrame::WriteExactOptions()
@@ -245,6 +245,7 @@ void KivDrwOptViewFrame::PushRasterOptions(KivCommand*, KivNotification*, void*)
     // Both windows have the same name, deliberately.
     constexpr const char* kWindow = "panelRasterView";
     constexpr const char* kTitles = "KivDrwOptViewButton";
-    if (_mode.cached == Raster) OpenWindow<KivDrwButtonRasterView>(kWindow, kTitles, "TitleRasterOptions");
-    if (_mode.cached == Hrv) OpenWindow<KivDrwButtonHRVView>(kWindow, kTitles, "TitleHRVOptions");
+    if (_mode.cached == KivDrwRasterMode)
+        OpenWindow<KivDrwButtonRasterView>(kWindow, kTitles, "TitleRasterOptions");
+    if (_mode.cached == KivDrwHrvMode) OpenWindow<KivDrwButtonHRVView>(kWindow, kTitles, "TitleHRVOptions");
 }
