@@ -1,6 +1,6 @@
 #pragma once
 
-// The colours of the program's windows where the person asks for a scheme instead of the system's.
+// The colors of the program's windows where the person asks for a scheme instead of the system's.
 enum class DraftingScheme { System, Light, Dark };
 
 void ApplyScheme(DraftingScheme scheme);

@@ -96,7 +96,7 @@ void DraftingWindow::BuildStatus()
     auto* const angle = new QLabel(DraftingText("StatusAngle").arg(SheetUnit::PrintAngle(0.0)));
     auto* const zoom = new QLabel;
     place->setObjectName("place");
-    // Wide enough for what it usually says, so that its neighbours do not dance with the cursor.
+    // Wide enough for what it usually says, so that its neighbors do not dance with the cursor.
     place->setMinimumWidth(fontMetrics().averageCharWidth() * 26);
     statusBar()->addWidget(message, 1);
     statusBar()->addPermanentWidget(place);

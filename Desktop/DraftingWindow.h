@@ -33,7 +33,7 @@ public:
     void Welcome();
 
 protected:
-    // Open options are cancelled: nothing half changed is left behind.
+    // Open options are canceled: nothing half changed is left behind.
     void closeEvent(QCloseEvent* event) override;
 
 private:

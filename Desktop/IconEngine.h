@@ -10,7 +10,7 @@
 // palette.
 class IconEngine final : public QIconEngine {
 public:
-    // Draws within the rectangle, in sizes relative to it; ink is the colour of text in that place.
+    // Draws within the rectangle, in sizes relative to it; ink is the color of text in that place.
     using Draw = std::function<void(QPainter& painter, const QRectF& rectangle, const QColor& ink)>;
     enum class Place { Surface, List };
 

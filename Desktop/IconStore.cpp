@@ -49,8 +49,8 @@ QPixmap IconStore::Picture(const KivString& name, const QSize& pixels, const QCo
     if (const auto found = _pictures.constFind(key); found != _pictures.constEnd()) return *found;
     if (_pictures.size() >= kPicturesKept) _pictures.clear();
 
-    QByteArray coloured = drawing;
-    QSvgRenderer renderer(coloured.replace("currentColor", ink.name().toUtf8()));
+    QByteArray colored = drawing;
+    QSvgRenderer renderer(colored.replace("currentColor", ink.name().toUtf8()));
     renderer.setAspectRatioMode(Qt::KeepAspectRatio);
     QPixmap picture(pixels);
     picture.fill(Qt::transparent);

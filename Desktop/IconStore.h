@@ -9,7 +9,7 @@
 #include <QPixmap>
 
 // The icons of pages, groups and controls: icons/<name>.svg of any module, whose "currentColor" is drawn in
-// the colour of the text around it. An icon that is missing or damaged is reported once and leaves its place
+// the color of the text around it. An icon that is missing or damaged is reported once and leaves its place
 // empty.
 class IconStore {
 public:
@@ -17,7 +17,7 @@ public:
 
     // The icon of a name, which follows the palette; a null one for an empty name or a missing file.
     QIcon Icon(const KivString& name);
-    // The same as a picture of so many device pixels, in one colour; null likewise.
+    // The same as a picture of so many device pixels, in one color; null likewise.
     QPixmap Picture(const KivString& name, const QSize& pixels, const QColor& ink);
     // The size that it is drawn for, at scale 1; empty likewise.
     QSize Size(const KivString& name);

@@ -4,7 +4,7 @@
 #include "Dialog/KivComboSymbol.h"
 #include "Dialog/KivComboWeight.h"
 #include "NativeCheckButton.h"
-#include "NativeColourCombo.h"
+#include "NativeColorCombo.h"
 #include "NativeDirectoryRow.h"
 #include "NativeEditor.h"
 #include "NativeGrid.h"
@@ -59,7 +59,7 @@ constexpr struct {
     {KivDlgLock::Name, &Make<NativePadlock>},
     {KivDlgSpinner::Name, &Make<NativeSpinner>},
     {KivDlgEditor::Name, &MakeEditor},
-    {KivComboColor::Name, &Make<NativeColourCombo>},
+    {KivComboColor::Name, &Make<NativeColorCombo>},
     {KivComboDashed::Name, &Make<NativeTypeCombo>},
     {KivComboWeight::Name, &Make<NativeWeightCombo>},
     {KivComboSymbol::Name, &Make<NativeSymbolCombo>},
@@ -81,7 +81,7 @@ Qt::Alignment Alignment(unsigned int attachment)
     const bool left = attachment & KivDlgAttachLeft, right = attachment & KivDlgAttachRight;
     const bool top = attachment & KivDlgAttachTop, bottom = attachment & KivDlgAttachBottom;
     if (!left || !right) alignment |= left ? Qt::AlignLeft : (right ? Qt::AlignRight : Qt::AlignHCenter);
-    if (attachment & KivDlgCentreVertically) return alignment | Qt::AlignVCenter;
+    if (attachment & KivDlgCenterVertically) return alignment | Qt::AlignVCenter;
     if (!top || !bottom) alignment |= top ? Qt::AlignTop : (bottom ? Qt::AlignBottom : Qt::AlignVCenter);
     return alignment;
 }

@@ -19,7 +19,7 @@ const KivDlgLabel* LabelOf(const KivDialog& node)
 const KivDialog& Speaker(const KivDialog& node)
 {
     if (!node.IsAKindOf(KivDlgLabel::Name)) return node;
-    const KivDialog* control = static_cast<const KivDlgLabel&>(node).GetLabelledControl();
+    const KivDialog* control = static_cast<const KivDlgLabel&>(node).GetLabeledControl();
     return control ? *control : node;
 }
 

@@ -14,7 +14,7 @@ public:
     // Its own title, else that of the label which names it (or the frame that wraps it).
     QString Name() const;
     // Why it cannot be used while that is so, else its help; a label speaks for its control. Never empty for
-    // a control that is grey.
+    // a control that is gray.
     QString Tip() const;
     QString LongHelp() const;
 

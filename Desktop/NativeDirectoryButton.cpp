@@ -39,7 +39,7 @@ void NativeDirectoryButton::Follow()
     setSizePolicy(policy);
     setVisible(!_field.isHidden());
     setEnabled(_field.isEnabled());
-    // A grey one has the reason of its field.
+    // A gray one has the reason of its field.
     setToolTip(isEnabled() ? accessibleName() : _field.toolTip());
     setAccessibleDescription(isEnabled() ? QString()
                                          : QTextDocumentFragment::fromHtml(_field.toolTip()).toPlainText());

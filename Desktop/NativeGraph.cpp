@@ -1,7 +1,7 @@
 #include "NativeGraph.h"
 
 #include "NativeText.h"
-#include "SheetColours.h"
+#include "SheetColors.h"
 #include "Viewer/Kiv2DArrowRep.h"
 #include "Viewer/Kiv2DLineRep.h"
 #include "Viewer/Kiv2DPolylineRep.h"
@@ -20,7 +20,7 @@ constexpr qreal kThin = 1.0, kThick = 2.0;
 constexpr qreal kDot = 2.5, kHandle = 4.5, kHandleHeld = 5.5;
 constexpr qreal kLeastHead = 6.0;  // a shorter head of an arrow cannot be told from the end of its shaft
 constexpr qreal kHalo = 3.0;       // keeps a curve from running into a text
-constexpr double kGrey = 0.45;     // of what is disabled, between surface and ink
+constexpr double kGray = 0.45;     // of what is disabled, between surface and ink
 constexpr double kFarAway = 1.0e6; // as far out of the window as anything is painted
 
 } // namespace
@@ -53,12 +53,12 @@ public:
           _surface(look.palette.color(look.group, QPalette::Base)),
           _ink(look.palette.color(look.group, QPalette::Text)), _accent(_ink)
     {
-        const SheetColours colours(_surface, false);
+        const SheetColors colors(_surface, false);
         if (look.group == QPalette::Disabled) {
-            // Many themes grey texts so far that thin lines would be lost.
-            _ink = _accent = colours.Shade(kGrey);
+            // Many themes gray texts so far that thin lines would be lost.
+            _ink = _accent = colors.Shade(kGray);
         } else {
-            _accent = colours.Accent(look.palette.color(look.group, QPalette::Highlight));
+            _accent = colors.Accent(look.palette.color(look.group, QPalette::Highlight));
         }
     }
 

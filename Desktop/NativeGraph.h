@@ -11,7 +11,7 @@
 class QPainter;
 
 // The picture of a viewer's world in a rectangle of the window: what lies where, and how it is painted in the
-// colours of a theme.
+// colors of a theme.
 class NativeGraph {
 public:
     NativeGraph(const Kiv2DViewer& viewer, const QRectF& area);
@@ -24,7 +24,7 @@ public:
 
     struct Look {
         QPalette palette;
-        QPalette::ColorGroup group = QPalette::Active; // Disabled: grey
+        QPalette::ColorGroup group = QPalette::Active; // Disabled: gray
         QFont font;
         bool isHeld = false; // the user has the handle in his hand, or could take it
     };

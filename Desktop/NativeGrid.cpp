@@ -104,7 +104,7 @@ void NativeGrid::Place(const KivDialog& frame, int row, int column)
 
 // What is attached to the left and followed by nothing may use the rest of its row: else one long title would
 // push the fields of all other rows aside. Spinners stay in their column: they are as wide as their
-// neighbours.
+// neighbors.
 void NativeGrid::WidenLastOfRow()
 {
     for (NativeCell& cell : _cells) {

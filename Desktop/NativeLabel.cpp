@@ -27,7 +27,7 @@ NativeLabel::NativeLabel(KivDialog& node, QWidget* parent) : QLabel(parent), Nat
 
 void NativeLabel::ShowNode()
 {
-    QWidget* field = FieldOf(TreeNode()->GetLabelledControl());
+    QWidget* field = FieldOf(TreeNode()->GetLabeledControl());
     if (buddy() != field) setBuddy(field);
     // Without a field to lead to, the mark of the letter would be shown as it stands.
     setTextFormat(Qt::PlainText);

@@ -13,7 +13,7 @@ namespace {
 
 constexpr qreal kIconHeight = 16.0;   // the height, in units, that drawings are made for
 constexpr qreal kUnitsPerInch = 96.0; // a unit is a pixel at scale 1
-constexpr qreal kMillimetresPerInch = 25.4;
+constexpr qreal kMillimetersPerInch = 25.4;
 
 // Lengths of dashes and gaps, in widths of the line.
 QList<qreal> Pattern(unsigned int type)
@@ -66,11 +66,11 @@ QIcon NativeLineDrawing::Type(unsigned int type)
         IconEngine::Place::List);
 }
 
-QIcon NativeLineDrawing::Weight(double millimetres)
+QIcon NativeLineDrawing::Weight(double millimeters)
 {
     return IconEngine::Icon(
-        [millimetres](QPainter& painter, const QRectF& r, const QColor& ink) {
-            const qreal units = millimetres * kUnitsPerInch / kMillimetresPerInch;
+        [millimeters](QPainter& painter, const QRectF& r, const QColor& ink) {
+            const qreal units = millimeters * kUnitsPerInch / kMillimetersPerInch;
             const qreal width = std::max(1.0, units * r.height() / kIconHeight);
             painter.fillRect(QRectF(r.left(), r.center().y() - width / 2.0, r.width(), width), ink);
         },

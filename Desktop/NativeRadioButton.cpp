@@ -31,7 +31,7 @@ void NativeRadioButton::ShowNode()
     ShowTabStop();
 }
 
-// The one that Tab enters: the chosen one, else the first that can be chosen. It may be a neighbour that
+// The one that Tab enters: the chosen one, else the first that can be chosen. It may be a neighbor that
 // heard nothing of the change.
 void NativeRadioButton::ShowTabStop()
 {
@@ -56,19 +56,19 @@ void NativeRadioButton::keyPressEvent(QKeyEvent* event)
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     switch (plain ? event->key() : 0) {
     case Qt::Key_Down:
-        return ChooseNeighbour(true);
+        return ChooseNeighbor(true);
     case Qt::Key_Up:
-        return ChooseNeighbour(false);
+        return ChooseNeighbor(false);
     case Qt::Key_Right:
-        return ChooseNeighbour(!isRightToLeft());
+        return ChooseNeighbor(!isRightToLeft());
     case Qt::Key_Left:
-        return ChooseNeighbour(isRightToLeft());
+        return ChooseNeighbor(isRightToLeft());
     default:
         QRadioButton::keyPressEvent(event);
     }
 }
 
-void NativeRadioButton::ChooseNeighbour(bool next)
+void NativeRadioButton::ChooseNeighbor(bool next)
 {
     if (!TreeNode()) return;
     std::vector<KivDlgRadioButton*> choices = TreeNode()->Choices();

@@ -6,7 +6,7 @@
 #include <QRadioButton>
 
 // One of several choices. Which exclude each other is the tree's to say: on a surface with merged frames
-// native neighbours may belong to different choices. Tab enters a choice once; arrows go round in it.
+// native neighbors may belong to different choices. Tab enters a choice once; arrows go round in it.
 class NativeRadioButton : public QRadioButton, public NativePieceFor<KivDlgRadioButton> {
 public:
     NativeRadioButton(KivDialog& node, QWidget* parent);
@@ -18,6 +18,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void ChooseNeighbour(bool next);
+    void ChooseNeighbor(bool next);
     void ShowTabStop();
 };

@@ -11,6 +11,6 @@ NativeWeightCombo::NativeWeightCombo(KivDialog& node, QWidget* parent) : NativeC
 QIcon NativeWeightCombo::LineIcon(int line) const
 {
     const auto weight = static_cast<std::size_t>(line);
-    const auto& thickness = KivComboWeight::kMillimetres;
+    const auto& thickness = KivComboWeight::kMillimeters;
     return weight < thickness.size() ? NativeLineDrawing::Weight(thickness[weight]) : QIcon();
 }

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-void SheetCamera::SetSheet(QSizeF millimetres)
+void SheetCamera::SetSheet(QSizeF millimeters)
 {
-    _sheet = millimetres;
+    _sheet = millimeters;
     Fit();
 }
 
@@ -26,7 +26,7 @@ void SheetCamera::SetResolution(double pixelsPerMm)
 void SheetCamera::Fit()
 {
     constexpr double kMargin = 0.94;
-    _centre = QPointF(_sheet.width() / 2.0, _sheet.height() / 2.0);
+    _center = QPointF(_sheet.width() / 2.0, _sheet.height() / 2.0);
     _scale = kMargin * std::min(_area.width() / _sheet.width(), _area.height() / _sheet.height());
     Bound();
     _fits = true;
@@ -39,14 +39,14 @@ void SheetCamera::ZoomBy(double factor, QPointF around)
     _scale *= factor;
     Bound();
     const QPointF moved = fixed - ToSheet(around);
-    _centre += moved;
+    _center += moved;
     Bound();
     _fits = false;
 }
 
 void SheetCamera::PanBy(QPointF pixels)
 {
-    _centre += QPointF(-pixels.x(), pixels.y()) / _scale;
+    _center += QPointF(-pixels.x(), pixels.y()) / _scale;
     Bound();
     _fits = false;
 }
@@ -54,20 +54,20 @@ void SheetCamera::PanBy(QPointF pixels)
 void SheetCamera::Bound()
 {
     _scale = std::clamp(_scale, kSmallest * _resolution, kLargest * _resolution);
-    _centre.setX(std::clamp(_centre.x(), 0.0, _sheet.width()));
-    _centre.setY(std::clamp(_centre.y(), 0.0, _sheet.height()));
+    _center.setX(std::clamp(_center.x(), 0.0, _sheet.width()));
+    _center.setY(std::clamp(_center.y(), 0.0, _sheet.height()));
 }
 
-QPointF SheetCamera::ToWindow(QPointF millimetres) const
+QPointF SheetCamera::ToWindow(QPointF millimeters) const
 {
-    const QPointF offset = millimetres - _centre;
+    const QPointF offset = millimeters - _center;
     return _area.center() + QPointF(offset.x(), -offset.y()) * _scale;
 }
 
 QPointF SheetCamera::ToSheet(QPointF pixels) const
 {
     const QPointF offset = (pixels - _area.center()) / _scale;
-    return _centre + QPointF(offset.x(), -offset.y());
+    return _center + QPointF(offset.x(), -offset.y());
 }
 
 QTransform SheetCamera::Transform() const

@@ -9,10 +9,10 @@
 // mm with y up; the window is in pixels with y down.
 class SheetCamera {
 public:
-    void SetSheet(QSizeF millimetres);
+    void SetSheet(QSizeF millimeters);
     // The part of the window in which the sheet is shown.
     void SetArea(const QRectF& pixels);
-    // How many pixels make a millimetre on the screen when the zoom is 1.
+    // How many pixels make a millimeter on the screen when the zoom is 1.
     void SetResolution(double pixelsPerMm);
 
     QSizeF Sheet() const { return _sheet; }
@@ -30,7 +30,7 @@ public:
     // By so many pixels; the middle of the window never leaves the sheet.
     void PanBy(QPointF pixels);
 
-    QPointF ToWindow(QPointF millimetres) const;
+    QPointF ToWindow(QPointF millimeters) const;
     QPointF ToSheet(QPointF pixels) const;
     QTransform Transform() const;
 
@@ -41,8 +41,8 @@ private:
 
     QSizeF _sheet{420.0, 297.0};
     QRectF _area{0.0, 0.0, 100.0, 100.0};
-    QPointF _centre{210.0, 148.5};
+    QPointF _center{210.0, 148.5};
     double _resolution = 96.0 / 25.4;
-    double _scale = 1.0; // pixels a millimetre
+    double _scale = 1.0; // pixels a millimeter
     bool _fits = true;
 };

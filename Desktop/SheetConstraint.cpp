@@ -11,11 +11,11 @@ QPainterPath Strokes(std::initializer_list<QPolygonF> strokes)
     return path;
 }
 
-QPainterPath Rounds(QPointF centre, std::initializer_list<double> radii,
+QPainterPath Rounds(QPointF center, std::initializer_list<double> radii,
                     std::initializer_list<QPolygonF> strokes = {})
 {
     QPainterPath path = Strokes(strokes);
-    for (const double radius : radii) path.addEllipse(centre, radius, radius);
+    for (const double radius : radii) path.addEllipse(center, radius, radius);
     return path;
 }
 

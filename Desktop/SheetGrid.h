@@ -12,7 +12,7 @@ public:
         double at; // mm
         bool primary;
     };
-    // The lines between two places (mm) that can be told apart at so many pixels a millimetre: graduations
+    // The lines between two places (mm) that can be told apart at so many pixels a millimeter: graduations
     // are left out when they would be closer than kClosest pixels, then primary lines are thinned in steps of
     // 2, 5, 10, … Never more than (to - from) * pixelsPerMm / kClosest + 2 lines.
     std::vector<Line> Lines(double from, double to, double pixelsPerMm) const;

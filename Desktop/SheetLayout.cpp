@@ -25,9 +25,9 @@ SheetLayout::SheetLayout(QSizeF sheet)
         QPointF(border.right() - gap - detailSize.width(), border.bottom() - gap - detailSize.height()),
         detailSize);
 
-    viewCentre = isLandscape ? QPointF(width * 0.38, height * 0.54) : QPointF(width * 0.5, height * 0.5);
+    viewCenter = isLandscape ? QPointF(width * 0.38, height * 0.54) : QPointF(width * 0.5, height * 0.5);
     // Where the view leaves room even when it is turned on its side.
-    sketchCentre = isLandscape ? QPointF(width * 0.81, height * 0.42) : QPointF(width * 0.31, height * 0.8);
+    sketchCenter = isLandscape ? QPointF(width * 0.81, height * 0.42) : QPointF(width * 0.31, height * 0.8);
 }
 
 QRectF SheetLayout::ViewFrame() const

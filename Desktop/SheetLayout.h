@@ -11,10 +11,10 @@ struct SheetLayout {
     QRectF border; // the frame inside the edge of the sheet
     QRectF titleBlock;
     QRectF detail;        // the small detail sheet
-    QPointF viewCentre;   // the origin of the sample view
+    QPointF viewCenter;   // the origin of the sample view
     double viewScale;     // of paper to part: 0.5, 1 or 2
-    QPointF sketchCentre; // the sketch has the scale of the view
+    QPointF sketchCenter; // the sketch has the scale of the view
 
-    // The frame of the sample view around its centre, before it is turned.
+    // The frame of the sample view around its center, before it is turned.
     QRectF ViewFrame() const;
 };

@@ -43,10 +43,10 @@ void SheetMarkers::PaintHandle(QPainter& painter, const QPolygonF& frame, Handle
     painter.drawLine(at + QPointF(3.1, -2.6), at + QPointF(0.2, -3.0));
 }
 
-void SheetMarkers::PaintTurn(QPainter& painter, QPointF centre, QPointF handle, double angle) const
+void SheetMarkers::PaintTurn(QPainter& painter, QPointF center, QPointF handle, double angle) const
 {
-    const double radius = QLineF(centre, handle).length() * 0.5;
-    const QRectF box(centre.x() - radius, centre.y() - radius, 2.0 * radius, 2.0 * radius);
+    const double radius = QLineF(center, handle).length() * 0.5;
+    const QRectF box(center.x() - radius, center.y() - radius, 2.0 * radius, 2.0 * radius);
     const double shown = angle > 180.0 ? angle - 360.0 : angle;
     QColor fill = MarkedOnSheet();
     fill.setAlphaF(0.16F);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "SheetColours.h"
+#include "SheetColors.h"
 
 #include <QFont>
 #include <QPalette>
@@ -14,7 +14,7 @@ class QPainter;
 // the cross-hairs of the cursor.
 class SheetMarkers {
 public:
-    SheetMarkers(const QPalette& palette, const QFont& font, const SheetColours& sheet)
+    SheetMarkers(const QPalette& palette, const QFont& font, const SheetColors& sheet)
         : _palette(palette), _font(font), _sheet(sheet)
     {}
 
@@ -27,7 +27,7 @@ public:
     void PaintHandle(QPainter& painter, const QPolygonF& frame, HandleState state) const;
     // A bubble with the angle, beside the handle, that stays inside of the area.
     void PaintAngle(QPainter& painter, QPointF handle, const QRectF& area, const QString& angle) const;
-    void PaintTurn(QPainter& painter, QPointF centre, QPointF handle, double angle) const;
+    void PaintTurn(QPainter& painter, QPointF center, QPointF handle, double angle) const;
     // A square around the middle says that the place is a grid point.
     void PaintCross(QPainter& painter, QPointF at, bool isSnapped) const;
 
@@ -38,5 +38,5 @@ private:
 
     QPalette _palette;
     QFont _font;
-    SheetColours _sheet;
+    SheetColors _sheet;
 };

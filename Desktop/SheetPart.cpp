@@ -70,7 +70,7 @@ QPainterPath SheetPart::Hidden()
     return path;
 }
 
-QPainterPath SheetPart::CentreLines()
+QPainterPath SheetPart::CenterLines()
 {
     QPainterPath path;
     const double beyond = 6.0;

@@ -12,7 +12,7 @@ public:
     // The lines of each kind.
     static QPainterPath Visible();
     static QPainterPath Hidden();
-    static QPainterPath CentreLines();
+    static QPainterPath CenterLines();
     // Dimension and extension lines, without their texts; their arrows, which are filled.
     static QPainterPath DimensionLines();
     static QPainterPath Arrows();
@@ -26,7 +26,7 @@ public:
     static std::array<Dimension, 3> Dimensions();
 
     // The round that the detail sheet shows, and all that the view needs on paper at full scale.
-    static QPointF DetailCentre() { return {46.0, -43.0}; }
+    static QPointF DetailCenter() { return {46.0, -43.0}; }
     static constexpr double kDetailRadius = 17.0;
     static QRectF Extent() { return {-84.0, -97.0, 168.0, 146.0}; }
 };

@@ -18,17 +18,17 @@ constexpr double kDetailMagnification = 1.5;
 constexpr double kDimmed = 0.25;
 constexpr QColor kWorkedOn(0x00, 0x60, 0xa8);
 
-QPen Pen(const QColor& colour, double width = 1.0, Qt::PenStyle style = Qt::SolidLine)
+QPen Pen(const QColor& color, double width = 1.0, Qt::PenStyle style = Qt::SolidLine)
 {
-    QPen pen(colour, width, style, Qt::FlatCap, Qt::MiterJoin);
+    QPen pen(color, width, style, Qt::FlatCap, Qt::MiterJoin);
     pen.setCosmetic(true);
     return pen;
 }
 
-// Long and short dashes, as centre lines have them.
-QPen CentrePen(const QColor& colour)
+// Long and short dashes, as center lines have them.
+QPen CenterPen(const QColor& color)
 {
-    QPen pen = Pen(colour);
+    QPen pen = Pen(color);
     pen.setDashPattern({12.0, 3.0, 2.0, 3.0});
     return pen;
 }
@@ -38,20 +38,20 @@ QPen CentrePen(const QColor& colour)
 SheetPicture::SheetPicture(const SheetStyle& style, const SheetSketchStyle& sketch, const SheetLook& look,
                            const SheetCamera& camera, double rotation, const QString& format)
     : _style(style), _sketch(sketch), _look(look), _camera(camera), _rotation(rotation), _format(format),
-      _layout(camera.Sheet()), _colours(style.sheet, style.sheetGraduated),
-      _detailColours(style.detail, style.detailGraduated)
+      _layout(camera.Sheet()), _colors(style.sheet, style.sheetGraduated),
+      _detailColors(style.detail, style.detailGraduated)
 {}
 
 void SheetPicture::Paint(QPainter& painter) const
 {
     const QRectF sheet(QPointF(0.0, 0.0), _camera.Sheet());
-    PaintSurface(painter, sheet, _colours);
-    PaintGrid(painter, sheet, _colours);
+    PaintSurface(painter, sheet, _colors);
+    PaintGrid(painter, sheet, _colors);
     painter.setRenderHint(QPainter::Antialiasing);
     if (!_look.isBackground) PaintBorder(painter);
     painter.setOpacity(_look.isBackground ? kDimmed : 1.0);
     PaintView(painter);
-    SheetSketchPicture(_sketch, _camera, _colours).Paint(painter, PartLine());
+    SheetSketchPicture(_sketch, _camera, _colors).Paint(painter, PartLine());
     painter.setRenderHint(QPainter::Antialiasing, false);
     PaintDetail(painter);
     painter.setOpacity(1.0);
@@ -61,16 +61,16 @@ void SheetPicture::Paint(QPainter& painter) const
 
 void SheetPicture::PaintPick(QPainter& painter, QPointF pointer) const
 {
-    if (!_look.isBackground) SheetSketchPicture(_sketch, _camera, _colours).PaintPick(painter, pointer);
+    if (!_look.isBackground) SheetSketchPicture(_sketch, _camera, _colors).PaintPick(painter, pointer);
 }
 
 QRectF SheetPicture::SketchFrame() const
 {
-    return SheetSketchPicture(_sketch, _camera, _colours).Frame();
+    return SheetSketchPicture(_sketch, _camera, _colors).Frame();
 }
 
 // A soft shadow, the surface and its edge.
-void SheetPicture::PaintSurface(QPainter& painter, const QRectF& sheet, const SheetColours& colours) const
+void SheetPicture::PaintSurface(QPainter& painter, const QRectF& sheet, const SheetColors& colors) const
 {
     const QRectF window = ToWindow(sheet);
     painter.setPen(Qt::NoPen);
@@ -78,13 +78,13 @@ void SheetPicture::PaintSurface(QPainter& painter, const QRectF& sheet, const Sh
         painter.setBrush(QColor(0, 0, 0, 11));
         painter.drawRoundedRect(window.adjusted(-ring, -ring, ring, ring).translated(0.0, 2.0), ring, ring);
     }
-    painter.fillRect(window, colours.Surface(window.top(), window.bottom()));
-    painter.setPen(Pen(colours.Veil(0.45)));
+    painter.fillRect(window, colors.Surface(window.top(), window.bottom()));
+    painter.setPen(Pen(colors.Veil(0.45)));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(window);
 }
 
-void SheetPicture::PaintGrid(QPainter& painter, const QRectF& part, const SheetColours& colours) const
+void SheetPicture::PaintGrid(QPainter& painter, const QRectF& part, const SheetColors& colors) const
 {
     if (!_style.grid) return;
     const QRectF seen = VisiblePaper(part);
@@ -109,22 +109,22 @@ void SheetPicture::PaintGrid(QPainter& painter, const QRectF& part, const SheetC
     const double closest = std::min(_style.spacingH > 0.0 ? _style.spacingH : 1.0e9,
                                     _style.spacingV > 0.0 ? _style.spacingV : 1.0e9);
     const double strength = 0.28 * std::clamp(closest * _camera.PixelsPerMm() / 14.0, 0.35, 1.0);
-    painter.setPen(Pen(colours.Veil(0.11)));
+    painter.setPen(Pen(colors.Veil(0.11)));
     painter.drawLines(graduations.data(), static_cast<int>(graduations.size()));
-    painter.setPen(Pen(colours.Veil(strength)));
+    painter.setPen(Pen(colors.Veil(strength)));
     painter.drawLines(primary.data(), static_cast<int>(primary.size()));
 }
 
 void SheetPicture::PaintBorder(QPainter& painter) const
 {
-    const QColor line = _look.isBackground ? _colours.Accent(kWorkedOn) : _colours.Shade(0.75);
+    const QColor line = _look.isBackground ? _colors.Accent(kWorkedOn) : _colors.Shade(0.75);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(Pen(line, Thick()));
     painter.drawRect(ToWindow(_layout.border));
 
     const QRectF block = _layout.titleBlock;
     const QRectF sheet = ToWindow(QRectF(QPointF(0.0, 0.0), _camera.Sheet()));
-    painter.setBrush(_colours.Surface(sheet.top(), sheet.bottom()));
+    painter.setBrush(_colors.Surface(sheet.top(), sheet.bottom()));
     painter.drawRect(ToWindow(block));
     painter.setPen(Pen(line));
     const double middle = block.top() + block.height() / 2.0;
@@ -141,7 +141,7 @@ void SheetPicture::PaintBorder(QPainter& painter) const
                                        : _layout.viewScale < 1.0 ? "ScaleHalf"
                                                                  : "Scale1");
     const double row = block.height() / 2.0, small = row * 0.2;
-    painter.setPen(_colours.Ink());
+    painter.setPen(_colors.Ink());
     for (const Field& field : {Field{{block.left(), middle}, "BlockTitle", DraftingText("PartName")},
                                Field{{right, middle}, "BlockFormat", _format},
                                Field{{block.left(), block.top()}, "BlockSheet", DraftingText("TreeSheet")},
@@ -159,30 +159,30 @@ void SheetPicture::PaintView(QPainter& painter) const
     painter.save();
     painter.setClipRect(ToWindow(QRectF(QPointF(0.0, 0.0), _camera.Sheet())));
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(Pen(_colours.Veil(0.4), 1.0, Qt::DashLine));
+    painter.setPen(Pen(_colors.Veil(0.4), 1.0, Qt::DashLine));
     painter.drawPolygon(ViewFrame());
-    PaintPart(painter, PartTransform(), PartLine(), _colours);
+    PaintPart(painter, PartTransform(), PartLine(), _colors);
     PaintDimensions(painter);
     if (_style.axis) PaintAxis(painter);
     painter.restore();
 }
 
 void SheetPicture::PaintPart(QPainter& painter, const QTransform& toWindow, double scale,
-                             const SheetColours& colours) const
+                             const SheetColors& colors) const
 {
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(CentrePen(colours.Accent(QColor(0x00, 0x60, 0xa8))));
-    painter.drawPath(toWindow.map(SheetPart::CentreLines()));
-    painter.setPen(Pen(colours.Veil(0.85), 1.0, Qt::DashLine));
+    painter.setPen(CenterPen(colors.Accent(QColor(0x00, 0x60, 0xa8))));
+    painter.drawPath(toWindow.map(SheetPart::CenterLines()));
+    painter.setPen(Pen(colors.Veil(0.85), 1.0, Qt::DashLine));
     painter.drawPath(toWindow.map(SheetPart::Hidden()));
-    painter.setPen(Pen(colours.Ink(), scale));
+    painter.setPen(Pen(colors.Ink(), scale));
     painter.drawPath(toWindow.map(SheetPart::Visible()));
 }
 
 void SheetPicture::PaintDimensions(QPainter& painter) const
 {
     const QTransform toWindow = PartTransform();
-    const QColor line = _colours.Accent(QColor(0x50, 0x50, 0x58));
+    const QColor line = _colors.Accent(QColor(0x50, 0x50, 0x58));
     painter.setPen(Pen(line));
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(toWindow.map(SheetPart::DimensionLines()));
@@ -198,10 +198,10 @@ void SheetPicture::PaintDimensions(QPainter& painter) const
 
     const double radius = SheetPart::kDetailRadius;
     QPainterPath round;
-    round.addEllipse(SheetPart::DetailCentre(), radius, radius);
+    round.addEllipse(SheetPart::DetailCenter(), radius, radius);
     painter.drawPath(toWindow.map(round));
-    painter.setPen(_colours.Ink());
-    PaintText(painter, toWindow.map(SheetPart::DetailCentre() + QPointF(radius, radius) * 0.86),
+    painter.setPen(_colors.Ink());
+    PaintText(painter, toWindow.map(SheetPart::DetailCenter() + QPointF(radius, radius) * 0.86),
               kTextHeight * _layout.viewScale, _rotation, Qt::AlignCenter, DraftingText("DetailMark"));
     const QRectF frame = SheetPart::Extent();
     PaintText(painter, toWindow.map(QPointF(frame.center().x(), frame.top() + 2.0)),
@@ -221,34 +221,34 @@ void SheetPicture::PaintAxis(QPainter& painter) const
     const double text = std::clamp(head * 1.1, 8.0, 40.0);
 
     painter.save();
-    painter.translate(ViewCentre());
+    painter.translate(ViewCenter());
     painter.rotate(-_rotation);
     QFont font = painter.font();
     font.setPixelSize(static_cast<int>(text));
     font.setBold(true);
     painter.setFont(font);
     struct Arm {
-        QColor colour;
+        QColor color;
         QPointF along;
         const char* name;
     };
     for (const Arm& arm : {Arm{QColor(0xc8, 0x20, 0x20), {1.0, 0.0}, "AxisH"},
                            Arm{QColor(0x10, 0x80, 0x20), {0.0, -1.0}, "AxisV"}}) {
-        const QColor colour = _colours.Accent(arm.colour);
+        const QColor color = _colors.Accent(arm.color);
         const QPointF tip = arm.along * length, side = QPointF(arm.along.y(), -arm.along.x()) * head * 0.32;
         const QPointF back = arm.along * (length - head);
-        painter.setPen(Pen(colour, 1.8));
+        painter.setPen(Pen(color, 1.8));
         painter.drawLine(QPointF(0.0, 0.0), back);
-        painter.setBrush(colour);
+        painter.setBrush(color);
         painter.setPen(Qt::NoPen);
         painter.drawPolygon(QPolygonF({tip, back + side, back - side}));
         if (length < 2.0 * text) continue; // no room for letters
-        painter.setPen(colour);
+        painter.setPen(color);
         const QPointF place = tip + arm.along * text * 0.8;
         painter.drawText(QRectF(place - QPointF(text, text), QSizeF(2.0 * text, 2.0 * text)), Qt::AlignCenter,
                          DraftingText(arm.name));
     }
-    painter.setBrush(_colours.Ink());
+    painter.setBrush(_colors.Ink());
     painter.setPen(Qt::NoPen);
     painter.drawEllipse(QPointF(0.0, 0.0), 2.5, 2.5);
     painter.restore();
@@ -258,8 +258,8 @@ void SheetPicture::PaintDetail(QPainter& painter) const
 {
     const QRectF sheet = _layout.detail;
     if (VisiblePaper(sheet).isEmpty()) return;
-    PaintSurface(painter, sheet, _detailColours);
-    PaintGrid(painter, sheet, _detailColours);
+    PaintSurface(painter, sheet, _detailColors);
+    PaintGrid(painter, sheet, _detailColors);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(ToWindow(sheet), Qt::IntersectClip);
@@ -268,24 +268,24 @@ void SheetPicture::PaintDetail(QPainter& painter) const
     // As large as fits above the name, whatever the size of the sheet.
     const double room = std::min(sheet.width(), sheet.height() - 12.0 * _layout.viewScale) * 0.47;
     const double scale = std::min(magnified, room / SheetPart::kDetailRadius);
-    const QPointF centre = sheet.center() + QPointF(0.0, 4.0 * _layout.viewScale);
+    const QPointF center = sheet.center() + QPointF(0.0, 4.0 * _layout.viewScale);
     const double radius = SheetPart::kDetailRadius * scale;
     QTransform toPaper;
-    toPaper.translate(centre.x(), centre.y());
+    toPaper.translate(center.x(), center.y());
     toPaper.scale(scale, scale);
-    toPaper.translate(-SheetPart::DetailCentre().x(), -SheetPart::DetailCentre().y());
+    toPaper.translate(-SheetPart::DetailCenter().x(), -SheetPart::DetailCenter().y());
 
     QPainterPath round;
-    round.addEllipse(centre, radius, radius);
+    round.addEllipse(center, radius, radius);
     const QPainterPath shown = _camera.Transform().map(round);
-    painter.setPen(Pen(_detailColours.Veil(0.6)));
+    painter.setPen(Pen(_detailColors.Veil(0.6)));
     painter.drawPath(shown);
-    painter.setPen(_detailColours.Ink());
+    painter.setPen(_detailColors.Ink());
     PaintText(painter, _camera.ToWindow(QPointF(sheet.center().x(), sheet.top() + 3.0 * _layout.viewScale)),
               kTextHeight * _layout.viewScale, 0.0, Qt::AlignHCenter | Qt::AlignBottom,
               DraftingText("DetailName"));
     painter.setClipPath(shown, Qt::IntersectClip);
-    PaintPart(painter, toPaper * _camera.Transform(), PartLine(), _detailColours);
+    PaintPart(painter, toPaper * _camera.Transform(), PartLine(), _detailColors);
     painter.restore();
 }
 
@@ -298,7 +298,7 @@ void SheetPicture::PaintText(QPainter& painter, QPointF at, double height, doubl
 QTransform SheetPicture::PartTransform() const
 {
     QTransform toPaper;
-    toPaper.translate(_layout.viewCentre.x(), _layout.viewCentre.y());
+    toPaper.translate(_layout.viewCenter.x(), _layout.viewCenter.y());
     toPaper.rotate(_rotation);
     toPaper.scale(_layout.viewScale, _layout.viewScale);
     return toPaper * _camera.Transform();
@@ -310,9 +310,9 @@ QPolygonF SheetPicture::ViewFrame() const
     return PartTransform().map(corners);
 }
 
-QPointF SheetPicture::ViewCentre() const
+QPointF SheetPicture::ViewCenter() const
 {
-    return _camera.ToWindow(_layout.viewCentre);
+    return _camera.ToWindow(_layout.viewCenter);
 }
 
 QRectF SheetPicture::ToWindow(const QRectF& paper) const

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "SheetCamera.h"
-#include "SheetColours.h"
+#include "SheetColors.h"
 #include "SheetLayout.h"
 #include "SheetLook.h"
 #include "SheetSketchStyle.h"
@@ -26,16 +26,16 @@ public:
 
     // Places of the sample view in the window.
     QPolygonF ViewFrame() const;
-    QPointF ViewCentre() const;
+    QPointF ViewCenter() const;
     QRectF SketchFrame() const;
 
 private:
-    void PaintSurface(QPainter& painter, const QRectF& sheet, const SheetColours& colours) const;
-    void PaintGrid(QPainter& painter, const QRectF& part, const SheetColours& colours) const;
+    void PaintSurface(QPainter& painter, const QRectF& sheet, const SheetColors& colors) const;
+    void PaintGrid(QPainter& painter, const QRectF& part, const SheetColors& colors) const;
     void PaintBorder(QPainter& painter) const;
     void PaintView(QPainter& painter) const;
     void PaintPart(QPainter& painter, const QTransform& toWindow, double scale,
-                   const SheetColours& colours) const;
+                   const SheetColors& colors) const;
     void PaintDimensions(QPainter& painter) const;
     void PaintAxis(QPainter& painter) const;
     void PaintDetail(QPainter& painter) const;
@@ -58,5 +58,5 @@ private:
     double _rotation;
     QString _format;
     SheetLayout _layout;
-    SheetColours _colours, _detailColours;
+    SheetColors _colors, _detailColors;
 };

@@ -9,7 +9,7 @@ constexpr double kLeft = -44.0, kRight = 18.0, kAxis = 10.0; // the tongue's end
 constexpr double kRadius = 22.0, kTop = kAxis + kRadius, kFoot = kAxis - kRadius;
 constexpr double kBore = 10.0, kHole = 4.5;
 constexpr double kHoleAt = -22.0, kUpperHole = kAxis + 10.0, kLowerHole = kAxis - 10.0;
-constexpr QPointF kCentre(kRight, kAxis);
+constexpr QPointF kCenter(kRight, kAxis);
 constexpr double kDiagonal = 0.70710678118654752;
 
 using State = SheetSketch::State;
@@ -19,11 +19,11 @@ constexpr SheetSketch::Element kElements[] = {
     {State::Construction, {kHoleAt, kLowerHole - 9.0}, {kHoleAt, kUpperHole + 9.0}},
     {State::IsoConstrained, {kLeft, kFoot}, {kRight, kFoot}},
     {State::IsoConstrained, {kLeft, kFoot}, {kLeft, kTop}},
-    {State::IsoConstrained, kCentre, {}, kRadius, true},
+    {State::IsoConstrained, kCenter, {}, kRadius, true},
     {State::OverConstrained, {kLeft, kTop}, {kRight, kTop}},
     {State::Inconsistent, {kHoleAt, kUpperHole}, {}, kHole},
     {State::NotChanged, {kHoleAt, kLowerHole}, {}, kHole},
-    {State::Free, kCentre, {}, kBore},
+    {State::Free, kCenter, {}, kBore},
 };
 
 constexpr SheetSketch::Symbol kSymbols[] = {
@@ -47,9 +47,9 @@ void AddLine(QPainterPath& path, QPointF from, QPointF to)
     path.lineTo(to);
 }
 
-QRectF Around(QPointF centre, double radius)
+QRectF Around(QPointF center, double radius)
 {
-    return {centre.x() - radius, centre.y() - radius, 2.0 * radius, 2.0 * radius};
+    return {center.x() - radius, center.y() - radius, 2.0 * radius, 2.0 * radius};
 }
 
 } // namespace
@@ -76,7 +76,7 @@ std::optional<QPointF> SheetSketch::Element::Nearest(QPointF place) const
         const double part = QPointF::dotProduct(away, along) / QPointF::dotProduct(along, along);
         return from + along * std::clamp(part, 0.0, 1.0);
     }
-    // The middle is as far from every place of the circle; the ends of a half one belong to its neighbours.
+    // The middle is as far from every place of the circle; the ends of a half one belong to its neighbors.
     const double distance = QLineF({}, away).length();
     if (distance == 0.0 || (isHalf && away.x() < 0.0)) return std::nullopt;
     return from + away * (radius / distance);
@@ -97,7 +97,7 @@ std::span<const QPointF> SheetSketch::Ends()
     return kEnds;
 }
 
-QPainterPath SheetSketch::CentreMarks()
+QPainterPath SheetSketch::CenterMarks()
 {
     QPainterPath path;
     for (const Element& element : kElements) {
@@ -112,7 +112,7 @@ QPainterPath SheetSketch::CentreMarks()
 QPainterPath SheetSketch::DragMark()
 {
     constexpr double kArm = 4.0, kHead = 1.3;
-    const QPointF middle = kCentre - QPointF(kBore, kBore) * kDiagonal;
+    const QPointF middle = kCenter - QPointF(kBore, kBore) * kDiagonal;
     QPainterPath path;
     for (const QPointF& out :
          {QPointF(1.0, 0.0), QPointF(-1.0, 0.0), QPointF(0.0, 1.0), QPointF(0.0, -1.0)}) {

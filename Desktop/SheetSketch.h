@@ -10,7 +10,7 @@
 class SheetSketch {
 public:
     // How far the solver has determined an element. The diagnosed ones come first, in the order of the
-    // diagnostics' colours.
+    // diagnostics' colors.
     enum class State { OverConstrained, Inconsistent, NotChanged, IsoConstrained, Free, Construction };
     static constexpr int kDiagnosed = 4;
 
@@ -37,7 +37,7 @@ public:
     // The corners of the outline, beginning with the lower left one.
     static std::span<const QPointF> Ends();
     // Crosses in the circles; they are created with these.
-    static QPainterPath CentreMarks();
+    static QPainterPath CenterMarks();
     // The sign of what a hand may move: four arrows, at the free element.
     static QPainterPath DragMark();
 

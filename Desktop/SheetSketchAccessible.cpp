@@ -23,7 +23,7 @@ QString Words(const SheetSketchStyle& style)
         if (style.constraints[i] && style.symbolSize > 0.0) constraints << DraftingText(kConstraints[i]);
     if (!constraints.isEmpty()) shown << DraftingText("SketchConstraints").arg(constraints.join(", "));
     add(style.diagnoses, "SketchDiagnostics");
-    add(style.centres, "SketchCentres");
+    add(style.centers, "SketchCenters");
     add(style.endPoints, "SketchEndPoints");
     add(style.drags, "SketchDrags");
     add(style.position, "SketchPosition");

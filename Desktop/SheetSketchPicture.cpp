@@ -17,9 +17,9 @@ constexpr double kReach = 8.0; // pixels within which a pointer picks
 constexpr const char* kDiagnostics[] = {"DiagnosticOver", "DiagnosticInconsistent", "DiagnosticNotChanged",
                                         "DiagnosticIso"};
 
-QPen Pen(const QColor& colour, double width = 1.0, Qt::PenStyle style = Qt::SolidLine)
+QPen Pen(const QColor& color, double width = 1.0, Qt::PenStyle style = Qt::SolidLine)
 {
-    QPen pen(colour, width, style, Qt::RoundCap, Qt::RoundJoin);
+    QPen pen(color, width, style, Qt::RoundCap, Qt::RoundJoin);
     pen.setCosmetic(true);
     return pen;
 }
@@ -27,11 +27,11 @@ QPen Pen(const QColor& colour, double width = 1.0, Qt::PenStyle style = Qt::Soli
 } // namespace
 
 SheetSketchPicture::SheetSketchPicture(const SheetSketchStyle& style, const SheetCamera& camera,
-                                       const SheetColours& colours)
-    : _style(style), _camera(camera), _colours(colours), _layout(camera.Sheet())
+                                       const SheetColors& colors)
+    : _style(style), _camera(camera), _colors(colors), _layout(camera.Sheet())
 {
     QTransform toPaper;
-    toPaper.translate(_layout.sketchCentre.x(), _layout.sketchCentre.y());
+    toPaper.translate(_layout.sketchCenter.x(), _layout.sketchCenter.y());
     toPaper.scale(_layout.viewScale, _layout.viewScale);
     _toWindow = toPaper * camera.Transform();
 }
@@ -41,7 +41,7 @@ void SheetSketchPicture::Paint(QPainter& painter, double width) const
     const QRectF frame = Frame();
     painter.save();
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(Pen(_colours.Veil(0.4), 1.0, Qt::DashLine));
+    painter.setPen(Pen(_colors.Veil(0.4), 1.0, Qt::DashLine));
     painter.drawRect(frame);
     painter.setClipRect(frame, Qt::IntersectClip); // symbols may be of any size
     PaintElements(painter, width);
@@ -50,7 +50,7 @@ void SheetSketchPicture::Paint(QPainter& painter, double width) const
     if (_style.position) PaintPosition(painter);
     if (_style.diagnoses) PaintLegend(painter, width);
     const QRectF extent = SheetSketch::Extent();
-    painter.setPen(_colours.Ink());
+    painter.setPen(_colors.Ink());
     PaintText(painter, {extent.center().x(), extent.top() + 2.0}, 5.5, Qt::AlignHCenter | Qt::AlignBottom,
               DraftingText("SketchName"));
     painter.restore();
@@ -66,25 +66,25 @@ void SheetSketchPicture::PaintElements(QPainter& painter, double width) const
         else if (_style.diagnoses && state < SheetSketch::kDiagnosed)
             painter.setPen(Pen(_style.diagnostics[static_cast<std::size_t>(state)], width));
         else
-            painter.setPen(Pen(_colours.Ink(), width));
+            painter.setPen(Pen(_colors.Ink(), width));
         painter.drawPath(_toWindow.map(element.Path()));
     }
 }
 
 void SheetSketchPicture::PaintPoints(QPainter& painter) const
 {
-    painter.setPen(Pen(_colours.Ink(), 1.2));
-    if (_style.centres) painter.drawPath(_toWindow.map(SheetSketch::CentreMarks()));
+    painter.setPen(Pen(_colors.Ink(), 1.2));
+    if (_style.centers) painter.drawPath(_toWindow.map(SheetSketch::CenterMarks()));
     if (_style.drags) painter.drawPath(_toWindow.map(SheetSketch::DragMark()));
     const double size = std::clamp(1.4 * Scale(), 2.5, 10.0);
     for (const QPointF& end : SheetSketch::Ends()) {
         const QPointF at = _toWindow.map(end);
         if (_style.dragsEndPoints) {
-            painter.setBrush(_colours.Sheet());
+            painter.setBrush(_colors.Sheet());
             painter.drawRect(QRectF(at - QPointF(size, size), at + QPointF(size, size)));
         }
         if (!_style.endPoints) continue;
-        painter.setBrush(_colours.Ink());
+        painter.setBrush(_colors.Ink());
         painter.drawEllipse(at, 0.55 * size, 0.55 * size);
     }
 }
@@ -113,13 +113,13 @@ void SheetSketchPicture::PaintPosition(QPainter& painter) const
     const QPointF from = SheetSketch::Ends()[0], point = SheetSketch::Ends()[2];
     const QPointF value = point - from;
     QRectF field(point + QPointF(-19.0, 5.0), QSizeF(27.0, 6.5));
-    painter.setPen(Pen(_colours.Shade(0.6)));
+    painter.setPen(Pen(_colors.Shade(0.6)));
     painter.drawLine(_toWindow.map(point), _toWindow.map(point + QPointF(0.0, 5.0)));
     for (const auto& [form, length] : {std::pair("FieldH", value.x()), std::pair("FieldV", value.y())}) {
-        painter.setPen(Pen(_colours.Shade(0.6)));
-        painter.setBrush(_colours.Sheet());
+        painter.setPen(Pen(_colors.Shade(0.6)));
+        painter.setBrush(_colors.Sheet());
         painter.drawRect(_toWindow.mapRect(field));
-        painter.setPen(_colours.Ink());
+        painter.setPen(_colors.Ink());
         PaintText(painter, field.center(), 4.0, Qt::AlignCenter,
                   DraftingText(form).arg(SheetUnit::Print(length, 2)));
         field.translate(field.width() + 1.0, 0.0);
@@ -132,7 +132,7 @@ void SheetSketchPicture::PaintLegend(QPainter& painter, double width) const
         const QPointF at(i % 2 == 0 ? -50.0 : 6.0, i < 2 ? -26.0 : -33.0);
         painter.setPen(Pen(_style.diagnostics[i], width));
         painter.drawLine(_toWindow.map(at), _toWindow.map(at + QPointF(8.0, 0.0)));
-        painter.setPen(_colours.Ink());
+        painter.setPen(_colors.Ink());
         PaintText(painter, at + QPointF(10.0, 0.0), 4.0, Qt::AlignLeft | Qt::AlignVCenter,
                   DraftingText(kDiagnostics[i]));
     }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "SheetCamera.h"
-#include "SheetColours.h"
+#include "SheetColors.h"
 #include "SheetLayout.h"
 #include "SheetSketchStyle.h"
 
@@ -12,7 +12,7 @@ class QPainter;
 // Draws the sample sketch of a sheet, as a camera sees it.
 class SheetSketchPicture {
 public:
-    SheetSketchPicture(const SheetSketchStyle& style, const SheetCamera& camera, const SheetColours& colours);
+    SheetSketchPicture(const SheetSketchStyle& style, const SheetCamera& camera, const SheetColors& colors);
 
     // Into the window's coordinates. The width is that of visible lines, in pixels.
     void Paint(QPainter& painter, double width) const;
@@ -38,7 +38,7 @@ private:
 
     const SheetSketchStyle& _style;
     const SheetCamera& _camera;
-    const SheetColours& _colours;
+    const SheetColors& _colors;
     SheetLayout _layout;
     QTransform _toWindow; // from the sketch's own mm
 };

@@ -22,7 +22,7 @@ double Size(double stored)
     return stored > 0.0 ? std::min(stored, kLargestSymbol) : 0.0;
 }
 
-template <class Ask> QColor Colour(const Ask& ask)
+template <class Ask> QColor Color(const Ask& ask)
 {
     unsigned int red = 0, green = 0, blue = 0;
     ask(red, green, blue);
@@ -46,18 +46,18 @@ SheetSketchStyle SheetSketchStyle::Read(KivSketcherSettings& sketcher, const Kiv
 
     style.diagnoses = sketcher.GetDiagElts() != 0;
     for (std::size_t i = 0; style.diagnoses && i < kDiagnostics; ++i)
-        style.diagnostics[i] = Colour([&](auto&... rgb) {
+        style.diagnostics[i] = Color([&](auto&... rgb) {
             sketcher.GetColorDiagElts(static_cast<int>(i) + 1, rgb...); // they are counted from 1
         });
-    style.construction = Colour([&](auto&... rgb) { sketcher.GetColorConstructElts(rgb...); });
+    style.construction = Color([&](auto&... rgb) { sketcher.GetColorConstructElts(rgb...); });
 
-    style.centres = sketcher.GetCreateCenter() != 0;
+    style.centers = sketcher.GetCreateCenter() != 0;
     style.endPoints = read(KivDrwKeys::DrwEndPtsDuplGenGeom) != 0;
     style.drags = sketcher.GetDragElts() != 0;
     style.dragsEndPoints = style.drags && sketcher.GetDragWithEndPts() != 0;
     style.position = sketcher.GetShowPosition() != 0;
 
-    style.smartPick = Colour([&](auto&... rgb) { sketcher.GetColorSmartPick(rgb...); });
+    style.smartPick = Color([&](auto&... rgb) { sketcher.GetColorSmartPick(rgb...); });
     style.picksSupports = sketcher.GetPosSupports() != 0;
     style.picksAlignment = sketcher.GetPosHorVertTo() != 0;
     return style;

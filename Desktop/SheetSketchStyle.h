@@ -7,8 +7,8 @@
 class KivSettingRepository;
 class KivSketcherSettings;
 
-// Everything that the settings say about how a sketch looks and behaves, fit for drawing. Colours are shown
-// as the user chose them, whatever the sheet's own colour.
+// Everything that the settings say about how a sketch looks and behaves, fit for drawing. Colors are shown
+// as the user chose them, whatever the sheet's own color.
 struct SheetSketchStyle {
     std::array<bool, kSheetConstraints> constraints{}; // which kinds have symbols
     double symbolSize = 0.0;                           // mm of paper, half of a symbol; 0 (none) to 50
@@ -21,7 +21,7 @@ struct SheetSketchStyle {
     std::array<QColor, kDiagnostics> diagnostics;
     QColor construction;
 
-    bool centres = false, endPoints = false;
+    bool centers = false, endPoints = false;
     bool drags = false, dragsEndPoints = false;
     bool position = false; // H and V fields
 

@@ -23,7 +23,7 @@ bool Switch(KivDraftingSettings& settings, HRESULT (KivDraftingSettings::*ask)(u
     return Asked(settings, ask) != 0;
 }
 
-QColor Colour(KivDraftingSettings& settings, HRESULT (KivDraftingSettings::*ask)(int&, int&, int&))
+QColor Color(KivDraftingSettings& settings, HRESULT (KivDraftingSettings::*ask)(int&, int&, int&))
 {
     int red = 0, green = 0, blue = 0;
     (settings.*ask)(red, green, blue);
@@ -63,9 +63,9 @@ SheetStyle SheetStyle::Read(KivDraftingSettings& settings)
     style.spacingV = distorted ? Spacing(Asked(settings, &Settings::GetPrimarySpaceV)) : style.spacingH;
     style.partsV = distorted ? std::max(1, Asked(settings, &Settings::GetGraduationV)) : style.partsH;
 
-    style.sheet = Colour(settings, &Settings::GetSheetColor);
+    style.sheet = Color(settings, &Settings::GetSheetColor);
     style.sheetGraduated = Switch(settings, &Settings::GetSheetColorGraduated);
-    style.detail = Colour(settings, &Settings::GetDetailColor);
+    style.detail = Color(settings, &Settings::GetDetailColor);
     style.detailGraduated = Switch(settings, &Settings::GetDetailColorGraduated);
 
     style.parameters = Switch(settings, &Settings::GetDisplayParameter);

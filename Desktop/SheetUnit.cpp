@@ -20,12 +20,12 @@ const KivControlUnit& Current(const char* type, KivDlgUnit otherwise)
 
 const KivControlUnit& SheetUnit::Length()
 {
-    return Current(KivParmDictionary::LengthType, KivDlgUnitMillimetre);
+    return Current(KivParmDictionary::LengthType, KivDlgUnitMillimeter);
 }
 
-QString SheetUnit::Print(double millimetres, int decimals)
+QString SheetUnit::Print(double millimeters, int decimals)
 {
-    return ToQt(KivMeasure::Print(millimetres / 1000.0, Length().number, decimals));
+    return ToQt(KivMeasure::Print(millimeters / 1000.0, Length().number, decimals));
 }
 
 QString SheetUnit::PrintAngle(double degrees)

@@ -155,7 +155,7 @@ bool SheetView::IsOnHandle(QPointF window) const
 // Of the line from the view's origin to a place in the window; anticlockwise, 0 upwards.
 double SheetView::AngleOf(QPointF window) const
 {
-    const QPointF from = Picture().ViewCentre();
+    const QPointF from = Picture().ViewCenter();
     return qRadiansToDegrees(std::atan2(from.x() - window.x(), from.y() - window.y()));
 }
 
@@ -176,7 +176,7 @@ void SheetView::PaintLayer()
     const double density = devicePixelRatioF();
     _layer = QPixmap((QSizeF(size()) * density).toSize());
     _layer.setDevicePixelRatio(density);
-    // A desk that is darker than paper in both schemes, so that a sheet of any colour lies on it.
+    // A desk that is darker than paper in both schemes, so that a sheet of any color lies on it.
     const QColor window = palette().color(QPalette::Window);
     _layer.fill(window.lightness() < 128 ? window.darker(140) : window.darker(128));
     QPainter painter(&_layer);
@@ -199,11 +199,11 @@ void SheetView::paintEvent(QPaintEvent*)
 void SheetView::PaintOverlay(QPainter& painter) const
 {
     const SheetPicture picture = Picture();
-    const SheetMarkers markers(palette(), font(), SheetColours(Style().sheet, Style().sheetGraduated));
+    const SheetMarkers markers(palette(), font(), SheetColors(Style().sheet, Style().sheetGraduated));
     if (_selected) {
         using State = SheetMarkers::HandleState;
         const bool isHot = _cursor && IsOnHandle(*_cursor);
-        if (_hand == Hand::Turning) markers.PaintTurn(painter, picture.ViewCentre(), Handle(), _rotation);
+        if (_hand == Hand::Turning) markers.PaintTurn(painter, picture.ViewCenter(), Handle(), _rotation);
         markers.PaintHandle(painter, picture.ViewFrame(),
                             _hand == Hand::Turning ? State::Dragged
                             : isHot                ? State::Hot

@@ -1,6 +1,6 @@
 #include "HandWrittenDialog.h"
 
-#include "Dialog/KivColour.h"
+#include "Dialog/KivColor.h"
 #include "Dialog/KivTextCatalogue.h"
 
 #include <QCheckBox>
@@ -25,11 +25,11 @@ QIcon IconFrom(const char* name)
     return QIcon(QString::fromUtf8(file.ConvertToChar()));
 }
 
-QIcon Swatch(const KivColour& colour)
+QIcon Swatch(const KivColor& color)
 {
     QPixmap pixmap(16, 16);
     pixmap.fill(
-        QColor(static_cast<int>(colour.red), static_cast<int>(colour.green), static_cast<int>(colour.blue)));
+        QColor(static_cast<int>(color.red), static_cast<int>(color.green), static_cast<int>(color.blue)));
     return pixmap;
 }
 
@@ -61,11 +61,11 @@ HandWrittenDialog::HandWrittenDialog()
     AddLabel(rotation, 0, "Snap ang&le");
     AddSpinner(rotation, 0, 3, 15.0, "°");
     AddCheck(rotation, 1, 1, "S&nap automatically", false);
-    QGridLayout* colours = AddGroup("Colors", "I_ColorChooser");
+    QGridLayout* colors = AddGroup("Colors", "I_ColorChooser");
     for (const int row : {0, 1}) {
-        AddLabel(colours, row, row == 0 ? "S&heet background" : "D&etail sheet background");
-        AddColour(colours, row, 3);
-        AddCheck(colours, row, 5, row == 0 ? "Grad&uated" : "Graduated (de&tail sheet)", false);
+        AddLabel(colors, row, row == 0 ? "S&heet background" : "D&etail sheet background");
+        AddColor(colors, row, 3);
+        AddCheck(colors, row, 5, row == 0 ? "Grad&uated" : "Graduated (de&tail sheet)", false);
     }
     QGridLayout* tree = AddGroup("Tree", "I_Formula");
     AddCheck(tree, 0, 1, "Display para&meters", true);
@@ -139,12 +139,12 @@ void HandWrittenDialog::AddSpinner(QGridLayout* grid, int row, int column, doubl
     grid->addWidget(spinner, row, column);
 }
 
-void HandWrittenDialog::AddColour(QGridLayout* grid, int row, int column)
+void HandWrittenDialog::AddColor(QGridLayout* grid, int row, int column)
 {
     AddLock(grid, row, column);
     auto* combo = new QComboBox;
-    for (const KivNamedColour& named : KivColourPalette())
-        combo->addItem(Swatch(named.colour), QString::fromUtf8(KivColourName(named.colour).ConvertToChar()));
+    for (const KivNamedColor& named : KivColorPalette())
+        combo->addItem(Swatch(named.color), QString::fromUtf8(KivColorName(named.color).ConvertToChar()));
     combo->addItem("More colors…");
     combo->setToolTip("Background of drawing sheets");
     combo->setAccessibleName("Sheet background");

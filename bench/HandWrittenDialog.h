@@ -16,7 +16,7 @@ private:
     void AddLock(QGridLayout* grid, int row, int column);
     void AddCheck(QGridLayout* grid, int row, int column, const char* title, bool on);
     void AddSpinner(QGridLayout* grid, int row, int column, double value, const char* suffix);
-    void AddColour(QGridLayout* grid, int row, int column);
+    void AddColor(QGridLayout* grid, int row, int column);
     void AddLabel(QGridLayout* grid, int row, const char* title);
 
     class QVBoxLayout* _page;

@@ -88,12 +88,12 @@ public:
     void Visu3DUIModify() override;
     void CpltModify() override;
 
-    // A packed colour 0xRRGGBB and its components. Nothing happens when an output is null.
+    // A packed color 0xRRGGBB and its components. Nothing happens when an output is null.
     static void GetRGB(unsigned int packed, unsigned int* r, unsigned int* g, unsigned int* b);
     static void SetRGB(unsigned int* packed, unsigned int r, unsigned int g, unsigned int b);
 
 protected:
-    // The packed colour of what has none of its own.
+    // The packed color of what has none of its own.
     virtual unsigned int GetDefaultColor() = 0;
 
 private:

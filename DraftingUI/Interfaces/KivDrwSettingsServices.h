@@ -8,7 +8,7 @@ class KivDrwLockComboColor;
 class KivDrwLockSpinner;
 
 // Moves values between settings and lock-aware controls. Each operation refuses by E_FAIL and changes nothing
-// then: without a control, for a command that is not the control that it is asked of, for a colour component
+// then: without a control, for a command that is not the control that it is asked of, for a color component
 // outside 0 to 255.
 class KivDrwSettingsServices {
 public:

@@ -39,7 +39,7 @@ public:
         std::erase_if(_items, [&](const T&) { return !kept[position++]; });
     }
 
-    // Sorts so that compare(a, b) > 0 never holds for neighbours. The comparison may be no ordering at all
+    // Sorts so that compare(a, b) > 0 never holds for neighbors. The comparison may be no ordering at all
     // (one that never answers 0, say): a merge cannot overrun, whatever it is told, where std::sort can.
     void QuickSort(Comparison compare)
     {

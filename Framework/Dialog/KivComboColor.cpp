@@ -4,16 +4,16 @@ KivComboColor::KivComboColor(KivDialog* parent, const KivString& name, unsigned 
                              unsigned int green, unsigned int blue, int, int, int)
     : KivClass(parent, name, style)
 {
-    for (const KivNamedColour& named : KivColourPalette()) SetLine(KivColourName(named.colour));
+    for (const KivNamedColor& named : KivColorPalette()) SetLine(KivColorName(named.color));
     SetSelectedColor(red, green, blue);
 }
 
 int KivComboColor::GetSelectedColor(unsigned int* red, unsigned int* green, unsigned int* blue) const
 {
     if (!red || !green || !blue) return 0;
-    // The line that is chosen is the colour: a user's choice changes the line.
+    // The line that is chosen is the color: a user's choice changes the line.
     const auto line = static_cast<std::size_t>(GetSelect());
-    const KivColour chosen = line < KivColourPalette().size() ? KivColourPalette()[line].colour : _colour;
+    const KivColor chosen = line < KivColorPalette().size() ? KivColorPalette()[line].color : _color;
     *red = chosen.red;
     *green = chosen.green;
     *blue = chosen.blue;
@@ -24,21 +24,20 @@ int KivComboColor::GetSelectedColor(unsigned int* red, unsigned int* green, unsi
                                     KivUnicodeString* name) const
 {
     if (!name || !GetSelectedColor(red, green, blue)) return 0;
-    *name = KivColourName({*red, *green, *blue});
+    *name = KivColorName({*red, *green, *blue});
     return 1;
 }
 
 void KivComboColor::SetSelectedColor(unsigned int red, unsigned int green, unsigned int blue)
 {
-    _colour = {red, green, blue};
-    const auto palette = KivColourPalette();
+    _color = {red, green, blue};
+    const auto palette = KivColorPalette();
     int line = 0;
-    for (const KivNamedColour& named : palette) {
-        if (named.colour == _colour) break;
+    for (const KivNamedColor& named : palette) {
+        if (named.color == _color) break;
         ++line;
     }
     const int own = static_cast<int>(palette.size());
-    if (line == own)
-        SetLine(KivColourName(_colour), own, GetLineCount() > own ? Mode::Replace : Mode::Insert);
+    if (line == own) SetLine(KivColorName(_color), own, GetLineCount() > own ? Mode::Replace : Mode::Insert);
     SetSelect(line);
 }

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "Dialog/KivColour.h"
+#include "Dialog/KivColor.h"
 #include "Dialog/KivDlgCombo.h"
 
-// A combo of colours: the palette's, and the one that is selected if it is none of them.
+// A combo of colors: the palette's, and the one that is selected if it is none of them.
 class KivComboColor : public KivClass<KivComboColor, KivDlgCombo> {
 public:
     static constexpr const char* Name = "KivComboColor";
 
-    // Starts on the colour given. The flag and the last two arguments are the framework's and have to be 0.
+    // Starts on the color given. The flag and the last two arguments are the framework's and have to be 0.
     KivComboColor(KivDialog* parent, const KivString& name, unsigned long style, unsigned int red,
                   unsigned int green, unsigned int blue, int flag, int reserved1, int reserved2);
 
@@ -22,5 +22,5 @@ public:
     void SetSelectedColor(unsigned int red, unsigned int green, unsigned int blue);
 
 private:
-    KivColour _colour;
+    KivColor _color;
 };

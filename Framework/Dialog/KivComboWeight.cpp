@@ -6,11 +6,11 @@ KivComboWeight::KivComboWeight(KivDialog* parent, const KivString& name, unsigne
                                int)
     : KivClass(parent, name, style)
 {
-    for (const double thickness : kMillimetres) SetLine(KivPrintNumber(thickness, "%g", 2) + " mm");
+    for (const double thickness : kMillimeters) SetLine(KivPrintNumber(thickness, "%g", 2) + " mm");
     SetSelect(0U);
 }
 
 void KivComboWeight::SetSelect(unsigned int weight)
 {
-    if (weight < kMillimetres.size()) KivDlgCombo::SetSelect(static_cast<int>(weight));
+    if (weight < kMillimeters.size()) KivDlgCombo::SetSelect(static_cast<int>(weight));
 }

@@ -8,8 +8,8 @@
 class KivComboWeight : public KivClass<KivComboWeight, KivDlgCombo> {
 public:
     static constexpr const char* Name = "KivComboWeight";
-    // Thickness of each weight in millimetres.
-    static constexpr std::array<double, 7> kMillimetres = {0.1, 0.35, 0.7, 1.05, 1.4, 1.75, 2.1};
+    // Thickness of each weight in millimeters.
+    static constexpr std::array<double, 7> kMillimeters = {0.1, 0.35, 0.7, 1.05, 1.4, 1.75, 2.1};
 
     // The last two arguments are the framework's.
     KivComboWeight(KivDialog* parent, const KivString& name, unsigned long style, unsigned int variant,

@@ -15,16 +15,16 @@ inline constexpr unsigned long KivDlgHidden = 1;
 inline constexpr unsigned long KivDlgShown = 2;
 inline constexpr unsigned long KivDlgReserved = 4;
 
-// How an object is attached to its grid cell: a set of sides and centres.
+// How an object is attached to its grid cell: a set of sides and centers.
 inline constexpr unsigned int KivDlgAttachTop = 2;
 inline constexpr unsigned int KivDlgAttachRight = 4;
 inline constexpr unsigned int KivDlgAttachLeft = 8;
 inline constexpr unsigned int KivDlgAttachBottom = 16;
-inline constexpr unsigned int KivDlgCentreHorizontally = 32;
-inline constexpr unsigned int KivDlgCentreVertically = 64;
+inline constexpr unsigned int KivDlgCenterHorizontally = 32;
+inline constexpr unsigned int KivDlgCenterVertically = 64;
 inline constexpr unsigned int KivDlgAttachAllSides = 30; // fills its cell
-inline constexpr unsigned int KivDlgAttachAllSidesCentred = 126;
-inline constexpr unsigned int KivDlgAttachLeftCentred = 88; // at the left of its cell, vertically centred
+inline constexpr unsigned int KivDlgAttachAllSidesCentered = 126;
+inline constexpr unsigned int KivDlgAttachLeftCentered = 88; // at the left of its cell, vertically centered
 
 // Style of a frame whose children are placed by grid constraints.
 inline constexpr unsigned long KivDlgGridLayout = 0x80001;

@@ -1,6 +1,6 @@
 #include "Dialog/KivDlgLabel.h"
 
-void KivDlgLabel::SetLabelledControl(KivDialog* control)
+void KivDlgLabel::SetLabeledControl(KivDialog* control)
 {
     if (KivDialog* before = _control.Get(); before && before->GetLabel() == this) before->_label = nullptr;
     _control = control;
@@ -8,13 +8,13 @@ void KivDlgLabel::SetLabelledControl(KivDialog* control)
     Changed();
 }
 
-void KivDlgLabel::SetGreysWithControl(bool greys)
+void KivDlgLabel::SetGraysWithControl(bool grays)
 {
-    _greysWithControl = greys;
+    _graysWithControl = grays;
     Changed();
 }
 
 bool KivDlgLabel::IsEnabled() const
 {
-    return KivDialog::IsEnabled() && (!_greysWithControl || !_control || _control->IsEnabled());
+    return KivDialog::IsEnabled() && (!_graysWithControl || !_control || _control->IsEnabled());
 }

@@ -8,15 +8,15 @@ public:
     static constexpr const char* Name = "KivDlgLabel";
     using KivClass::KivClass;
 
-    // Ties the label to the control that it names: it greys with it, and its keyboard letter leads there.
-    void SetLabelledControl(KivDialog* control);
-    KivDialog* GetLabelledControl() const { return _control.Get(); }
-    // Whether it greys with its control: a label does until its page says otherwise.
-    void SetGreysWithControl(bool greys);
+    // Ties the label to the control that it names: it grays with it, and its keyboard letter leads there.
+    void SetLabeledControl(KivDialog* control);
+    KivDialog* GetLabeledControl() const { return _control.Get(); }
+    // Whether it grays with its control: a label does until its page says otherwise.
+    void SetGraysWithControl(bool grays);
 
     bool IsEnabled() const override;
 
 private:
     KivWeakPtr<KivDialog> _control;
-    bool _greysWithControl = true;
+    bool _graysWithControl = true;
 };

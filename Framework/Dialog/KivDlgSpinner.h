@@ -2,7 +2,7 @@
 
 #include "Dialog/KivDlgControl.h"
 
-// A field for a number with arrows. Lengths are kept in metres and angles in radians, whatever unit is shown.
+// A field for a number with arrows. Lengths are kept in meters and angles in radians, whatever unit is shown.
 class KivDlgSpinner : public KivClass<KivDlgSpinner, KivDlgControl> {
 public:
     static constexpr const char* Name = "KivDlgSpinner";

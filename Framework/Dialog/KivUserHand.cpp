@@ -82,16 +82,16 @@ KivHandAnswer KivUserHand::Choose(KivDlgCombo& combo, int line)
     return Done();
 }
 
-KivHandAnswer KivUserHand::ChooseColour(KivComboColor& combo, unsigned int red, unsigned int green,
-                                        unsigned int blue)
+KivHandAnswer KivUserHand::ChooseColor(KivComboColor& combo, unsigned int red, unsigned int green,
+                                       unsigned int blue)
 {
     const KivHandAnswer reach = Reach(combo);
     if (!reach) return reach;
     if (red > 255 || green > 255 || blue > 255)
         return Refused(KivTextCatalogue::FrameworkText("HandNoSuchLine"));
-    KivColour before;
+    KivColor before;
     combo.GetSelectedColor(&before.red, &before.green, &before.blue);
-    if (before == KivColour{red, green, blue}) return Done();
+    if (before == KivColor{red, green, blue}) return Done();
     combo.SetSelectedColor(red, green, blue);
     combo.SetSelect(combo.GetSelect(), 1);
     return Done();

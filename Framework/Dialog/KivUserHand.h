@@ -36,7 +36,7 @@ KivHandAnswer CloseWindow(KivDlgDialog& window);
 // may change a setting does not depend on another one.
 KivHandAnswer Press(KivDlgLock& lock);
 KivHandAnswer Choose(KivDlgCombo& combo, int line);
-KivHandAnswer ChooseColour(KivComboColor& combo, unsigned int red, unsigned int green, unsigned int blue);
+KivHandAnswer ChooseColor(KivComboColor& combo, unsigned int red, unsigned int green, unsigned int blue);
 KivHandAnswer Type(KivDlgEditor& editor, const KivUnicodeString& text);
 // Text typed into a spinner and committed.
 KivHandAnswer Type(KivDlgSpinner& spinner, const KivUnicodeString& text);

@@ -4,7 +4,7 @@
 // a control answers that has no magnitude of its own to answer.
 enum KivDlgMagnitude : int {
     KivDlgMagnitudeNone = 0,    // a plain number
-    KivDlgMagnitudeLength = 11, // stored in metres
+    KivDlgMagnitudeLength = 11, // stored in meters
     KivDlgMagnitudeAngle = 12,  // stored in radians
     KivDlgMagnitudeTime = 13,   // stored in seconds
 };
@@ -15,10 +15,10 @@ enum KivDlgUnit : int {
     KivDlgUnitRadian = 11,
     KivDlgUnitDegree = 12,
     KivDlgUnitGrade = 13,
-    KivDlgUnitMetre = 41,
-    KivDlgUnitMillimetre = 42,
-    KivDlgUnitCentimetre = 43,
-    KivDlgUnitKilometre = 44,
+    KivDlgUnitMeter = 41,
+    KivDlgUnitMillimeter = 42,
+    KivDlgUnitCentimeter = 43,
+    KivDlgUnitKilometer = 44,
     KivDlgUnitInch = 45,
     KivDlgUnitFoot = 46,
     KivDlgUnitFeetInchOver64 = 47,

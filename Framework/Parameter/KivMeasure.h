@@ -3,7 +3,7 @@
 #include "Base/KivUnicodeString.h"
 #include "Parameter/KivDlgUnit.h"
 
-// Lengths, angles and plain numbers as a person reads and types them. Stored values are metres, radians and
+// Lengths, angles and plain numbers as a person reads and types them. Stored values are meters, radians and
 // seconds. The locale of the process has no influence.
 class KivMeasure {
 public:

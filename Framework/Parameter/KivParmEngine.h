@@ -8,7 +8,7 @@
 #include <vector>
 
 // The parameter settings of the process: its magnitudes and the units that the user has chosen for them. A
-// start has millimetres and degrees. Used from the thread of the dialogs only.
+// start has millimeters and degrees. Used from the thread of the dialogs only.
 class KivParmEngine {
 public:
     using Listener = std::function<void(const KivParmMagnitude&)>;

@@ -3,7 +3,7 @@
 #include "Base/KivResult.h"
 
 // The general settings of a drafting application, as other applications read them. Switches are 0 or 1,
-// lengths millimetres, angles degrees, colour components 0 to 255. Every accessor answers S_OK.
+// lengths millimeters, angles degrees, color components 0 to 255. Every accessor answers S_OK.
 class KivDraftingSettings {
 public:
     virtual ~KivDraftingSettings() = default;

@@ -4,7 +4,7 @@
 #include "Command/KivCallbackManager.h"
 
 // The settings of a sketcher, which it reads and writes and whose changes it is told. Switches are 0 or 1,
-// lengths millimetres, colour components 0 to 255. A setter stores a value that is fit and, when notify is
+// lengths millimeters, color components 0 to 255. A setter stores a value that is fit and, when notify is
 // not zero, tells the listeners of its kind of event.
 class KivSketcherSettings {
 public:

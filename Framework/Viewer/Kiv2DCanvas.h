@@ -6,7 +6,7 @@ class Kiv2DPointRep;
 class Kiv2DPolylineRep;
 class Kiv2DTextRep;
 
-// Who draws representations: a native view. Colours, widths and fonts are its own, so that they follow the
+// Who draws representations: a native view. Colors, widths and fonts are its own, so that they follow the
 // theme.
 class Kiv2DCanvas {
 public:

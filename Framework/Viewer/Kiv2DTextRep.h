@@ -4,7 +4,7 @@
 #include "Viewer/Kiv2DRepresentation.h"
 
 // Which point of a text lies at its position. Row by row: its view counts on that.
-enum class Kiv2DAnchor { TopLeft, Top, TopRight, Left, Centre, Right, BottomLeft, Bottom, BottomRight };
+enum class Kiv2DAnchor { TopLeft, Top, TopRight, Left, Center, Right, BottomLeft, Bottom, BottomRight };
 
 // One line of text. It is as large at every scale of the world as the view's font; where it would leave the
 // picture it is moved in, where it is too long it is shortened.

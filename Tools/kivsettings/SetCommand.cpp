@@ -22,7 +22,7 @@ constexpr Example kExamples[] = {
     {"kivsettings set Ruler=1", "shows the rulers"},
     {"kivsettings set Drw_settings_GridPrimarySpacing=25 Drw_settings_GridSecondaryStep=5",
      "both in one save"},
-    {"kivsettings set Drw_settings_ColorSmartPick=0x436655", "a packed colour"},
+    {"kivsettings set Drw_settings_ColorSmartPick=0x436655", "a packed color"},
     {"kivsettings set --layer /etc/kiv/site Ruler=1", "what a site starts with; users may change it"},
 };
 

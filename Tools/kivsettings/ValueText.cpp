@@ -21,7 +21,7 @@ std::string Number(double number)
 }
 
 // The six digits of "#RRGGBB" or "0xRRGGBB" as a plain number, anything else as it is.
-std::string PlainColour(std::string_view typed)
+std::string PlainColor(std::string_view typed)
 {
     std::string_view digits = typed;
     if (digits.starts_with('#'))
@@ -30,10 +30,10 @@ std::string PlainColour(std::string_view typed)
         digits.remove_prefix(2);
     else
         return std::string(typed);
-    unsigned int colour = 0;
-    const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), colour, 16);
-    const bool isColour = digits.size() == 6 && read.ptr == digits.data() + digits.size();
-    return isColour ? std::to_string(colour) : std::string(typed);
+    unsigned int color = 0;
+    const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), color, 16);
+    const bool isColor = digits.size() == 6 && read.ptr == digits.data() + digits.size();
+    return isColor ? std::to_string(color) : std::string(typed);
 }
 
 } // namespace
@@ -68,7 +68,7 @@ std::string ReadTyped(const KivDrwRow& row, std::string_view typed, KivSettingVa
     const bool isUnsigned = std::holds_alternative<unsigned int>(fallback);
     KivSettingValue read;
     const std::string wrong =
-        ReadTyped(KivSettingTypeWord(fallback), isUnsigned ? PlainColour(typed) : std::string(typed), read);
+        ReadTyped(KivSettingTypeWord(fallback), isUnsigned ? PlainColor(typed) : std::string(typed), read);
     if (!wrong.empty()) return wrong + " (" + KivSettingTypeWord(fallback) + ")";
     const std::string outside = WrongWith(row, read);
     if (outside.empty()) value = read;

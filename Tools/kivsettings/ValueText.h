@@ -13,7 +13,7 @@ KivSettingValue SettingValueOf(const KivDrwValue& value);
 // with a quotation mark; then it is quoted as in a settings file.
 std::string ShownValue(const KivSettingValue& value);
 
-// Reads what a person typed for a setting; packed colours also as 0xRRGGBB or #RRGGBB. Empty on success, else
+// Reads what a person typed for a setting; packed colors also as 0xRRGGBB or #RRGGBB. Empty on success, else
 // what is wrong with it: its type or its range.
 std::string ReadTyped(const KivDrwRow& row, std::string_view typed, KivSettingValue& value);
 

@@ -29,7 +29,7 @@ TEST_F(NativeChoices, ExcludeEachOtherOnlyAmongTheirOwn)
     TestHand::ClickIndicator(Radio(1));
     EXPECT_EQ(Shown(), "-x-1") << "a second click takes nothing back";
     EXPECT_EQ(tree.otherChoices[1]->GetState(), KivDlgChecked)
-        << "natively a neighbour, but of another choice";
+        << "natively a neighbor, but of another choice";
     tree.choices[2]->SetState(KivDlgChecked, 0);
     EXPECT_EQ(Shown(), "--x2");
     tree.choices[2]->SetState(KivDlgUnchecked, 0);

@@ -1,4 +1,4 @@
-#include "NativeColourCombo.h"
+#include "NativeColorCombo.h"
 #include "NativeFixture.h"
 #include "NativeSpinner.h"
 #include "TestHand.h"
@@ -61,7 +61,7 @@ TEST_F(NativeControls, FollowTheTree)
 
 TEST_F(NativeControls, NeitherLockedNorDependentOnesCanBeChanged)
 {
-    for (KivDialog* node : Nodes{tree.snap, tree.angle, tree.vertical, tree.lockedColour}) {
+    for (KivDialog* node : Nodes{tree.snap, tree.angle, tree.vertical, tree.lockedColor}) {
         QWidget* widget = WidgetOf(node);
         EXPECT_FALSE(widget->isEnabled());
         TestHand::ClickIndicator(widget);
@@ -76,10 +76,10 @@ TEST_F(NativeControls, NeitherLockedNorDependentOnesCanBeChanged)
     EXPECT_DOUBLE_EQ(tree.angle->GetValue(), 0.26179938779914941);
     EXPECT_DOUBLE_EQ(tree.vertical->GetValue(), 0.1);
     unsigned int red = 0, green = 0, blue = 0;
-    tree.lockedColour->GetSelectedColor(&red, &green, &blue);
+    tree.lockedColor->GetSelectedColor(&red, &green, &blue);
     EXPECT_EQ(blue, 56U);
 
-    // Unlocking is the tree's alone, and reaches what was grey; a locked group greys what is free.
+    // Unlocking is the tree's alone, and reaches what was gray; a locked group grays what is free.
     LockOf(tree.snap)->SetInfo(KivSettingInfo());
     EXPECT_TRUE(WidgetOf(tree.snap)->isEnabled());
     tree.grid->SetSensitivity(KivDlgDisabled);
@@ -88,7 +88,7 @@ TEST_F(NativeControls, NeitherLockedNorDependentOnesCanBeChanged)
     EXPECT_FALSE(WidgetOf(tree.show)->toolTip().isEmpty());
 }
 
-TEST_F(NativeControls, TheReasonIsToldWhereThePointerRestsOnAGreyControl)
+TEST_F(NativeControls, TheReasonIsToldWhereThePointerRestsOnAGrayControl)
 {
     area->ensureWidgetVisible(WidgetOf(tree.vertical));
     QWidget* line = WidgetOf(tree.vertical)->findChild<QLineEdit*>();
@@ -183,9 +183,9 @@ TEST_F(NativeControls, TheWheelScrollsThePageOverFieldsThatNobodyChose)
     EXPECT_EQ(tree.direction->GetSelect(), 1);
 }
 
-TEST_F(NativeControls, AnyColourCanBeMixedAndIsSpoken)
+TEST_F(NativeControls, AnyColorCanBeMixedAndIsSpoken)
 {
-    auto* combo = static_cast<NativeColourCombo*>(WidgetOf(tree.background));
+    auto* combo = static_cast<NativeColorCombo*>(WidgetOf(tree.background));
     EXPECT_EQ(combo->accessibleName(), "Sheet background: White (255, 255, 255)");
     EXPECT_EQ(combo->count(), tree.background->GetLineCount() + 1);
     QColorDialog* mixer = combo->OpenMixer();

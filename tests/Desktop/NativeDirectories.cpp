@@ -58,7 +58,7 @@ TEST_F(NativeDirectories, AMissingOneIsKeptAndMarkedAndFollowsTheDisk)
     QApplication::sendEvent(area.get(), &activated);
     EXPECT_NE(field->Complaint(), "");
     tree.file->SetSensitivity(KivDlgDisabled);
-    EXPECT_NE(field->accessibleDescription(), field->Complaint()) << "why it is grey comes first";
+    EXPECT_NE(field->accessibleDescription(), field->Complaint()) << "why it is gray comes first";
     EXPECT_FALSE(Button()->isEnabled());
     EXPECT_EQ(Button()->toolTip(), field->toolTip());
     EXPECT_EQ(Button()->accessibleDescription(), field->accessibleDescription());

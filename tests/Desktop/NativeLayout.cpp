@@ -39,14 +39,14 @@ TEST_F(NativeLayout, LabelsNameTheirFields)
                                                         {tree.horizontal, "Primary spacing"},
                                                         {tree.angle, "Snap angle"},
                                                         {tree.direction, "Gradient direction"},
-                                                        {tree.colours, "Colours & lines"}};
+                                                        {tree.colors, "Colors & lines"}};
     for (const auto& [node, name] : names) EXPECT_EQ(WidgetOf(node)->accessibleName(), name);
     EXPECT_EQ(WidgetOf(tree.show)->whatsThis(),
               "Draws the grid on the sheet, below everything else. It is never printed.");
     // The letter of a label leads to its field.
     QTest::keyClick(area.get(), Qt::Key_P, Qt::AltModifier);
     EXPECT_EQ(QApplication::focusWidget(), WidgetOf(tree.horizontal));
-    // It greys with its field.
+    // It grays with its field.
     tree.horizontal->SetSensitivity(KivDlgDisabled);
     EXPECT_FALSE(WidgetOf(tree.horizontal->GetLabel())->isEnabled());
 }

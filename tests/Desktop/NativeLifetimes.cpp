@@ -17,7 +17,7 @@ public:
 
 TEST_F(NativeLifetimes, ANodeMayGoFirst)
 {
-    const QPointer<QWidget> spinner = WidgetOf(tree.horizontal), group = WidgetOf(tree.colours);
+    const QPointer<QWidget> spinner = WidgetOf(tree.horizontal), group = WidgetOf(tree.colors);
     QWidget* const label = WidgetOf(tree.horizontal->GetLabel());
     spinner->setFocus();
     QTest::keyClicks(spinner, "7");
@@ -26,7 +26,7 @@ TEST_F(NativeLifetimes, ANodeMayGoFirst)
     EXPECT_FALSE(spinner->isVisible());
     QTest::keyClick(spinner, Qt::Key_Return);
     EXPECT_TRUE(label->isEnabled());
-    delete tree.colours;
+    delete tree.colors;
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(spinner);
     EXPECT_FALSE(group);

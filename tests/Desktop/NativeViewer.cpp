@@ -103,7 +103,7 @@ TEST_F(NativeViewers, ScreenReadersFindASlider)
     EXPECT_EQ(graph->level, 11);
 }
 
-TEST_F(NativeViewers, ALockedOneIsGreyAndSaysWhyAndDoesNotMove)
+TEST_F(NativeViewers, ALockedOneIsGrayAndSaysWhyAndDoesNotMove)
 {
     const QImage free = Take();
     KivSettingInfo info;
@@ -173,9 +173,9 @@ TEST_F(NativeViewers, ThePictureIsSharpAndFollowsPointAndTheme)
         // Across the axis there is surface and ink, and nothing between.
         int inked = 0;
         for (int x = 5 * scale; x < 20 * scale; ++x) {
-            const QColor colour = image.pixelColor(x, PlaceOf({0.0, 15.0}).y() * scale);
-            EXPECT_TRUE(colour == base || colour == ink) << scale << " at " << x;
-            inked += colour == ink;
+            const QColor color = image.pixelColor(x, PlaceOf({0.0, 15.0}).y() * scale);
+            EXPECT_TRUE(color == base || color == ink) << scale << " at " << x;
+            inked += color == ink;
         }
         EXPECT_EQ(inked, scale);
         graph->Show(13);

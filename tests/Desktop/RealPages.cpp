@@ -128,7 +128,7 @@ TEST_F(RealPages, NameAndExplainEveryControl)
             EXPECT_NE(widget->accessibleName(), widget->objectName()) << name;
             if (const auto* label = dynamic_cast<const QLabel*>(widget)) {
                 // Headings and pictures name nothing.
-                const bool names = static_cast<const KivDlgLabel*>(node)->GetLabelledControl();
+                const bool names = static_cast<const KivDlgLabel*>(node)->GetLabeledControl();
                 EXPECT_EQ(label->buddy() != nullptr, names) << name;
                 continue;
             }

@@ -59,7 +59,7 @@ protected:
     DraftingMemory memory{directory.filePath("desktop.ini")};
 };
 
-TEST_F(SheetCommands, EntriesGreyWithTheReasonAndComeBack)
+TEST_F(SheetCommands, EntriesGrayWithTheReasonAndComeBack)
 {
     const Window window(settings, memory);
     for (const auto& [text, command] : kEntries) {
@@ -131,12 +131,12 @@ TEST_F(SheetCommands, StartAsTheSettingsSay)
         {"DrwOnlyUserDefault", {"Style"}},
         {"DrwAllowUserDefault", {"Set as Default", "Reset Defaults"}},
         {"DrwLockBackgroundView", {"Sheet Background"}}};
-    for (const auto& [key, greyed] : rules) {
+    for (const auto& [key, grayed] : rules) {
         const int on = 1;
         box.Reopen().WriteSetting(key, &on, 1, 0);
         const Window window(settings, memory);
         for (const auto& [text, command] : kEntries)
-            EXPECT_NE(window.Entry(text)->isEnabled(), greyed.contains(text)) << key << " " << text;
+            EXPECT_NE(window.Entry(text)->isEnabled(), grayed.contains(text)) << key << " " << text;
     }
 }
 

@@ -177,7 +177,7 @@ TEST_F(SheetProgram, WhatOthersSaveShowsWhileUncommittedChangesStayOnTop)
     KivSettingRepository::ForgetAll();
     int stored = -1;
     KivSettingRepository::GetRepository("DraftingOptions")->ReadSetting("RotSnapAuto", &stored, 1);
-    EXPECT_EQ(stored, !mine) << "cancelled: what the other program saved is left";
+    EXPECT_EQ(stored, !mine) << "canceled: what the other program saved is left";
 }
 
 TEST_F(SheetProgram, TheWelcomeChangesTheSheetUnlessItIsHidden)

@@ -36,10 +36,10 @@ protected:
         repository->WriteSetting(key.name, &value, 1, 0);
     }
     QImage Grab() const { return view->grab().toImage(); }
-    // How many points of the sketch have a colour.
-    int Count(QRgb colour) const
+    // How many points of the sketch have a color.
+    int Count(QRgb color) const
     {
-        return TestPicture::Count(Grab().copy(view->SketchFrame().toAlignedRect()), QColor(colour));
+        return TestPicture::Count(Grab().copy(view->SketchFrame().toAlignedRect()), QColor(color));
     }
 
     KivSettingsSandbox box;
@@ -183,7 +183,7 @@ TEST_F(SheetSketches, ItCoversNothingElse)
             const QRectF sketch = view->SketchFrame();
             EXPECT_TRUE(inWindow(layout.border).contains(sketch)) << format.name << isLandscape;
             for (const QRectF& other :
-                 {layout.titleBlock, layout.detail, layout.ViewFrame().translated(layout.viewCentre)})
+                 {layout.titleBlock, layout.detail, layout.ViewFrame().translated(layout.viewCenter)})
                 EXPECT_FALSE(inWindow(other).intersects(sketch)) << format.name << isLandscape;
         }
 }

@@ -1,7 +1,7 @@
 #include "KivDrwDraftingSettings.h"
 #include "KivDrwKeys.h"
 #include "KivDrwSketcherSettings.h"
-#include "SheetColours.h"
+#include "SheetColors.h"
 #include "SheetGrid.h"
 #include "SheetReaders.h"
 #include "SheetSettings.h"
@@ -90,10 +90,10 @@ TEST(SheetStyles, LinesStandOutOnEverySheet)
             for (const int blue : {0, 255})
                 for (const bool graduated : {false, true}) {
                     const QColor sheet(red, green, blue);
-                    const SheetColours colours(sheet, graduated);
+                    const SheetColors colors(sheet, graduated);
                     for (const QColor& wanted :
                          {sheet, QColor(Qt::red), QColor(Qt::darkBlue), QColor(Qt::gray)})
-                        EXPECT_GE(SheetColours::Contrast(colours.Accent(wanted), sheet), 4.5)
+                        EXPECT_GE(SheetColors::Contrast(colors.Accent(wanted), sheet), 4.5)
                             << sheet.name().toStdString() << wanted.name().toStdString();
                 }
 }

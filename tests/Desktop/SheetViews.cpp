@@ -24,7 +24,7 @@ protected:
         view->show();
     }
     QImage Grab() const { return view->grab().toImage(); }
-    // The colour of a place of the sheet (mm) in a grab.
+    // The color of a place of the sheet (mm) in a grab.
     QColor At(double x, double y) const
     {
         return Grab().pixelColor(view->Camera().ToWindow({x, y}).toPoint());
@@ -32,7 +32,7 @@ protected:
     // Turns the handle of the view around its origin by a drag.
     void Turn(double degrees, Qt::KeyboardModifiers keys = {}) const
     {
-        const QPointF middle = view->Camera().ToWindow(SheetLayout(view->Camera().Sheet()).viewCentre);
+        const QPointF middle = view->Camera().ToWindow(SheetLayout(view->Camera().Sheet()).viewCenter);
         QLineF arm(middle, view->Handle());
         QTest::mousePress(view.get(), Qt::LeftButton, {}, arm.p2().toPoint());
         arm.setAngle(arm.angle() + degrees);
@@ -46,7 +46,7 @@ protected:
     std::unique_ptr<SheetView> view;
 };
 
-TEST_F(SheetViews, ThePictureShowsColourAndGrid)
+TEST_F(SheetViews, ThePictureShowsColorAndGrid)
 {
     readers.parts = 1;
     Show();

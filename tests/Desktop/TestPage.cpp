@@ -32,9 +32,9 @@ KivDlgLabel* TestPage::Label(KivDialog* group, short row, const char* name, cons
     space->SetVisibility(KivDlgReserved);
     space->SetGridConstraints(0, 0, 1, 1, KivDlgAttachAllSides);
     auto* label = new KivDlgLabel(frame, KivString(name) + "_label", 0);
-    label->SetGridConstraints(0, 1, 1, 1, KivDlgAttachLeftCentred);
+    label->SetGridConstraints(0, 1, 1, 1, KivDlgAttachLeftCentered);
     label->SetTitle(title);
-    label->SetLabelledControl(control);
+    label->SetLabeledControl(control);
     return label;
 }
 
@@ -46,7 +46,7 @@ std::array<KivDlgRadioButton*, 3> TestPage::Choice(short column, const char* nam
         auto* made = new KivDlgRadioButton(inner, KivString(name) + std::to_string(line).c_str(), 0);
         made->SetTitle(title);
         made->SetHelp("How points are drawn.");
-        made->SetGridConstraints(line, 0, 1, 1, KivDlgAttachLeftCentred);
+        made->SetGridConstraints(line, 0, 1, 1, KivDlgAttachLeftCentered);
         return made;
     };
     return {button(0, "As in the style"), button(1, "Always a cross"), button(2, "By the kind of element")};
@@ -76,7 +76,7 @@ TestPage::TestPage(KivEditorPage& page)
     row = Row(grid, 3, 2, "editorV", free);
     vertical = Place(row, new KivDlgSpinner(row, "editorV_dialog", 0), "Vertical spacing", "");
     for (KivDlgSpinner* spinner : {horizontal, vertical}) {
-        spinner->SetUnit(KivDlgUnitMillimetre);
+        spinner->SetUnit(KivDlgUnitMillimeter);
         spinner->SetMinMaxStep(0.0, 1.0e12, 0.005, 1);
         spinner->SetVisibleTextWidth(9);
         spinner->SetValue(0.1, 0);
@@ -91,33 +91,33 @@ TestPage::TestPage(KivEditorPage& page)
     angle->SetValue(0.26179938779914941, 0);
     Label(grid, 4, "labelAngle", "Snap &angle:", angle);
 
-    colours = new KivDlgToolsOptionsFrame(frame, "frameColour", "I_ColorChooser");
-    colours->SetGridConstraints(1, 0, 1, 1, KivDlgAttachAllSides);
-    colours->SetTitle("Colours && lines");
-    row = Row(colours, 0, 1, "comboBackground", free);
+    colors = new KivDlgToolsOptionsFrame(frame, "frameColor", "I_ColorChooser");
+    colors->SetGridConstraints(1, 0, 1, 1, KivDlgAttachAllSides);
+    colors->SetTitle("Colors && lines");
+    row = Row(colors, 0, 1, "comboBackground", free);
     background = Place(row, new KivComboColor(row, "comboBackground_dialog", 0, 255, 255, 255, 0, 0, 0),
-                       nullptr, "Colour of the sheet.");
-    Label(colours, 0, "labelBackground", "Sheet &background:", background);
-    row = Row(colours, 1, 1, "comboDetail", LockedInfo("DetailColour"));
-    lockedColour = Place(row, new KivComboColor(row, "comboDetail_dialog", 0, 12, 34, 56, 0, 0, 0), nullptr,
-                         "Colour of detail sheets.");
-    Label(colours, 1, "labelDetail", "D&etail background:", lockedColour);
-    row = Row(colours, 2, 1, "comboType", free);
+                       nullptr, "Color of the sheet.");
+    Label(colors, 0, "labelBackground", "Sheet &background:", background);
+    row = Row(colors, 1, 1, "comboDetail", LockedInfo("DetailColor"));
+    lockedColor = Place(row, new KivComboColor(row, "comboDetail_dialog", 0, 12, 34, 56, 0, 0, 0), nullptr,
+                        "Color of detail sheets.");
+    Label(colors, 1, "labelDetail", "D&etail background:", lockedColor);
+    row = Row(colors, 2, 1, "comboType", free);
     type = Place(row, new KivComboDashed(row, "comboType_dialog", 0, 0, 0), nullptr, "Type of the line.");
     type->AddOtherType("S_DrwBreakLine8", 1);
     type->SetSelect(4U);
-    Label(colours, 2, "labelType", "Line &type:", type);
-    row = Row(colours, 4, 1, "comboDirection", free);
+    Label(colors, 2, "labelType", "Line &type:", type);
+    row = Row(colors, 4, 1, "comboDirection", free);
     direction = Place(row, new KivDlgCombo(row, "comboDirection_dialog", 0), nullptr, "");
     for (const char* line : {"Left to right", "Top to bottom", "Diagonal"}) direction->SetLine(line);
     direction->SetSelect(0);
     // As a label may be tied to the frame that wraps a control.
-    Label(colours, 4, "labelDirection", "Gradient di&rection:", direction->GetParentDialog());
-    row = Row(colours, 5, 1, "editorFile", free);
+    Label(colors, 4, "labelDirection", "Gradient di&rection:", direction->GetParentDialog());
+    row = Row(colors, 5, 1, "editorFile", free);
     file =
         Place(row, new KivDlgEditor(row, "editorFile_dialog", 0), nullptr, "Where symbols are looked for.");
     file->SetText("symbols", 0);
-    Label(colours, 5, "labelFile", "Symbol &file:", file);
+    Label(colors, 5, "labelFile", "Symbol &file:", file);
 
     points = new KivDlgToolsOptionsFrame(frame, "framePoints", "I_DisplayGrid");
     points->SetGridConstraints(2, 0, 1, 1, KivDlgAttachAllSides);

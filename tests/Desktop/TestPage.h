@@ -27,17 +27,17 @@ struct TestPage {
     template <class Control>
     Control* Place(KivDialog* row, Control* control, const char* title, const char* help)
     {
-        control->SetGridConstraints(0, 1, 1, 1, KivDlgAttachLeftCentred);
+        control->SetGridConstraints(0, 1, 1, 1, KivDlgAttachLeftCentered);
         if (title) control->SetTitle(title);
         control->SetHelp(help);
         static_cast<KivDlgLock*>(row->Children().front())->AddAssociatedDialog(control);
         return control;
     }
 
-    KivDlgToolsOptionsFrame *grid, *colours, *points;
+    KivDlgToolsOptionsFrame *grid, *colors, *points;
     KivDlgCheckButton *show, *snap, *distort;
     KivDlgSpinner *horizontal, *vertical, *angle;
-    KivComboColor *background, *lockedColour;
+    KivComboColor *background, *lockedColor;
     KivComboDashed* type;
     KivDlgCombo* direction;
     KivDlgEditor* file;

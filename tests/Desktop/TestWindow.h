@@ -13,14 +13,14 @@ public:
     explicit TestWindow(KivDialog* parent) : KivClass(parent, "PointWindow")
     {
         spinner = new KivDlgSpinner(this, "pointSize", 0);
-        spinner->SetUnit(KivDlgUnitMillimetre);
+        spinner->SetUnit(KivDlgUnitMillimeter);
         spinner->SetMinMaxStep(0.001, 1.0, 0.001, 1);
         spinner->SetTitle("Size");
         spinner->SetValue(0.003, 0);
         spinner->SetLongHelp("How large points are, on paper.");
         check = new KivDlgCheckButton(this, "pointFill", 0);
         check->SetTitle("&Fill points");
-        check->SetGridConstraints(1, 0, 1, 1, KivDlgAttachLeftCentred);
+        check->SetGridConstraints(1, 0, 1, 1, KivDlgAttachLeftCentered);
         for (KivNotification* way : {GetDiaCloseNotification(), GetWindCloseNotification()})
             AddAnalyseNotificationCB(this, way, &TestWindow::Closed, nullptr);
         SetVisibility(KivDlgShown);

@@ -42,15 +42,15 @@ TEST_F(GeometryPage, TellsTheSketcherOfEachChangeAndOfWhatTakesItBack)
     EXPECT_EQ(Heard(), "geometry 21-255 ");
     tick("checkPickCoincid_dialog");
     EXPECT_EQ(Heard(), "completion 20-255 ");
-    EXPECT_TRUE(KivUserHand::ChooseColour(Node<KivComboColor>("comboIncons_dialog"), 1, 2, 3));
+    EXPECT_TRUE(KivUserHand::ChooseColor(Node<KivComboColor>("comboIncons_dialog"), 1, 2, 3));
     EXPECT_EQ(Heard(), "geometry 20-1 ");
     tick("checkCstHori_dialog");
     EXPECT_TRUE(KivUserHand::Turn(Node<KivDlgSpinner>("spinnerCstRefSize_dialog"), 1));
-    EXPECT_TRUE(KivUserHand::ChooseColour(Node<KivComboColor>("comboCstColor_dialog"), 1, 2, 3));
-    EXPECT_EQ(Heard(), "visualisation 20-1 visualisation 20-1 visualisation 20-1 ");
+    EXPECT_TRUE(KivUserHand::ChooseColor(Node<KivComboColor>("comboCstColor_dialog"), 1, 2, 3));
+    EXPECT_EQ(Heard(), "visualization 20-1 visualization 20-1 visualization 20-1 ");
     tick("checkEndPtsDupli_dialog");
     EXPECT_EQ(Heard(), "") << "the sketcher does not know this one";
-    const std::string untouched = "visualisation 11-255 geometry 11-255 completion 11-255 ";
+    const std::string untouched = "visualization 11-255 geometry 11-255 completion 11-255 ";
     editor->CancelModification(nullptr);
     EXPECT_EQ(Heard(), untouched);
     EXPECT_TRUE(KivUserHand::Choose(Node<KivDlgRadioButton>("radioDragStandard")));
@@ -84,8 +84,8 @@ TEST_F(GeometryPage, TellsTheSketcherWhatItsOwnSettersTell)
     }
 }
 
-// Each colour by its components, and what is stored then.
-TEST(ColoursOfPages, AreStoredOnlyWithAllComponentsInRange)
+// Each color by its components, and what is stored then.
+TEST(ColorsOfPages, AreStoredOnlyWithAllComponentsInRange)
 {
     const KivSettingsSandbox box;
     KivDrwOptGeoFrm geometry(nullptr, "DrwSet");
@@ -160,7 +160,7 @@ TEST(GenericDrawingPages, BuildTheGroupsThatTheirApplicationHas)
         page->Write(page, nullptr, nullptr);
         EXPECT_EQ(page->Children().size(), groups);
     }
-    // All zeros: what depends on a switch is greyed, and no padlock is closed.
+    // All zeros: what depends on a switch is grayed, and no padlock is closed.
     for (const auto& [page, name, sensitivity] :
          {std::tuple<KivPageFrame*, const char*, unsigned long>{&general, "checkGrid", KivDlgEnabled},
           {&geometry, "checkCstVisu", KivDlgEnabled},

@@ -118,10 +118,10 @@ TEST_F(LockAwareControls, AnswerTheirFallbacksWithoutAControl)
     check->SetState(KivDlgChecked, 1);
     EXPECT_EQ(check->GetChkBModifyNotification(), nullptr);
     EXPECT_EQ(check->GetChkBDoubleClickNotification(), nullptr);
-    auto* colour = static_cast<KivDrwLockComboColor*>(rows[2]);
+    auto* color = static_cast<KivDrwLockComboColor*>(rows[2]);
     unsigned int r = 7, g = 7, b = 7;
-    EXPECT_EQ(colour->GetCombo(), nullptr);
-    EXPECT_EQ(colour->GetSelectedColor(&r, &g, &b), 0);
+    EXPECT_EQ(color->GetCombo(), nullptr);
+    EXPECT_EQ(color->GetSelectedColor(&r, &g, &b), 0);
     EXPECT_EQ(r, 7U);
     EXPECT_EQ(static_cast<KivDrwLockComboDashed*>(rows[3])->GetSelect(), 0U);
     EXPECT_EQ(static_cast<KivDrwLockComboWeight*>(rows[4])->GetSelect(), 1U);
@@ -166,7 +166,7 @@ TEST_F(LockAwareControls, FramesAndLabelsKeepTheRowsInLine)
     EXPECT_EQ(odd->GetUnit(), 42);
 }
 
-TEST_F(LockAwareControls, LineTypesColoursAndRangesFollowTheirContracts)
+TEST_F(LockAwareControls, LineTypesColorsAndRangesFollowTheirContracts)
 {
     auto* dashed = new KivDrwLockComboDashed(nullptr, "", page.get(), "dashed", 1, 0UL, 0U);
     dashed->SetSelect(0);
@@ -179,13 +179,13 @@ TEST_F(LockAwareControls, LineTypesColoursAndRangesFollowTheirContracts)
     without->SetSelect(8);
     EXPECT_EQ(without->GetSelect(), 1U) << "there is none";
 
-    auto* colour = new KivDrwLockComboColor(page.get(), "colour", KivSettingInfo());
+    auto* color = new KivDrwLockComboColor(page.get(), "color", KivSettingInfo());
     unsigned int r = 0, g = 0, b = 0;
     KivUnicodeString name;
-    EXPECT_EQ(colour->GetSelectedColor(&r, &g, &b), 1);
+    EXPECT_EQ(color->GetSelectedColor(&r, &g, &b), 1);
     EXPECT_EQ(r & g & b, 255U);
-    colour->SetSelectedColor(255, 0, 0);
-    EXPECT_EQ(colour->GetSelectedColor(&r, &g, &b, &name), 0) << "deliberate";
+    color->SetSelectedColor(255, 0, 0);
+    EXPECT_EQ(color->GetSelectedColor(&r, &g, &b, &name), 0) << "deliberate";
     EXPECT_EQ(name, "Red");
 
     auto* spinner = new KivDrwLockSpinner(page.get(), "spinner", KivSettingInfo(), 0UL);
@@ -203,19 +203,19 @@ TEST_F(LockAwareControls, ServicesRefuseWhatIsNotTheirs)
     using Services = KivDrwSettingsServices;
     auto* check = new KivDrwLockCheckButton(page.get(), "check", KivSettingInfo(), 0UL);
     auto* spinner = new KivDrwLockSpinner(page.get(), "spinner", KivSettingInfo(), 0UL);
-    auto* colour = new KivDrwLockComboColor(page.get(), "colour", KivSettingInfo());
+    auto* color = new KivDrwLockComboColor(page.get(), "color", KivSettingInfo());
     unsigned char on = 9;
     double value = 9.0;
     int r = 9, g = 9, b = 9;
     for (KivCommand* stranger : {static_cast<KivCommand*>(nullptr), static_cast<KivCommand*>(check)}) {
         EXPECT_EQ(Services::GetValueFromCheckButton(check, stranger, on), E_FAIL);
         EXPECT_EQ(Services::GetValueFromSpinner(spinner, stranger, 1.0, value), E_FAIL);
-        EXPECT_EQ(Services::GetValueFromComboColor(colour, stranger, r, g, b), E_FAIL);
+        EXPECT_EQ(Services::GetValueFromComboColor(color, stranger, r, g, b), E_FAIL);
     }
     EXPECT_EQ(Services::UpdateCheckButton(nullptr, 1), E_FAIL);
     EXPECT_EQ(Services::UpdateSpinner(nullptr, 1.0), E_FAIL);
-    EXPECT_EQ(Services::UpdateComboColor(colour, 256, 0, 0), E_FAIL);
-    EXPECT_EQ(Services::UpdateComboColor(colour, 0, -1, 0), E_FAIL);
+    EXPECT_EQ(Services::UpdateComboColor(color, 256, 0, 0), E_FAIL);
+    EXPECT_EQ(Services::UpdateComboColor(color, 0, -1, 0), E_FAIL);
     EXPECT_EQ(on + value + r + g + b, 45.0);
 
     EXPECT_EQ(Services::UpdateCheckButton(check, 7), S_OK);
@@ -224,10 +224,10 @@ TEST_F(LockAwareControls, ServicesRefuseWhatIsNotTheirs)
     Services::UpdateSpinner(spinner, 3.5);
     EXPECT_EQ(Services::GetValueFromSpinner(spinner, spinner->GetDialog(), 2.0, value), S_OK);
     EXPECT_EQ(value, 7.0);
-    EXPECT_EQ(Services::GetValueFromComboColor(colour, colour->GetDialog(), r, g, b), S_OK);
+    EXPECT_EQ(Services::GetValueFromComboColor(color, color->GetDialog(), r, g, b), S_OK);
     EXPECT_EQ(r & g & b, 255);
-    SetColorRGB(colour, 1, 2, 3);
-    GetColorRGB(colour, r, g, b);
+    SetColorRGB(color, 1, 2, 3);
+    GetColorRGB(color, r, g, b);
     EXPECT_EQ(r * 100 + g * 10 + b, 123);
     SetColorRGB(static_cast<KivComboColor*>(nullptr), 1, 2, 3);
 }
@@ -235,11 +235,11 @@ TEST_F(LockAwareControls, ServicesRefuseWhatIsNotTheirs)
 TEST_F(LockAwareControls, WeightsAndFieldsAreSelected)
 {
     auto* weight = new KivComboWeight(page.get(), "weight", 0UL, 0U, 0);
-    const double millimetres[] = {0.1, 0.35, 0.7, 1.05, 1.4, 1.75, 2.1};
+    const double millimeters[] = {0.1, 0.35, 0.7, 1.05, 1.4, 1.75, 2.1};
     for (unsigned int index = 0; index < 7; ++index) {
         weight->SetSelect(index);
         SetThicknessMM(weight, 2);
-        EXPECT_EQ(GetThicknessMM(weight), millimetres[index]);
+        EXPECT_EQ(GetThicknessMM(weight), millimeters[index]);
     }
     weight->KivDlgCombo::SetSelect(-1);
     EXPECT_EQ(GetThicknessMM(weight), 0.1);

@@ -107,7 +107,7 @@ TEST_F(RunTimeReaders, SettersStoreWhatIsFitAndNotifyOnlyWhenAsked)
     EXPECT_EQ(Heard(), "");
     sketcher.Visu3DUIModify();
     sketcher.DispatchMultiModify();
-    EXPECT_EQ(Heard(), "visualisation multi ");
+    EXPECT_EQ(Heard(), "visualization multi ");
 }
 
 TEST_F(RunTimeReaders, ConstraintsNeedSomethingToDetect)
@@ -123,7 +123,7 @@ TEST_F(RunTimeReaders, ConstraintsNeedSomethingToDetect)
     for (const int type : {0, 3, 9, 11, -1}) EXPECT_EQ(sketcher.GetValidateCstType(type), 1);
 }
 
-TEST_F(RunTimeReaders, ColoursArePackedByDiagnostic)
+TEST_F(RunTimeReaders, ColorsArePackedByDiagnostic)
 {
     unsigned int r = 1, g = 2, b = 3;
     sketcher.GetColorIsolatedElts(r, g, b);

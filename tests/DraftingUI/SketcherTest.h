@@ -15,7 +15,7 @@ protected:
               std::pair(KivSketcherSettings::SnapModification(), "snap "),
               std::pair(KivSketcherSettings::CpltModification(), "completion "),
               std::pair(KivSketcherSettings::GeomUIModification(), "geometry "),
-              std::pair(KivSketcherSettings::Visu3DUIModification(), "visualisation "),
+              std::pair(KivSketcherSettings::Visu3DUIModification(), "visualization "),
               std::pair(KivSketcherSettings::MultiModification(), "multi ")})
             _callbacks.push_back(sketcher.AddCallback(
                 event, [this, said = word](KivCallbackEvent, KivNotification* notification) {

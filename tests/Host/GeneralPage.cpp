@@ -13,7 +13,7 @@ protected:
     }
 };
 
-TEST_F(GeneralPage, TwentyMillimetresAreTwentyInEveryUnit)
+TEST_F(GeneralPage, TwentyMillimetersAreTwentyInEveryUnit)
 {
     for (const char* unit : {"MM", "INCH", "F_I_F64", "F_I_DEC", "FOOT", "KM"}) {
         KivParmEngine::Instance().SetCurrentUnit(KivParmDictionary::LengthType, unit);
@@ -56,17 +56,17 @@ TEST_F(GeneralPage, VerticalFieldsFollowUntilDistortionsAreAllowed)
 TEST_F(GeneralPage, BackgroundsAreStoredAsFractionsAndReadBackCut)
 {
     Open();
-    EXPECT_TRUE(KivUserHand::ChooseColour(Colour("comboBackgroundColor"), 128, 128, 128));
+    EXPECT_TRUE(KivUserHand::ChooseColor(Color("comboBackgroundColor"), 128, 128, 128));
     EXPECT_EQ(Stored("BackgroundColorBlue", 0.0F), static_cast<float>(128 / 255.0));
     EXPECT_TRUE(session->Commit().empty());
     Open();
     unsigned int r = 1, g = 1, b = 1;
-    Colour("comboBackgroundColor").GetSelectedColor(&r, &g, &b);
+    Color("comboBackgroundColor").GetSelectedColor(&r, &g, &b);
     EXPECT_EQ(r + g + b, 0U);
-    EXPECT_TRUE(KivUserHand::ChooseColour(Colour("comboBackgroundColor"), 255, 255, 255));
+    EXPECT_TRUE(KivUserHand::ChooseColor(Color("comboBackgroundColor"), 255, 255, 255));
     EXPECT_TRUE(session->Commit().empty());
     Open();
-    Colour("comboBackgroundColor").GetSelectedColor(&r, &g, &b);
+    Color("comboBackgroundColor").GetSelectedColor(&r, &g, &b);
     EXPECT_EQ(r & g & b, 255U);
 }
 

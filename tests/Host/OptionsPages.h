@@ -58,7 +58,7 @@ protected:
     }
     KivDlgCheckButton& Check(const std::string& name) { return Node<KivDlgCheckButton>(name + "_dialog"); }
     KivDlgSpinner& Spinner(const std::string& name) { return Node<KivDlgSpinner>(name + "_dialog"); }
-    KivComboColor& Colour(const std::string& name) { return Node<KivComboColor>(name + "_dialog"); }
+    KivComboColor& Color(const std::string& name) { return Node<KivComboColor>(name + "_dialog"); }
     KivDlgCombo& Combo(const std::string& name) { return Node<KivDlgCombo>(name + "_dialog"); }
     KivDlgRadioButton& Radio(const std::string& name) { return Node<KivDlgRadioButton>(name); }
     bool IsChecked(const std::string& name) { return Check(name).GetState() == KivDlgChecked; }
@@ -88,7 +88,7 @@ protected:
             auto& combo = static_cast<KivComboColor&>(control);
             unsigned int red = 0, green = 0, blue = 0;
             combo.GetSelectedColor(&red, &green, &blue);
-            return KivUserHand::ChooseColour(combo, red ^ 1U, green ^ 2U, blue ^ 4U);
+            return KivUserHand::ChooseColor(combo, red ^ 1U, green ^ 2U, blue ^ 4U);
         }
         if (is(KivDlgCombo::Name)) {
             auto& combo = static_cast<KivDlgCombo&>(control);

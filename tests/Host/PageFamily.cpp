@@ -314,7 +314,7 @@ TEST_P(PageFamily, EveryControlIsNamedAndNoTextIsLeftOver)
             EXPECT_FALSE(node.GetLongHelp().IsEmpty()) << own;
         }
         if (is("KivDlgLabel")) {
-            if (static_cast<const KivDlgLabel&>(node).GetLabelledControl()) takeLetter(node, own, letters);
+            if (static_cast<const KivDlgLabel&>(node).GetLabeledControl()) takeLetter(node, own, letters);
             EXPECT_TRUE(node.GetTitle() != own.c_str()) << own << " has no text";
         }
         const bool isNamedByItself =

@@ -36,7 +36,7 @@ TEST_F(PageRules, AnySheetSourceButTheCurrentSheetIsTheStyle)
     EXPECT_EQ(Stored("KivDrwSheetFromStyle", 9), 1);
 }
 
-TEST_F(PageRules, AdministrationGreysItsCommandsOnOkAndBringsThemBack)
+TEST_F(PageRules, AdministrationGraysItsCommandsOnOkAndBringsThemBack)
 {
     const struct {
         const char* row;
@@ -149,7 +149,7 @@ TEST_F(PageRules, ADirectoryThatDoesNotExistIsKeptAndMarked)
     EXPECT_EQ(box.Bytes(file).find("TitleBlockFile"), std::string::npos) << "on no page";
 }
 
-TEST_F(PageRules, MeasuresAreStoredInMillimetresAndDegrees)
+TEST_F(PageRules, MeasuresAreStoredInMillimetersAndDegrees)
 {
     OpenOn("double LineUpOffsetLength = 12.5\ndouble LineUpOffsetAngle = 90\ndouble ManipRefSize = 2\n");
     const struct {

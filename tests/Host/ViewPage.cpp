@@ -143,7 +143,7 @@ TEST_F(ViewPage, KeepsItsOddities)
            "int DrwGenerationForBox = 1\n");
     EXPECT_FALSE(IsChecked("chkDimClipNoShow")) << "only exactly 1 is on";
     EXPECT_TRUE(IsChecked("chkSelBodyInAss") && IsChecked("chkQmtAnnotLay"));
-    // The tolerance is stored as the spinner holds it, in metres.
+    // The tolerance is stored as the spinner holds it, in meters.
     EXPECT_EQ(Spinner("spinGenBox").GetValue(), 1.0);
     EXPECT_TRUE(KivUserHand::Type(Spinner("spinGenBox"), "5 mm"));
     EXPECT_EQ(Stored("DrwGenerationForBoxTol", 0.0), 0.005);

@@ -97,7 +97,7 @@ TEST_F(Explained, MisuseIsExplainedAndChangesNothing)
     EXPECT_EQ(Run("--version").out.substr(0, 12), "kivsettings ");
 }
 
-TEST(ValueKinds, HoldEveryDefaultAndKnowTheColours)
+TEST(ValueKinds, HoldEveryDefaultAndKnowTheColors)
 {
     int components = 0;
     for (const KivDrwRow& row : KivDrwCatalogue::Rows()) {

@@ -32,7 +32,7 @@ KivDlgControl* Inner(KivDrwLockControl* wrapper)
 
 void DrwOptionsServices::SetControlUnitToPqeLength(KivDlgControl* control, int precision)
 {
-    SetUnit(control, precision, KivParmDictionary::LengthType, KivDlgMagnitudeLength, KivDlgUnitMillimetre);
+    SetUnit(control, precision, KivParmDictionary::LengthType, KivDlgMagnitudeLength, KivDlgUnitMillimeter);
 }
 void DrwOptionsServices::SetControlUnitToPqeLength(KivDrwLockControl* control, int precision)
 {

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr KivSpinnerSetup kOffset = KivMillimetres(1.0);
+constexpr KivSpinnerSetup kOffset = KivMillimeters(1.0);
 constexpr KivSpinnerSetup kAngle = KivDegrees(1.0);
 
 // The groups stand in two columns; the analysis is as high as the two groups beside it.
@@ -12,12 +12,12 @@ enum Column : short { Left, Right };
 
 } // namespace
 
-// A state of dimensions: whether it has a colour of its own, and which.
+// A state of dimensions: whether it has a color of its own, and which.
 struct Kiv2DBaseOptDimFrm::AnalysisRow {
     const char* checkName;
-    KivCachedValue<unsigned char>& isColoured;
+    KivCachedValue<unsigned char>& isColored;
     const char* comboName;
-    KivCachedValue<KivPageColour>& colour;
+    KivCachedValue<KivPageColor>& color;
 };
 
 void Kiv2DBaseOptDimFrm::Build()
@@ -81,10 +81,10 @@ void Kiv2DBaseOptDimFrm::BuildAnalysis()
     for (const AnalysisRow& row : rows) {
         KivFormLine line = analysis.Line();
         _rules.AvailableWhile([this] { return _dimDesignMode.cached; },
-                              {line.Check(row.checkName, row.isColoured)});
+                              {line.Check(row.checkName, row.isColored)});
         _rules.AvailableWhile(
-            [this, &isColoured = row.isColoured] { return _dimDesignMode.cached && isColoured.cached; },
-            {line.Colour(row.comboName, row.colour)});
+            [this, &isColored = row.isColored] { return _dimDesignMode.cached && isColored.cached; },
+            {line.Color(row.comboName, row.color)});
     }
 }
 

@@ -3,7 +3,7 @@
 #include "KivPageFrame.h"
 #include "KivPageSetting.h"
 
-// The Dimension page: how dimensions are created, placed, lined up and moved, and the colours that tell in
+// The Dimension page: how dimensions are created, placed, lined up and moved, and the colors that tell in
 // which state they are. Knows no store: a frame derived from it binds the accessors and switches on the
 // groups that its application has.
 class Kiv2DBaseOptDimFrm : public KivClass<Kiv2DBaseOptDimFrm, KivPageFrame> {
@@ -45,34 +45,34 @@ public:
     KIV_PAGE_SETTING(unsigned char, _dimDesignMode, SetDimDesignMode, GetDimDesignMode, GetDimDesignModeInfo)
     KIV_PAGE_SETTING(unsigned char, _dimNotUpToDate, SetDimNotUpToDate, GetDimNotUpToDate,
                      GetDimNotUpToDateInfo)
-    KIV_PAGE_COLOUR(_dimNotUpToDateColor, SetDimNotUpToDateColor, GetDimNotUpToDateColor,
-                    GetDimNotUpToDateColorInfo)
+    KIV_PAGE_COLOR(_dimNotUpToDateColor, SetDimNotUpToDateColor, GetDimNotUpToDateColor,
+                   GetDimNotUpToDateColorInfo)
     KIV_PAGE_SETTING(unsigned char, _dimNonAssociative, SetDimNonAssociative, GetDimNonAssociative,
                      GetDimNonAssociativeInfo)
-    KIV_PAGE_COLOUR(_dimNonAssociativeColor, SetDimNonAssociativeColor, GetDimNonAssociativeColor,
-                    GetDimNonAssociativeColorInfo)
+    KIV_PAGE_COLOR(_dimNonAssociativeColor, SetDimNonAssociativeColor, GetDimNonAssociativeColor,
+                   GetDimNonAssociativeColorInfo)
     KIV_PAGE_SETTING(unsigned char, _dimBroken, SetDimBroken, GetDimBroken, GetDimBrokenInfo)
-    KIV_PAGE_COLOUR(_dimBrokenColor, SetDimBrokenColor, GetDimBrokenColor, GetDimBrokenColorInfo)
+    KIV_PAGE_COLOR(_dimBrokenColor, SetDimBrokenColor, GetDimBrokenColor, GetDimBrokenColorInfo)
     KIV_PAGE_SETTING(unsigned char, _dimFake, SetDimFake, GetDimFake, GetDimFakeInfo)
-    KIV_PAGE_COLOUR(_dimFakeColor, SetDimFakeColor, GetDimFakeColor, GetDimFakeColorInfo)
+    KIV_PAGE_COLOR(_dimFakeColor, SetDimFakeColor, GetDimFakeColor, GetDimFakeColorInfo)
     KIV_PAGE_SETTING(unsigned char, _dimDriving, SetDimDriving, GetDimDriving, GetDimDrivingInfo)
-    KIV_PAGE_COLOUR(_dimDrivingColor, SetDimDrivingColor, GetDimDrivingColor, GetDimDrivingColorInfo)
+    KIV_PAGE_COLOR(_dimDrivingColor, SetDimDrivingColor, GetDimDrivingColor, GetDimDrivingColorInfo)
     KIV_PAGE_SETTING(unsigned char, _dimTrue, SetDimTrue, GetDimTrue, GetDimTrueInfo)
-    KIV_PAGE_COLOUR(_dimTrueColor, SetDimTrueColor, GetDimTrueColor, GetDimTrueColorInfo)
+    KIV_PAGE_COLOR(_dimTrueColor, SetDimTrueColor, GetDimTrueColor, GetDimTrueColorInfo)
     KIV_PAGE_SETTING(unsigned char, _dim3DCst, SetDim3DCst, GetDim3DCst, GetDim3DCstInfo)
-    KIV_PAGE_COLOUR(_dim3DCstColor, SetDim3DCstColor, GetDim3DCstColor, GetDim3DCstColorInfo)
+    KIV_PAGE_COLOR(_dim3DCstColor, SetDim3DCstColor, GetDim3DCstColor, GetDim3DCstColorInfo)
     KIV_PAGE_SETTING(unsigned char, _dimNotUpToDate3DCst, SetDimNotUpToDate3DCst, GetDimNotUpToDate3DCst,
                      GetDimNotUpToDate3DCstInfo)
-    KIV_PAGE_COLOUR(_dimNotUpToDate3DCstColor, SetDimNotUpToDate3DCstColor, GetDimNotUpToDate3DCstColor,
-                    GetDimNotUpToDate3DCstColorInfo)
+    KIV_PAGE_COLOR(_dimNotUpToDate3DCstColor, SetDimNotUpToDate3DCstColor, GetDimNotUpToDate3DCstColor,
+                   GetDimNotUpToDate3DCstColorInfo)
     KIV_PAGE_SETTING(unsigned char, _isolatedDimension, SetIsolatedDimension, GetIsolatedDimension,
                      GetIsolatedDimensionInfo)
-    KIV_PAGE_COLOUR(_isolatedDimensionColor, SetIsolatedDimensionColor, GetIsolatedDimensionColor,
-                    GetIsolatedDimensionColorInfo)
+    KIV_PAGE_COLOR(_isolatedDimensionColor, SetIsolatedDimensionColor, GetIsolatedDimensionColor,
+                   GetIsolatedDimensionColorInfo)
     KIV_PAGE_SETTING(unsigned char, _dimOnNonVisGeom, SetDimOnNonVisGeom, GetDimOnNonVisGeom,
                      GetDimOnNonVisGeomInfo)
-    KIV_PAGE_COLOUR(_dimOnNonVisGeomColor, SetDimOnNonVisGeomColor, GetDimOnNonVisGeomColor,
-                    GetDimOnNonVisGeomColorInfo)
+    KIV_PAGE_COLOR(_dimOnNonVisGeomColor, SetDimOnNonVisGeomColor, GetDimOnNonVisGeomColor,
+                   GetDimOnNonVisGeomColorInfo)
     KIV_PAGE_SETTING(unsigned char, _dimSnap, SetDimSnap, GetDimSnap, GetDimSnapInfo)
     KIV_PAGE_SETTING(unsigned char, _dimSnapOnGrid, SetDimSnapOnGrid, GetDimSnapOnGrid, GetDimSnapOnGridInfo)
     KIV_PAGE_SETTING(unsigned char, _dimSnapValue, SetDimSnapValue, GetDimSnapValue, GetDimSnapValueInfo)

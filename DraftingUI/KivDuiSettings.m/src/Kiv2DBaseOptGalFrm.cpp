@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr KivSpinnerSetup kLength = KivMillimetres(5.0);
+constexpr KivSpinnerSetup kLength = KivMillimeters(5.0);
 constexpr KivCountSetup kGraduation{.minimum = 1.0F, .maximum = 100000.0F, .values = 100000};
 // Stored in degrees, shown in radians: 1 to 355 degrees by 1. The ceiling of 355 is deliberate.
 constexpr KivSpinnerSetup kSnapAngle{.magnitude = KivDlgMagnitudeAngle,
@@ -64,10 +64,10 @@ void Kiv2DBaseOptGalFrm::BuildColor()
 {
     KivFormGroup color = Group("frameColor", "I_ColorChooser");
     KivFormLine sheet = color.Line("labelBackgroundColor");
-    sheet.Colour("comboBackgroundColor", _sheetColor);
+    sheet.Color("comboBackgroundColor", _sheetColor);
     sheet.Check("checkGraduatedColor", _sheetColorGrad);
     KivFormLine detail = color.Line("labelBackgroundColorDD");
-    detail.Colour("comboBackgroundColorDD", _detailColor);
+    detail.Color("comboBackgroundColorDD", _detailColor);
     detail.Check("checkGraduatedColorDD", _detailColorGrad);
 }
 

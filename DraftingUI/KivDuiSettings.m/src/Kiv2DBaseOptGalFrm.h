@@ -3,7 +3,7 @@
 #include "KivPageFrame.h"
 #include "KivPageSetting.h"
 
-// The General page: ruler, grid, rotation, colours, tree, 2D axis. Knows no store: a frame derived from it
+// The General page: ruler, grid, rotation, colors, tree, 2D axis. Knows no store: a frame derived from it
 // binds the accessors and switches on the groups that its application has.
 class Kiv2DBaseOptGalFrm : public KivClass<Kiv2DBaseOptGalFrm, KivPageFrame> {
     using Self = Kiv2DBaseOptGalFrm;
@@ -23,10 +23,10 @@ public:
     KIV_PAGE_SETTING(double, _primSpaceV, SetPrimSpaceV, GetPrimSpaceV, GetPrimSpaceVInfo)
     KIV_PAGE_SETTING(int, _gradH, SetGradH, GetGradH, GetGradHInfo)
     KIV_PAGE_SETTING(int, _gradV, SetGradV, GetGradV, GetGradVInfo)
-    KIV_PAGE_COLOUR(_sheetColor, SetSheetColor, GetSheetColor, GetSheetColorInfo)
+    KIV_PAGE_COLOR(_sheetColor, SetSheetColor, GetSheetColor, GetSheetColorInfo)
     KIV_PAGE_SETTING(unsigned char, _sheetColorGrad, SetSheetColorGrad, GetSheetColorGrad,
                      GetSheetColorGradInfo)
-    KIV_PAGE_COLOUR(_detailColor, SetDetailColor, GetDetailColor, GetDetailColorInfo)
+    KIV_PAGE_COLOR(_detailColor, SetDetailColor, GetDetailColor, GetDetailColorInfo)
     KIV_PAGE_SETTING(unsigned char, _detailColorGrad, SetDetailColorGrad, GetDetailColorGrad,
                      GetDetailColorGradInfo)
     KIV_PAGE_SETTING(unsigned char, _displayParam, SetDisplayParam, GetDisplayParam, GetDisplayParamInfo)

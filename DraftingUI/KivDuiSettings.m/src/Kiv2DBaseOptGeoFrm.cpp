@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr KivSpinnerSetup kSymbolSize = KivMillimetres(1.0);
+constexpr KivSpinnerSetup kSymbolSize = KivMillimeters(1.0);
 
 const KivFormRadios& DragModes()
 {
@@ -40,7 +40,7 @@ void Kiv2DBaseOptGeoFrm::BuildConstraint()
     constraint.Line().At(0, 2).Check("checkCstVisu", _cstVisu);
     std::vector<KivDrwLockDialog*> shown = {
         constraint.Line("labelCstRefSize").Spinner("spinnerCstRefSize", _cstRefSize, kSymbolSize),
-        constraint.Line("labelCstColor").Colour("comboCstColor", _cstColor)};
+        constraint.Line("labelCstColor").Color("comboCstColor", _cstColor)};
     struct KindRow {
         const char* name;
         KivCachedValue<unsigned char>& value;
@@ -75,7 +75,7 @@ void Kiv2DBaseOptGeoFrm::BuildSmartPick()
     pick.Line().At(0, 2).Check("checkPickParaPerpenTang", _smartPickParaPerpenTang);
     pick.Line().At(0, 2).Check("checkPickHoriVerti", _smartPickHoriVerti);
     _rules.AvailableWhile([this] { return FindsAnything(); },
-                          {pick.Line("labelSmartPickColor").Colour("comboSmartPickColor", _smartPickColor)});
+                          {pick.Line("labelSmartPickColor").Color("comboSmartPickColor", _smartPickColor)});
 }
 
 // Constraints are created from what smart picking has found.
@@ -90,9 +90,9 @@ void Kiv2DBaseOptGeoFrm::BuildColor()
     KivFormGroup color = Group("frameGeomColor", "I_ColorChooser", 2, Right);
     color.Line().At(0, 2).Check("checkVisuDiagnostic", _visuDiagnostic);
     _rules.AvailableWhile([this] { return _visuDiagnostic.cached; },
-                          {color.Line("labelOverCons").Colour("comboOverCons", _overConsEltsColor),
-                           color.Line("labelIncons").Colour("comboIncons", _inconsEltsColor),
-                           color.Line("labelNotChan").Colour("comboNotChan", _notChanEltsColor),
-                           color.Line("labelIsoCons").Colour("comboIsoCons", _isoConsEltsColor)});
-    color.Line("labelConst").Colour("comboConst", _constEltsColor);
+                          {color.Line("labelOverCons").Color("comboOverCons", _overConsEltsColor),
+                           color.Line("labelIncons").Color("comboIncons", _inconsEltsColor),
+                           color.Line("labelNotChan").Color("comboNotChan", _notChanEltsColor),
+                           color.Line("labelIsoCons").Color("comboIsoCons", _isoConsEltsColor)});
+    color.Line("labelConst").Color("comboConst", _constEltsColor);
 }

@@ -4,7 +4,7 @@
 #include "KivPageSetting.h"
 
 // The Geometry page: how geometry is created and dragged, what smart picking finds, constraints, and the
-// colours of diagnostics. Knows no store: a frame derived from it binds the accessors and switches on the
+// colors of diagnostics. Knows no store: a frame derived from it binds the accessors and switches on the
 // groups that its application has.
 class Kiv2DBaseOptGeoFrm : public KivClass<Kiv2DBaseOptGeoFrm, KivPageFrame> {
     using Self = Kiv2DBaseOptGeoFrm;
@@ -33,11 +33,11 @@ public:
                      GetSmartPickParaPerpenTang, GetSmartPickParaPerpenTangInfo)
     KIV_PAGE_SETTING(unsigned char, _smartPickHoriVerti, SetSmartPickHoriVerti, GetSmartPickHoriVerti,
                      GetSmartPickHoriVertiInfo)
-    KIV_PAGE_COLOUR(_smartPickColor, SetSmartPickColor, GetSmartPickColor, GetSmartPickColorInfo)
+    KIV_PAGE_COLOR(_smartPickColor, SetSmartPickColor, GetSmartPickColor, GetSmartPickColorInfo)
     KIV_PAGE_SETTING(unsigned char, _cstCreation, SetCstCreation, GetCstCreation, GetCstCreationInfo)
     KIV_PAGE_SETTING(unsigned char, _cstVisu, SetCstVisu, GetCstVisu, GetCstVisuInfo)
     KIV_PAGE_SETTING(double, _cstRefSize, SetCstRefSize, GetCstRefSize, GetCstRefSizeInfo)
-    KIV_PAGE_COLOUR(_cstColor, SetCstColor, GetCstColor, GetCstColorInfo)
+    KIV_PAGE_COLOR(_cstColor, SetCstColor, GetCstColor, GetCstColorInfo)
     KIV_PAGE_SETTING(unsigned char, _cstVisuHori, SetCstVisuHori, GetCstVisuHori, GetCstVisuHoriInfo)
     KIV_PAGE_SETTING(unsigned char, _cstVisuVerti, SetCstVisuVerti, GetCstVisuVerti, GetCstVisuVertiInfo)
     KIV_PAGE_SETTING(unsigned char, _cstVisuPara, SetCstVisuPara, GetCstVisuPara, GetCstVisuParaInfo)
@@ -48,11 +48,11 @@ public:
     KIV_PAGE_SETTING(unsigned char, _cstVisuSym, SetCstVisuSym, GetCstVisuSym, GetCstVisuSymInfo)
     KIV_PAGE_SETTING(unsigned char, _visuDiagnostic, SetVisuDiagnostic, GetVisuDiagnostic,
                      GetVisuDiagnosticInfo)
-    KIV_PAGE_COLOUR(_overConsEltsColor, SetOverConsEltsColor, GetOverConsEltsColor, GetOverConsEltsColorInfo)
-    KIV_PAGE_COLOUR(_inconsEltsColor, SetInconsEltsColor, GetInconsEltsColor, GetInconsEltsColorInfo)
-    KIV_PAGE_COLOUR(_notChanEltsColor, SetNotChanEltsColor, GetNotChanEltsColor, GetNotChanEltsColorInfo)
-    KIV_PAGE_COLOUR(_isoConsEltsColor, SetIsoConsEltsColor, GetIsoConsEltsColor, GetIsoConsEltsColorInfo)
-    KIV_PAGE_COLOUR(_constEltsColor, SetConstEltsColor, GetConstEltsColor, GetConstEltsColorInfo)
+    KIV_PAGE_COLOR(_overConsEltsColor, SetOverConsEltsColor, GetOverConsEltsColor, GetOverConsEltsColorInfo)
+    KIV_PAGE_COLOR(_inconsEltsColor, SetInconsEltsColor, GetInconsEltsColor, GetInconsEltsColorInfo)
+    KIV_PAGE_COLOR(_notChanEltsColor, SetNotChanEltsColor, GetNotChanEltsColor, GetNotChanEltsColorInfo)
+    KIV_PAGE_COLOR(_isoConsEltsColor, SetIsoConsEltsColor, GetIsoConsEltsColor, GetIsoConsEltsColorInfo)
+    KIV_PAGE_COLOR(_constEltsColor, SetConstEltsColor, GetConstEltsColor, GetConstEltsColorInfo)
 
 public:
     // 1 for each group that the application has.

@@ -4,9 +4,9 @@
 
 namespace {
 
-constexpr KivSpinnerSetup kSize = KivMillimetres(1.0);
+constexpr KivSpinnerSetup kSize = KivMillimeters(1.0);
 
-constexpr unsigned int kFilledCentred = KivDlgAttachAllSidesCentred & ~KivDlgAttachRight;
+constexpr unsigned int kFilledCentered = KivDlgAttachAllSidesCentered & ~KivDlgAttachRight;
 
 // The columns of the table of dimension handles.
 enum Column : short { Icon, Kind, Creation, Gap, Modification };
@@ -57,18 +57,18 @@ void Kiv2DBaseOptManipFrm::BuildDimManipulators()
     };
     KivFormGroup dimension = Group("frameDim", "I_DrwDim");
     KivFormLine header = dimension.Line();
-    header.At(Creation).Attached(KivDlgAttachAllSidesCentred).PlainLabel("_labelDimCreation");
+    header.At(Creation).Attached(KivDlgAttachAllSidesCentered).PlainLabel("_labelDimCreation");
     // Keeps the two columns of switches apart.
-    header.Attached(KivDlgAttachAllSidesCentred).PlainLabel("_labelSpaceDim")->SetTitle("   ");
-    header.Attached(KivDlgAttachAllSidesCentred).PlainLabel("_labelDimModification");
+    header.Attached(KivDlgAttachAllSidesCentered).PlainLabel("_labelSpaceDim")->SetTitle("   ");
+    header.Attached(KivDlgAttachAllSidesCentered).PlainLabel("_labelDimModification");
     for (const DimRow& row : rows) BuildDimRow(dimension.Line(), row);
 }
 
 void Kiv2DBaseOptManipFrm::BuildDimRow(KivFormLine line, const DimRow& row)
 {
-    line.Attached(KivDlgAttachAllSidesCentred).Picture(row.iconName)->SetIconName(row.icon, "", "", "");
-    // It names two switches: a lock on one of them does not grey it.
-    line.Attached(kFilledCentred).PlainLabel(row.labelName)->SetGreysWithControl(false);
+    line.Attached(KivDlgAttachAllSidesCentered).Picture(row.iconName)->SetIconName(row.icon, "", "", "");
+    // It names two switches: a lock on one of them does not gray it.
+    line.Attached(kFilledCentered).PlainLabel(row.labelName)->SetGraysWithControl(false);
     for (KivDrwLockCheckButton* button :
          {line.At(Creation).Check(row.creationName, row.creation),
           line.At(Modification).Check(row.modificationName, row.modification)}) {

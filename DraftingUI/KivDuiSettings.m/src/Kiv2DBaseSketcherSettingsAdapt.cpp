@@ -22,8 +22,8 @@ int PositiveOrDefault(int value, const KivDrwKey<int>& key)
     return value > 0 ? value : key.makeDefault();
 }
 
-// The colours of diagnostics are numbered from 1; null for a number that has none.
-const KivDrwKey<unsigned int>* DiagnosticColour(int diagnostic)
+// The colors of diagnostics are numbered from 1; null for a number that has none.
+const KivDrwKey<unsigned int>* DiagnosticColor(int diagnostic)
 {
     switch (diagnostic) {
     case 1:
@@ -335,13 +335,13 @@ void Kiv2DBaseSketcherSettingsAdapt::SetDragMode(int mode, int notify)
     if (notify) GeomUIModify();
 }
 
-// Colours
+// Colors
 
 void Kiv2DBaseSketcherSettingsAdapt::GetColorDiagElts(int diagnostic, unsigned int& r, unsigned int& g,
                                                       unsigned int& b)
 {
     unsigned int packed = GetDefaultColor();
-    if (const auto* key = DiagnosticColour(diagnostic)) packed = KivDrwRead(_repository, *key);
+    if (const auto* key = DiagnosticColor(diagnostic)) packed = KivDrwRead(_repository, *key);
     GetRGB(packed, &r, &g, &b);
 }
 
@@ -350,11 +350,11 @@ void Kiv2DBaseSketcherSettingsAdapt::SetColorDiagElts(int diagnostic, unsigned i
 {
     unsigned int packed = 0;
     SetRGB(&packed, r, g, b);
-    if (const auto* key = DiagnosticColour(diagnostic)) KivDrwWrite(_repository, *key, packed);
+    if (const auto* key = DiagnosticColor(diagnostic)) KivDrwWrite(_repository, *key, packed);
     if (notify) GeomUIModify();
 }
 
-// These have no colour of their own: what is given stays as it is.
+// These have no color of their own: what is given stays as it is.
 
 void Kiv2DBaseSketcherSettingsAdapt::GetColorIsolatedElts(unsigned int&, unsigned int&, unsigned int&) {}
 

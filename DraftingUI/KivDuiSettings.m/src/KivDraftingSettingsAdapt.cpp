@@ -1,6 +1,6 @@
 #include "KivDraftingSettingsAdapt.h"
 
-#include "KivDrwBackgroundColour.h"
+#include "KivDrwBackgroundColor.h"
 #include "KivDrwSettingAccess.h"
 
 HRESULT KivDraftingSettingsAdapt::GetShowRuler(unsigned char& shown)
@@ -37,7 +37,7 @@ HRESULT KivDraftingSettingsAdapt::GetGraduationV(int& parts)
 }
 HRESULT KivDraftingSettingsAdapt::GetSheetColor(int& red, int& green, int& blue)
 {
-    kKivDrwSheetColour.Read(_repository, red, green, blue);
+    kKivDrwSheetColor.Read(_repository, red, green, blue);
     return S_OK;
 }
 HRESULT KivDraftingSettingsAdapt::GetSheetColorGraduated(unsigned char& graduated)
@@ -46,7 +46,7 @@ HRESULT KivDraftingSettingsAdapt::GetSheetColorGraduated(unsigned char& graduate
 }
 HRESULT KivDraftingSettingsAdapt::GetDetailColor(int& red, int& green, int& blue)
 {
-    kKivDrwDetailColour.Read(_repository, red, green, blue);
+    kKivDrwDetailColor.Read(_repository, red, green, blue);
     return S_OK;
 }
 HRESULT KivDraftingSettingsAdapt::GetDetailColorGraduated(unsigned char& graduated)

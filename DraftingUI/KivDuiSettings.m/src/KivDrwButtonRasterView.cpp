@@ -33,12 +33,12 @@ const KivFormChoice& Qualities()
 // A quarter of the dots an inch at which a line of weight 2 is two dots thick.
 double BaseResolution()
 {
-    constexpr double kMillimetresInTwoInches = 50.8;
+    constexpr double kMillimetersInTwoInches = 50.8;
     // The framework's table gives weight 2 a thickness of 0.7 mm; should it ever give none, the base is still
     // that of 0.7 mm.
     constexpr float kUsual = 0.7F;
     const float thickness = KivGetMMThickness(2, 1);
-    return kMillimetresInTwoInches / static_cast<double>(thickness > 0.0F ? thickness : kUsual) * 0.25;
+    return kMillimetersInTwoInches / static_cast<double>(thickness > 0.0F ? thickness : kUsual) * 0.25;
 }
 
 } // namespace

@@ -12,7 +12,7 @@ KivDrwLockComboColor::KivDrwLockComboColor(KivDialog* parent, const KivString& n
                                            const KivSettingInfo& info)
     : KivDrwLockControlOf(parent, name, info)
 {
-    // White until the page sets the real colour.
+    // White until the page sets the real color.
     Wrap(MakeControl(name, 0UL, 255U, 255U, 255U, 0, 0, 0));
 }
 

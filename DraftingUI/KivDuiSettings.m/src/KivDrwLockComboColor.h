@@ -3,7 +3,7 @@
 #include "Dialog/KivComboColor.h"
 #include "KivDrwLockControl.h"
 
-// A lock-aware colour combo.
+// A lock-aware color combo.
 class KivDrwLockComboColor : public KivDrwLockControlOf<KivDrwLockComboColor, KivComboColor> {
 public:
     static constexpr const char* Name = "KivDrwLockComboColor";

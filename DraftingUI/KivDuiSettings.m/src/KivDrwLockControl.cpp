@@ -14,7 +14,7 @@ void KivDrwLockControl::SetUnit(KivDlgControl::KivDlgUnit unit)
 KivDlgControl::KivDlgUnit KivDrwLockControl::GetUnit() const
 {
     const KivDlgControl* control = Control();
-    return control ? control->GetUnit() : KivDlgUnitMillimetre;
+    return control ? control->GetUnit() : KivDlgUnitMillimeter;
 }
 
 void KivDrwLockControl::SetPrecision(int precision)

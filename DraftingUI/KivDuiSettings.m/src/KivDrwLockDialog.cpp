@@ -45,7 +45,7 @@ void KivDrwLockDialog::Initialize()
     if (!_dialog || !_lock) return;
     _lock->AddAssociatedDialog(_dialog.Get());
     _lock->SetGridConstraints(0, 0, 1, 1, KivDlgAttachAllSides);
-    _dialog->SetGridConstraints(0, 1, 1, 1, KivDlgAttachLeftCentred);
+    _dialog->SetGridConstraints(0, 1, 1, 1, KivDlgAttachLeftCentered);
     SetTitle(KivDlgFrame::GetTitle());
     // Only the inner two carry tooltips.
     KivDlgFrame::SetShortHelp("");

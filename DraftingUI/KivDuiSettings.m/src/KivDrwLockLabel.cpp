@@ -14,5 +14,5 @@ KivDrwLockLabel::KivDrwLockLabel(KivDialog* parent, const KivString& name, int w
         _spacer->SetVisibility(KivDlgReserved);
         _spacer->SetGridConstraints(0, 0, 1, 1, KivDlgAttachAllSides);
     }
-    if (_dialog) _dialog->SetGridConstraints(0, 1, 1, 1, KivDlgAttachLeftCentred);
+    if (_dialog) _dialog->SetGridConstraints(0, 1, 1, 1, KivDlgAttachLeftCentered);
 }

@@ -23,9 +23,9 @@ public:
                      GetPrimSpaceVInfo)
     KIV_BIND_SETTING(KivDrwKeys::Drw_settings_GridSecondaryStep, SetGradH, GetGradH, GetGradHInfo)
     KIV_BIND_SETTING(KivDrwKeys::Drw_settings_GridVSecondaryStep, SetGradV, GetGradV, GetGradVInfo)
-    KIV_BIND_COLOUR(kKivDrwSheetColour, SetSheetColor, GetSheetColor, GetSheetColorInfo)
+    KIV_BIND_COLOR(kKivDrwSheetColor, SetSheetColor, GetSheetColor, GetSheetColorInfo)
     KIV_BIND_SETTING(KivDrwKeys::GraduatedColor, SetSheetColorGrad, GetSheetColorGrad, GetSheetColorGradInfo)
-    KIV_BIND_COLOUR(kKivDrwDetailColour, SetDetailColor, GetDetailColor, GetDetailColorInfo)
+    KIV_BIND_COLOR(kKivDrwDetailColor, SetDetailColor, GetDetailColor, GetDetailColorInfo)
     KIV_BIND_SETTING(KivDrwKeys::GraduatedColorDitto, SetDetailColorGrad, GetDetailColorGrad,
                      GetDetailColorGradInfo)
     KIV_BIND_SETTING(KivDrwKeys::TreeParameters, SetDisplayParam, GetDisplayParam, GetDisplayParamInfo)

@@ -36,8 +36,8 @@ void KivDrwOptGenFrame::BuildDimensions()
     KivFormGroup dimensions = Group("frameGenDim", "I_GenDim", kDimensionRow);
     const auto timeOut = [&] {
         KivFormLine line = dimensions.Line();
-        // The label never greys, deliberately.
-        line.Label("labelGenDimSemiAuto")->GetDialog()->SetGreysWithControl(false);
+        // The label never grays, deliberately.
+        line.Label("labelGenDimSemiAuto")->GetDialog()->SetGraysWithControl(false);
         return line.Spinner("spinnerGenDimSemiAuto", _genDimSemiAutoTimeOut, kTimeOut);
     };
     const std::vector<KivDrwLockDialog*> controls = {
@@ -49,7 +49,7 @@ void KivDrwOptGenFrame::BuildDimensions()
         dimensions.Line().At(0, 2).Check("checkGenDimFromPart", _genDimFromPart),
         timeOut(),
     };
-    // Only exact views have dimensions of their own. Balloons and the label never grey, deliberately.
+    // Only exact views have dimensions of their own. Balloons and the label never gray, deliberately.
     _rules.AvailableWhile(
         [this] {
             return !_repository ||

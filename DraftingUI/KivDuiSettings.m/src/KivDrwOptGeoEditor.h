@@ -9,7 +9,7 @@ public:
     static constexpr KivDrwGroup Group = KivDrwGroup::Geometry;
 
 protected:
-    // Tell the sketcher: visualisation, geometry, then completion. A commit deliberately stays silent.
+    // Tell the sketcher: visualization, geometry, then completion. A commit deliberately stays silent.
     void AfterCancel() override;
     void AfterReset() override;
 };

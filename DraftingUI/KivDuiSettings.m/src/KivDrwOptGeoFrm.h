@@ -4,8 +4,8 @@
 #include "KivDrwRepository.h"
 #include "KivDrwSketcherBinding.h"
 
-// The colour of the symbols of constraints.
-inline constexpr KivDrwToldColour<KivDrwComponentColour> kKivDrwConstraintColour{
+// The color of the symbols of constraints.
+inline constexpr KivDrwToldColor<KivDrwComponentColor> kKivDrwConstraintColor{
     {KivDrwKeys::CstColorR, KivDrwKeys::CstColorG, KivDrwKeys::CstColorB},
     &Kiv2DBaseSketcherSettingsAdapt::Visu3DUIModify};
 
@@ -36,12 +36,12 @@ public:
                   GetSmartPickParaPerpenTang, GetSmartPickParaPerpenTangInfo)
     KIV_BIND_TOLD(CpltModify, KivDrwKeys::Drw_settings_CpltDirHorVert, SetSmartPickHoriVerti,
                   GetSmartPickHoriVerti, GetSmartPickHoriVertiInfo)
-    KIV_BIND_COLOUR(KivDrwGeometryColour(KivDrwKeys::Drw_settings_ColorSmartPick), SetSmartPickColor,
-                    GetSmartPickColor, GetSmartPickColorInfo)
+    KIV_BIND_COLOR(KivDrwGeometryColor(KivDrwKeys::Drw_settings_ColorSmartPick), SetSmartPickColor,
+                   GetSmartPickColor, GetSmartPickColorInfo)
     KIV_BIND_TOLD(CpltModify, KivDrwKeys::CstCreation, SetCstCreation, GetCstCreation, GetCstCreationInfo)
     KIV_BIND_TOLD(Visu3DUIModify, KivDrwKeys::CstVisu, SetCstVisu, GetCstVisu, GetCstVisuInfo)
     KIV_BIND_TOLD(Visu3DUIModify, KivDrwKeys::CstRefSize, SetCstRefSize, GetCstRefSize, GetCstRefSizeInfo)
-    KIV_BIND_COLOUR(kKivDrwConstraintColour, SetCstColor, GetCstColor, GetCstColorInfo)
+    KIV_BIND_COLOR(kKivDrwConstraintColor, SetCstColor, GetCstColor, GetCstColorInfo)
     KIV_BIND_TOLD(Visu3DUIModify, KivDrwKeys::CstVisuHori, SetCstVisuHori, GetCstVisuHori, GetCstVisuHoriInfo)
     KIV_BIND_TOLD(Visu3DUIModify, KivDrwKeys::CstVisuVerti, SetCstVisuVerti, GetCstVisuVerti,
                   GetCstVisuVertiInfo)
@@ -57,16 +57,16 @@ public:
     KIV_BIND_TOLD(Visu3DUIModify, KivDrwKeys::CstVisuSym, SetCstVisuSym, GetCstVisuSym, GetCstVisuSymInfo)
     KIV_BIND_TOLD(GeomUIModify, KivDrwKeys::Drw_settings_DiagElts, SetVisuDiagnostic, GetVisuDiagnostic,
                   GetVisuDiagnosticInfo)
-    KIV_BIND_COLOUR(KivDrwGeometryColour(KivDrwKeys::Drw_settings_ColorDiagOverDefinedElts),
-                    SetOverConsEltsColor, GetOverConsEltsColor, GetOverConsEltsColorInfo)
-    KIV_BIND_COLOUR(KivDrwGeometryColour(KivDrwKeys::Drw_settings_ColorDiagNotConsistentElts),
-                    SetInconsEltsColor, GetInconsEltsColor, GetInconsEltsColorInfo)
-    KIV_BIND_COLOUR(KivDrwGeometryColour(KivDrwKeys::Drw_settings_ColorDiagNotChangedElts),
-                    SetNotChanEltsColor, GetNotChanEltsColor, GetNotChanEltsColorInfo)
-    KIV_BIND_COLOUR(KivDrwGeometryColour(KivDrwKeys::Drw_settings_ColorDiagWellDefinedElts),
-                    SetIsoConsEltsColor, GetIsoConsEltsColor, GetIsoConsEltsColorInfo)
-    KIV_BIND_COLOUR(KivDrwGeometryColour(KivDrwKeys::Drw_settings_ColorConstructElts), SetConstEltsColor,
-                    GetConstEltsColor, GetConstEltsColorInfo)
+    KIV_BIND_COLOR(KivDrwGeometryColor(KivDrwKeys::Drw_settings_ColorDiagOverDefinedElts),
+                   SetOverConsEltsColor, GetOverConsEltsColor, GetOverConsEltsColorInfo)
+    KIV_BIND_COLOR(KivDrwGeometryColor(KivDrwKeys::Drw_settings_ColorDiagNotConsistentElts),
+                   SetInconsEltsColor, GetInconsEltsColor, GetInconsEltsColorInfo)
+    KIV_BIND_COLOR(KivDrwGeometryColor(KivDrwKeys::Drw_settings_ColorDiagNotChangedElts), SetNotChanEltsColor,
+                   GetNotChanEltsColor, GetNotChanEltsColorInfo)
+    KIV_BIND_COLOR(KivDrwGeometryColor(KivDrwKeys::Drw_settings_ColorDiagWellDefinedElts),
+                   SetIsoConsEltsColor, GetIsoConsEltsColor, GetIsoConsEltsColorInfo)
+    KIV_BIND_COLOR(KivDrwGeometryColor(KivDrwKeys::Drw_settings_ColorConstructElts), SetConstEltsColor,
+                   GetConstEltsColor, GetConstEltsColorInfo)
 
     int WithFrameGeomCreation() override { return 1; }
     int WithFrameGeomDrag() override { return 1; }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Kiv2DBaseOptDimFrm.h"
-#include "KivDrwDimensionColours.h"
+#include "KivDrwDimensionColors.h"
 #include "KivDrwPageBinding.h"
 #include "KivDrwRepository.h"
 
@@ -42,34 +42,34 @@ public:
                      GetLineUpAutoFunnelInfo)
     KIV_BIND_SETTING(KivDrwKeys::DimDesignMode, SetDimDesignMode, GetDimDesignMode, GetDimDesignModeInfo)
     KIV_BIND_SETTING(KivDrwKeys::DimNotUpToDate, SetDimNotUpToDate, GetDimNotUpToDate, GetDimNotUpToDateInfo)
-    KIV_BIND_COLOUR(kKivDrwDimNotUpToDateColour, SetDimNotUpToDateColor, GetDimNotUpToDateColor,
-                    GetDimNotUpToDateColorInfo)
+    KIV_BIND_COLOR(kKivDrwDimNotUpToDateColor, SetDimNotUpToDateColor, GetDimNotUpToDateColor,
+                   GetDimNotUpToDateColorInfo)
     KIV_BIND_SETTING(KivDrwKeys::DimNonAssociative, SetDimNonAssociative, GetDimNonAssociative,
                      GetDimNonAssociativeInfo)
-    KIV_BIND_COLOUR(kKivDrwDimNonAssociativeColour, SetDimNonAssociativeColor, GetDimNonAssociativeColor,
-                    GetDimNonAssociativeColorInfo)
+    KIV_BIND_COLOR(kKivDrwDimNonAssociativeColor, SetDimNonAssociativeColor, GetDimNonAssociativeColor,
+                   GetDimNonAssociativeColorInfo)
     KIV_BIND_SETTING(KivDrwKeys::DimBroken, SetDimBroken, GetDimBroken, GetDimBrokenInfo)
-    KIV_BIND_COLOUR(kKivDrwDimBrokenColour, SetDimBrokenColor, GetDimBrokenColor, GetDimBrokenColorInfo)
+    KIV_BIND_COLOR(kKivDrwDimBrokenColor, SetDimBrokenColor, GetDimBrokenColor, GetDimBrokenColorInfo)
     KIV_BIND_SETTING(KivDrwKeys::DimFake, SetDimFake, GetDimFake, GetDimFakeInfo)
-    KIV_BIND_COLOUR(kKivDrwDimFakeColour, SetDimFakeColor, GetDimFakeColor, GetDimFakeColorInfo)
+    KIV_BIND_COLOR(kKivDrwDimFakeColor, SetDimFakeColor, GetDimFakeColor, GetDimFakeColorInfo)
     KIV_BIND_SETTING(KivDrwKeys::DimDriving, SetDimDriving, GetDimDriving, GetDimDrivingInfo)
-    KIV_BIND_COLOUR(kKivDrwDimDrivingColour, SetDimDrivingColor, GetDimDrivingColor, GetDimDrivingColorInfo)
+    KIV_BIND_COLOR(kKivDrwDimDrivingColor, SetDimDrivingColor, GetDimDrivingColor, GetDimDrivingColorInfo)
     KIV_BIND_SETTING(KivDrwKeys::DimTrue, SetDimTrue, GetDimTrue, GetDimTrueInfo)
-    KIV_BIND_COLOUR(kKivDrwDimTrueColour, SetDimTrueColor, GetDimTrueColor, GetDimTrueColorInfo)
+    KIV_BIND_COLOR(kKivDrwDimTrueColor, SetDimTrueColor, GetDimTrueColor, GetDimTrueColorInfo)
     KIV_BIND_SETTING(KivDrwKeys::Dim3DCst, SetDim3DCst, GetDim3DCst, GetDim3DCstInfo)
-    KIV_BIND_COLOUR(kKivDrwDim3DCstColour, SetDim3DCstColor, GetDim3DCstColor, GetDim3DCstColorInfo)
+    KIV_BIND_COLOR(kKivDrwDim3DCstColor, SetDim3DCstColor, GetDim3DCstColor, GetDim3DCstColorInfo)
     KIV_BIND_SETTING(KivDrwKeys::DimNotUpToDate3DCst, SetDimNotUpToDate3DCst, GetDimNotUpToDate3DCst,
                      GetDimNotUpToDate3DCstInfo)
-    KIV_BIND_COLOUR(kKivDrwDimNotUpToDate3DCstColour, SetDimNotUpToDate3DCstColor,
-                    GetDimNotUpToDate3DCstColor, GetDimNotUpToDate3DCstColorInfo)
+    KIV_BIND_COLOR(kKivDrwDimNotUpToDate3DCstColor, SetDimNotUpToDate3DCstColor, GetDimNotUpToDate3DCstColor,
+                   GetDimNotUpToDate3DCstColorInfo)
     KIV_BIND_SETTING(KivDrwKeys::KivDrwIsolatedDim, SetIsolatedDimension, GetIsolatedDimension,
                      GetIsolatedDimensionInfo)
-    KIV_BIND_COLOUR(kKivDrwIsolatedDimColour, SetIsolatedDimensionColor, GetIsolatedDimensionColor,
-                    GetIsolatedDimensionColorInfo)
+    KIV_BIND_COLOR(kKivDrwIsolatedDimColor, SetIsolatedDimensionColor, GetIsolatedDimensionColor,
+                   GetIsolatedDimensionColorInfo)
     KIV_BIND_SETTING(KivDrwKeys::DrwDimOnNonVisGeom, SetDimOnNonVisGeom, GetDimOnNonVisGeom,
                      GetDimOnNonVisGeomInfo)
-    KIV_BIND_COLOUR(kKivDrwDimOnNonVisGeomColour, SetDimOnNonVisGeomColor, GetDimOnNonVisGeomColor,
-                    GetDimOnNonVisGeomColorInfo)
+    KIV_BIND_COLOR(kKivDrwDimOnNonVisGeomColor, SetDimOnNonVisGeomColor, GetDimOnNonVisGeomColor,
+                   GetDimOnNonVisGeomColorInfo)
     KIV_BIND_SETTING(KivDrwKeys::DimSnap, SetDimSnap, GetDimSnap, GetDimSnapInfo)
     KIV_BIND_SETTING(KivDrwKeys::DimSnapOnGrid, SetDimSnapOnGrid, GetDimSnapOnGrid, GetDimSnapOnGridInfo)
     KIV_BIND_SETTING(KivDrwKeys::DimSnapValue, SetDimSnapValue, GetDimSnapValue, GetDimSnapValueInfo)

@@ -23,7 +23,7 @@ const KivFormChoice& ModeLines()
     return lines;
 }
 
-// The tolerance is stored in metres, as its spinner holds it: without a factor, deliberately.
+// The tolerance is stored in meters, as its spinner holds it: without a factor, deliberately.
 constexpr KivSpinnerSetup kTolerance{
     .magnitude = KivDlgMagnitudeLength, .minimum = 0.0, .maximum = 1.0e12, .step = 0.001};
 
@@ -47,7 +47,7 @@ void KivDrwOptViewFrame::BuildElements()
     KivFormGroup elements = Group("frameGenElem", "I_DrwFrontView");
     KivFormLine axis = elements.Line();
     axis.Check("_checkGenAxis", _genAxis);
-    axis.Attached(KivDlgAttachAllSidesCentred).Check("_checkGenThread", _genThread);
+    axis.Attached(KivDlgAttachAllSidesCentered).Check("_checkGenThread", _genThread);
     KivFormLine center = elements.Line();
     center.Check("_checkGenCenter", _genCenter);
     center.Check("_checkGenHiddenLines", _genHiddenLines);

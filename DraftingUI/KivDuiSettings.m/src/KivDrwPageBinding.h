@@ -1,8 +1,8 @@
 #pragma once
 
-#include "KivDrwBackgroundColour.h"
+#include "KivDrwBackgroundColor.h"
 #include "KivDrwSettingAccess.h"
-#include "KivDrwStoredColour.h"
+#include "KivDrwStoredColor.h"
 #include "KivPageValue.h"
 
 // The type of the value that a frame's Set accessor takes.
@@ -32,21 +32,21 @@ template <auto accessor> using KivValueOf = typename KivAccessorValue<decltype(a
     }                                                                                                        \
     KIV_BIND_READING(key, SetAccessor, GetAccessor, GetInfoAccessor)
 
-// The same for a colour, in whatever form it is stored.
-#define KIV_BIND_COLOUR(colour, SetAccessor, GetAccessor, GetInfoAccessor)                                   \
+// The same for a color, in whatever form it is stored.
+#define KIV_BIND_COLOR(color, SetAccessor, GetAccessor, GetInfoAccessor)                                     \
     int SetAccessor(const int& r, const int& g, const int& b) override                                       \
     {                                                                                                        \
-        colour.Write(_repository, r, g, b);                                                                  \
+        color.Write(_repository, r, g, b);                                                                   \
         return S_OK;                                                                                         \
     }                                                                                                        \
     int GetAccessor(int& r, int& g, int& b) override                                                         \
     {                                                                                                        \
-        colour.Read(_repository, r, g, b);                                                                   \
+        color.Read(_repository, r, g, b);                                                                    \
         return S_OK;                                                                                         \
     }                                                                                                        \
     int GetInfoAccessor(KivSettingInfo& info) override                                                       \
     {                                                                                                        \
-        colour.GetInfo(_repository, info);                                                                   \
+        color.GetInfo(_repository, info);                                                                    \
         return S_OK;                                                                                         \
     }
 

@@ -4,7 +4,7 @@
 #include "KivDrwLockCheckButton.h"
 #include "KivDrwLockComboColor.h"
 #include "KivDrwLockSpinner.h"
-#include "KivDrwStoredColour.h"
+#include "KivDrwStoredColor.h"
 
 namespace {
 
@@ -36,7 +36,7 @@ HRESULT KivDrwSettingsServices::GetValueFromComboColor(KivDrwLockComboColor* com
     if (!Sent(combo, from)) return E_FAIL;
     int red = 0, green = 0, blue = 0;
     GetColorRGB(combo, red, green, blue);
-    if (!KivDrwIsColour(red, green, blue)) return E_FAIL;
+    if (!KivDrwIsColor(red, green, blue)) return E_FAIL;
     r = red;
     g = green;
     b = blue;
@@ -45,7 +45,7 @@ HRESULT KivDrwSettingsServices::GetValueFromComboColor(KivDrwLockComboColor* com
 
 HRESULT KivDrwSettingsServices::UpdateComboColor(KivDrwLockComboColor* combo, int r, int g, int b)
 {
-    if (!combo || !KivDrwIsColour(r, g, b)) return E_FAIL;
+    if (!combo || !KivDrwIsColor(r, g, b)) return E_FAIL;
     SetColorRGB(combo, r, g, b);
     return S_OK;
 }

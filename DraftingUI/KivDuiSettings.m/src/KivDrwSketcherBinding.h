@@ -25,28 +25,28 @@ template <class Store> void KivDrwStoreAndTell(bool canStore, KivDrwTellSketcher
     }                                                                                                        \
     KIV_BIND_READING(key, SetAccessor, GetAccessor, GetInfoAccessor)
 
-// A colour of which the sketcher is told, for KIV_BIND_COLOUR.
-template <class Colour> struct KivDrwToldColour {
-    Colour colour;
+// A color of which the sketcher is told, for KIV_BIND_COLOR.
+template <class Color> struct KivDrwToldColor {
+    Color color;
     KivDrwTellSketcher tell;
 
     void Read(const KivSettingRepository* repository, int& r, int& g, int& b) const
     {
-        colour.Read(repository, r, g, b);
+        color.Read(repository, r, g, b);
     }
     void Write(KivSettingRepository* repository, int r, int g, int b) const
     {
-        KivDrwStoreAndTell(repository && KivDrwIsColour(r, g, b), tell,
-                           [&] { colour.Write(repository, r, g, b); });
+        KivDrwStoreAndTell(repository && KivDrwIsColor(r, g, b), tell,
+                           [&] { color.Write(repository, r, g, b); });
     }
     void GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const
     {
-        colour.GetInfo(repository, info);
+        color.GetInfo(repository, info);
     }
 };
 
 // How geometry is drawn.
-constexpr KivDrwToldColour<KivDrwPackedColour> KivDrwGeometryColour(const KivDrwKey<unsigned int>& key)
+constexpr KivDrwToldColor<KivDrwPackedColor> KivDrwGeometryColor(const KivDrwKey<unsigned int>& key)
 {
     return {{key}, &Kiv2DBaseSketcherSettingsAdapt::GeomUIModify};
 }

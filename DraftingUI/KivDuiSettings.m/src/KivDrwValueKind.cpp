@@ -10,13 +10,13 @@ using Kind = KivDrwValueKind;
 constexpr Kind kOfType[] = {
     {"switch", 0.0, 1.0},
     {"line type", 0.0, 7.0},
-    {"colour component", 0.0, 1.0},
-    {"length in millimetres", 0.0, 1.0e12},
+    {"color component", 0.0, 1.0},
+    {"length in millimeters", 0.0, 1.0e12},
     {"text", 0.0, 0.0},
 };
 
-constexpr Kind kColourComponent{"colour component", 0.0, 255.0};
-constexpr Kind kPackedColour{"packed colour 0xRRGGBB", 0.0, 0xFFFFFF};
+constexpr Kind kColorComponent{"color component", 0.0, 255.0};
+constexpr Kind kPackedColor{"packed color 0xRRGGBB", 0.0, 0xFFFFFF};
 constexpr Kind kThickness{"thickness index", 0.0, 6.0};
 constexpr Kind kAngle{"angle in degrees", 0.0, 360.0};
 constexpr Kind kGraduation{"number of parts", 1.0, 100000.0};
@@ -53,20 +53,20 @@ constexpr Exception kExceptions[] = {
     {KivDrwKeys::KivDrwQmtAnnotLay.name, {"switch or level of detail", 0.0, 15.0}},
     {KivDrwKeys::GenDimSemiAutoTimeOut.name, {"time-out", 1.0, 300.0}},
     {KivDrwKeys::Drw_settings_DragModeR14.name, {"choice", 0.0, 2.0}},
-    {KivDrwKeys::Drw_settings_ColorDiagOverDefinedElts.name, kPackedColour},
-    {KivDrwKeys::Drw_settings_ColorDiagNotConsistentElts.name, kPackedColour},
-    {KivDrwKeys::Drw_settings_ColorDiagNotChangedElts.name, kPackedColour},
-    {KivDrwKeys::Drw_settings_ColorDiagWellDefinedElts.name, kPackedColour},
-    {KivDrwKeys::Drw_settings_ColorConstructElts.name, kPackedColour},
-    {KivDrwKeys::Drw_settings_ColorSmartPick.name, kPackedColour},
+    {KivDrwKeys::Drw_settings_ColorDiagOverDefinedElts.name, kPackedColor},
+    {KivDrwKeys::Drw_settings_ColorDiagNotConsistentElts.name, kPackedColor},
+    {KivDrwKeys::Drw_settings_ColorDiagNotChangedElts.name, kPackedColor},
+    {KivDrwKeys::Drw_settings_ColorDiagWellDefinedElts.name, kPackedColor},
+    {KivDrwKeys::Drw_settings_ColorConstructElts.name, kPackedColor},
+    {KivDrwKeys::Drw_settings_ColorSmartPick.name, kPackedColor},
     {KivDrwKeys::LineUpOffsetAngle.name, kAngle},
     {KivDrwKeys::LineUpBaseOffsetAngle.name, kAngle},
     {KivDrwKeys::DrwAnnotSnapMod.name, {"choice", 0.0, 2.0}},
     {KivDrwKeys::DrwBalloonAssocMod.name, {"choice", 0.0, 2.0}},
 };
 
-// Integer colours are three keys of one stem; no other integer key ends in these capitals.
-bool IsColourComponent(const KivDrwRow& row, const Kind& ofType)
+// Integer colors are three keys of one stem; no other integer key ends in these capitals.
+bool IsColorComponent(const KivDrwRow& row, const Kind& ofType)
 {
     return &ofType == &kOfType[0] &&
            std::string_view("RGB").find(std::string_view(row.key).back()) != std::string_view::npos;
@@ -94,5 +94,5 @@ const KivDrwValueKind& KivDrwCatalogue::KindOf(const KivDrwRow& row)
         if (std::string_view(exception.key) == row.key) return exception.kind;
     }
     const Kind& ofType = kOfType[row.makeDefault().index()];
-    return IsColourComponent(row, ofType) ? kColourComponent : ofType;
+    return IsColorComponent(row, ofType) ? kColorComponent : ofType;
 }

@@ -46,7 +46,7 @@ bool KivFormLine::LeavesOut(const KivBoundValue& value)
 
 void KivFormLine::Name(KivDialog* control)
 {
-    if (_label && !_label->GetLabelledControl()) _label->SetLabelledControl(control);
+    if (_label && !_label->GetLabeledControl()) _label->SetLabeledControl(control);
 }
 
 KivUnicodeString KivFormLine::LabelHelp() const
@@ -168,13 +168,13 @@ KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivCachedValue<in
     return spinner;
 }
 
-KivDrwLockComboColor* KivFormLine::Colour(const KivString& name, KivCachedValue<KivPageColour>& value,
-                                          Rule rule)
+KivDrwLockComboColor* KivFormLine::Color(const KivString& name, KivCachedValue<KivPageColor>& value,
+                                         Rule rule)
 {
     if (LeavesOut(value)) return nullptr;
     auto* combo = new KivDrwLockComboColor(&_frame, name, value.Info());
     PlaceNamed(*combo, combo->GetCombo());
-    _form.Add(std::make_unique<KivColourRow>(combo, value, std::move(rule)));
+    _form.Add(std::make_unique<KivColorRow>(combo, value, std::move(rule)));
     return combo;
 }
 

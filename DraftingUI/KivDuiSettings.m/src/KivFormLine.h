@@ -40,7 +40,7 @@ public:
                                Rule rule = {});
     KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<int>& value, const KivWholeSetup& setup,
                                Rule rule = {});
-    KivDrwLockComboColor* Colour(const KivString& name, KivCachedValue<KivPageColour>& value, Rule rule = {});
+    KivDrwLockComboColor* Color(const KivString& name, KivCachedValue<KivPageColor>& value, Rule rule = {});
     KivDrwLockCombo* Choice(const KivString& name, KivCachedValue<int>& value, const KivFormChoice& choice,
                             unsigned long style, Rule rule = {});
     KivDrwLockCombo* Names(const KivString& name, KivCachedValue<KivUnicodeString>& value, KivFormNames names,

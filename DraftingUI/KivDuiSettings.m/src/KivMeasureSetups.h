@@ -4,8 +4,8 @@
 
 // The spinners of lengths and angles that pages have in common.
 
-// A length of 0 or more, stored in millimetres and shown in metres. The step is in millimetres.
-constexpr KivSpinnerSetup KivMillimetres(double step)
+// A length of 0 or more, stored in millimeters and shown in meters. The step is in millimeters.
+constexpr KivSpinnerSetup KivMillimeters(double step)
 {
     return {.magnitude = KivDlgMagnitudeLength,
             .minimum = 0.0,

@@ -31,7 +31,7 @@ public:
 
 protected:
     // A titled group below those that are there, or in the given row of the page's grid. A long page stands
-    // in columns: a group may be as high as several of its neighbours.
+    // in columns: a group may be as high as several of its neighbors.
     KivFormGroup Group(const KivString& name, const KivString& icon);
     KivFormGroup Group(const KivString& name, const KivString& icon, short row, short column = 0,
                        short rows = 1);

@@ -40,22 +40,22 @@ void KivWholeRow::Read()
     Show();
 }
 
-KivColourRow::KivColourRow(KivDrwLockComboColor* combo, KivCachedValue<KivPageColour>& value, Rule rule)
+KivColorRow::KivColorRow(KivDrwLockComboColor* combo, KivCachedValue<KivPageColor>& value, Rule rule)
     : KivPageRow(value, std::move(rule)), _combo(combo), _value(value)
 {}
 
-void KivColourRow::Show()
+void KivColorRow::Show()
 {
     KivDrwSettingsServices::UpdateComboColor(_combo.Get(), _value.cached.red, _value.cached.green,
                                              _value.cached.blue);
 }
 
-void KivColourRow::Read()
+void KivColorRow::Read()
 {
     ReadToStore();
 }
 
-bool KivColourRow::ReadToStore()
+bool KivColorRow::ReadToStore()
 {
     return _combo && KivDrwSettingsServices::GetValueFromComboColor(_combo.Get(), _combo->GetDialog(),
                                                                     _value.cached.red, _value.cached.green,

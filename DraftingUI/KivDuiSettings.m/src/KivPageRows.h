@@ -84,10 +84,10 @@ private:
     KivWeakPtr<KivDrwLockDialog> _control;
 };
 
-// A colour.
-class KivColourRow final : public KivPageRow {
+// A color.
+class KivColorRow final : public KivPageRow {
 public:
-    KivColourRow(KivDrwLockComboColor* combo, KivCachedValue<KivPageColour>& value, Rule rule);
+    KivColorRow(KivDrwLockComboColor* combo, KivCachedValue<KivPageColor>& value, Rule rule);
     void Show() override;
     using KivPageRow::Read;
     void Read() override;
@@ -98,7 +98,7 @@ private:
     bool ReadToStore() override;
 
     KivWeakPtr<KivDrwLockComboColor> _combo;
-    KivCachedValue<KivPageColour>& _value;
+    KivCachedValue<KivPageColor>& _value;
 };
 
 // A choice from words.

@@ -25,8 +25,8 @@ protected:                                                                      
     KivPageValue<Self, T> value{_values, *this, &Self::SetAccessor, &Self::GetAccessor,                      \
                                 &Self::GetInfoAccessor};
 
-// The same for a colour, whose accessors take red, green and blue.
-#define KIV_PAGE_COLOUR(value, SetAccessor, GetAccessor, GetInfoAccessor)                                    \
+// The same for a color, whose accessors take red, green and blue.
+#define KIV_PAGE_COLOR(value, SetAccessor, GetAccessor, GetInfoAccessor)                                     \
 public:                                                                                                      \
     virtual int SetAccessor(const int&, const int&, const int&)                                              \
     {                                                                                                        \
@@ -43,5 +43,5 @@ public:                                                                         
     }                                                                                                        \
                                                                                                              \
 protected:                                                                                                   \
-    KivPageValue<Self, KivPageColour> value{_values, *this, &Self::SetAccessor, &Self::GetAccessor,          \
-                                            &Self::GetInfoAccessor};
+    KivPageValue<Self, KivPageColor> value{_values, *this, &Self::SetAccessor, &Self::GetAccessor,           \
+                                           &Self::GetInfoAccessor};

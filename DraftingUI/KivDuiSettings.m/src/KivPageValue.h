@@ -39,25 +39,25 @@ protected:
     ~KivCachedValue() = default;
 };
 
-// The components of a colour setting, 0 to 255 unless something else is stored.
-struct KivPageColour {
+// The components of a color setting, 0 to 255 unless something else is stored.
+struct KivPageColor {
     int red = 0;
     int green = 0;
     int blue = 0;
 };
 
-// How the accessors of a type are called: with the value itself, a colour with its components one by one.
+// How the accessors of a type are called: with the value itself, a color with its components one by one.
 template <class Frame, class T> struct KivPageAccessors {
     using Set = int (Frame::*)(const T&);
     using Get = int (Frame::*)(T&);
     static void Call(Frame& frame, Set set, const T& value) { (frame.*set)(value); }
     static void Call(Frame& frame, Get get, T& value) { (frame.*get)(value); }
 };
-template <class Frame> struct KivPageAccessors<Frame, KivPageColour> {
+template <class Frame> struct KivPageAccessors<Frame, KivPageColor> {
     using Set = int (Frame::*)(const int&, const int&, const int&);
     using Get = int (Frame::*)(int&, int&, int&);
-    static void Call(Frame& frame, Set set, const KivPageColour& c) { (frame.*set)(c.red, c.green, c.blue); }
-    static void Call(Frame& frame, Get get, KivPageColour& c) { (frame.*get)(c.red, c.green, c.blue); }
+    static void Call(Frame& frame, Set set, const KivPageColor& c) { (frame.*set)(c.red, c.green, c.blue); }
+    static void Call(Frame& frame, Get get, KivPageColor& c) { (frame.*get)(c.red, c.green, c.blue); }
 };
 
 // The value of one accessor triple of a page frame: registers with the frame's values when it is constructed,

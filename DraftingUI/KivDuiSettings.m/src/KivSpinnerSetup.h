@@ -2,7 +2,7 @@
 
 #include "Parameter/KivDlgUnit.h"
 
-// How a spinner of a measure is set up. Range and step are in the spinner's unit, metres or radians.
+// How a spinner of a measure is set up. Range and step are in the spinner's unit, meters or radians.
 struct KivSpinnerSetup {
     KivDlgMagnitude magnitude = KivDlgMagnitudeLength; // shown in the user's unit of it
     double minimum = 0.0;

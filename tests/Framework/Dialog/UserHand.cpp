@@ -58,7 +58,7 @@ TEST_F(UserHand, ReachesOnlyWhatAUserCould)
 TEST_F(UserHand, TypesInAnyUnitAndIsToldWhatIsWrong)
 {
     auto* spinner = new KivDlgSpinner(&page, "spinner", 0);
-    spinner->SetUnit(KivDlgUnitMillimetre);
+    spinner->SetUnit(KivDlgUnitMillimeter);
     spinner->SetMinMaxStep(0.0, 1.0e12, 0.005, 1);
     listener.AddAnalyseNotificationCB(spinner, spinner->GetSpinnerModifyNotification(), &Listener::Hear,
                                       nullptr);
@@ -87,32 +87,32 @@ TEST_F(UserHand, TypesInAnyUnitAndIsToldWhatIsWrong)
     EXPECT_EQ(listener.heard, 7);
 }
 
-TEST_F(UserHand, ChoosesAnyColourAndNamesIt)
+TEST_F(UserHand, ChoosesAnyColorAndNamesIt)
 {
     auto* combo = new KivComboColor(&page, "combo", 0, 255, 255, 255, 0, 0, 0);
     listener.AddAnalyseNotificationCB(combo, combo->GetComboSelectNotification(), &Listener::Hear, nullptr);
-    EXPECT_TRUE(KivUserHand::ChooseColour(*combo, 12, 34, 56));
-    EXPECT_TRUE(KivUserHand::ChooseColour(*combo, 12, 34, 56));
+    EXPECT_TRUE(KivUserHand::ChooseColor(*combo, 12, 34, 56));
+    EXPECT_TRUE(KivUserHand::ChooseColor(*combo, 12, 34, 56));
     unsigned int r = 0, g = 0, b = 0;
     KivUnicodeString name;
     EXPECT_EQ(combo->GetSelectedColor(&r, &g, &b, &name), 1);
     EXPECT_EQ(name, "Custom (12, 34, 56)");
     const int lines = combo->GetLineCount();
-    EXPECT_TRUE(KivUserHand::ChooseColour(*combo, 1, 2, 3));
-    EXPECT_EQ(combo->GetLineCount(), lines) << "colours of one's own pile up";
+    EXPECT_TRUE(KivUserHand::ChooseColor(*combo, 1, 2, 3));
+    EXPECT_EQ(combo->GetLineCount(), lines) << "colors of one's own pile up";
     EXPECT_TRUE(KivUserHand::Choose(*combo, 6));
     EXPECT_EQ(combo->GetSelectedColor(&r, &g, &b), 1);
-    EXPECT_EQ((KivColour{r, g, b}), (KivColour{255, 0, 0}));
+    EXPECT_EQ((KivColor{r, g, b}), (KivColor{255, 0, 0}));
     EXPECT_FALSE(KivUserHand::Choose(*combo, lines));
-    EXPECT_FALSE(KivUserHand::ChooseColour(*combo, 256, 0, 0));
+    EXPECT_FALSE(KivUserHand::ChooseColor(*combo, 256, 0, 0));
     EXPECT_EQ(listener.heard, 3);
 }
 
-TEST_F(UserHand, LabelsGreyWithTheirControl)
+TEST_F(UserHand, LabelsGrayWithTheirControl)
 {
     auto* spinner = new KivDlgSpinner(&page, "spinner", 0);
     auto* label = new KivDlgLabel(&page, "label", 0);
-    label->SetLabelledControl(spinner);
+    label->SetLabeledControl(spinner);
     spinner->SetSensitivity(KivDlgDisabled);
     EXPECT_FALSE(label->IsEnabled());
     delete spinner;

@@ -25,43 +25,43 @@ TEST(TypedMeasures, EveryWayToWriteALength)
     struct Case {
         const char* text;
         KivDlgUnit unit;
-        double metres;
+        double meters;
     };
     const Case cases[] = {
-        {"20", KivDlgUnitMillimetre, 0.02},
+        {"20", KivDlgUnitMillimeter, 0.02},
         {"20mm", KivDlgUnitInch, 0.02},
-        {"0.02 m", KivDlgUnitMillimetre, 0.02},
-        {"2 cm", KivDlgUnitMillimetre, 0.02},
-        {"0,00002 KM", KivDlgUnitMillimetre, 0.02},
-        {"1in", KivDlgUnitMillimetre, 0.0254},
-        {"1 Inch", KivDlgUnitMillimetre, 0.0254},
-        {"3 in.", KivDlgUnitMillimetre, 0.0762},
-        {"25.4 mm", KivDlgUnitMillimetre, 0.0254},
-        {"25,4", KivDlgUnitMillimetre, 0.0254},
-        {" \t+ 25.4\u00A0mm ", KivDlgUnitMetre, 0.0254},
-        {"2.54e1\u202Fmm", KivDlgUnitMetre, 0.0254},
-        {"\u22125 mm", KivDlgUnitMetre, -0.005},
-        {".5", KivDlgUnitMetre, 0.5},
-        {"5.", KivDlgUnitMetre, 5.0},
-        {"3 1/2", KivDlgUnitMillimetre, 0.0035},
-        {"3 1/2\"", KivDlgUnitMillimetre, 0.0889},
+        {"0.02 m", KivDlgUnitMillimeter, 0.02},
+        {"2 cm", KivDlgUnitMillimeter, 0.02},
+        {"0,00002 KM", KivDlgUnitMillimeter, 0.02},
+        {"1in", KivDlgUnitMillimeter, 0.0254},
+        {"1 Inch", KivDlgUnitMillimeter, 0.0254},
+        {"3 in.", KivDlgUnitMillimeter, 0.0762},
+        {"25.4 mm", KivDlgUnitMillimeter, 0.0254},
+        {"25,4", KivDlgUnitMillimeter, 0.0254},
+        {" \t+ 25.4\u00A0mm ", KivDlgUnitMeter, 0.0254},
+        {"2.54e1\u202Fmm", KivDlgUnitMeter, 0.0254},
+        {"\u22125 mm", KivDlgUnitMeter, -0.005},
+        {".5", KivDlgUnitMeter, 0.5},
+        {"5.", KivDlgUnitMeter, 5.0},
+        {"3 1/2", KivDlgUnitMillimeter, 0.0035},
+        {"3 1/2\"", KivDlgUnitMillimeter, 0.0889},
         {"3\u00BD", KivDlgUnitInch, 0.0889},
-        {"1 / 2 in", KivDlgUnitMillimetre, 0.0127},
-        {"2'", KivDlgUnitMillimetre, 0.6096},
+        {"1 / 2 in", KivDlgUnitMillimeter, 0.0127},
+        {"2'", KivDlgUnitMillimeter, 0.6096},
         {"2", KivDlgUnitFoot, 0.6096},
-        {"2.5 feet", KivDlgUnitMillimetre, 0.762},
+        {"2.5 feet", KivDlgUnitMillimeter, 0.762},
         {"2", KivDlgUnitFeetInchOver64, 0.0508},
         {"2", KivDlgUnitFeetDecimalInch, 0.0508},
-        {"2' 3 1/2\"", KivDlgUnitMillimetre, 0.6985},
-        {"2'-3 1/2\"", KivDlgUnitMillimetre, 0.6985},
+        {"2' 3 1/2\"", KivDlgUnitMillimeter, 0.6985},
+        {"2'-3 1/2\"", KivDlgUnitMillimeter, 0.6985},
         {"2' - 3 1/2", KivDlgUnitFeetInchOver16, 0.6985},
-        {"-2'3.5''", KivDlgUnitMillimetre, -0.6985},
-        {"2 ft 3,5 in", KivDlgUnitMillimetre, 0.6985},
-        {"2\u2032 3\u215C\u2033", KivDlgUnitMillimetre, 27.375 * 0.0254},
-        {"2\u2019 14\u201D", KivDlgUnitMillimetre, 38 * 0.0254},
+        {"-2'3.5''", KivDlgUnitMillimeter, -0.6985},
+        {"2 ft 3,5 in", KivDlgUnitMillimeter, 0.6985},
+        {"2\u2032 3\u215C\u2033", KivDlgUnitMillimeter, 27.375 * 0.0254},
+        {"2\u2019 14\u201D", KivDlgUnitMillimeter, 38 * 0.0254},
     };
-    for (const Case& c : cases) EXPECT_DOUBLE_EQ(Typed(c.text, c.unit), c.metres) << c.text;
-    EXPECT_FALSE(std::signbit(Typed("-0", KivDlgUnitMillimetre)));
+    for (const Case& c : cases) EXPECT_DOUBLE_EQ(Typed(c.text, c.unit), c.meters) << c.text;
+    EXPECT_FALSE(std::signbit(Typed("-0", KivDlgUnitMillimeter)));
 }
 
 TEST(TypedMeasures, NothingElseIsTakenAndTheValueStays)
@@ -78,7 +78,7 @@ TEST(TypedMeasures, NothingElseIsTakenAndTheValueStays)
     };
     for (const char* text : texts) {
         double stored = kUntouched;
-        EXPECT_FALSE(KivMeasure::Read(text, KivDlgUnitMillimetre, stored)) << text;
+        EXPECT_FALSE(KivMeasure::Read(text, KivDlgUnitMillimeter, stored)) << text;
         EXPECT_EQ(stored, kUntouched) << text;
     }
     double stored = kUntouched;
@@ -87,26 +87,26 @@ TEST(TypedMeasures, NothingElseIsTakenAndTheValueStays)
     for (const char* text : {"5 mm", "2'", "3\"", "5 s"})
         EXPECT_FALSE(KivMeasure::Read(text, KivDlgUnitDegree, stored)) << text;
     EXPECT_FALSE(KivMeasure::Read("2 1", KivDlgUnitFoot, stored));
-    EXPECT_FALSE(KivMeasure::Read(KivUnicodeString(std::string("5\0mm", 4)), KivDlgUnitMetre, stored));
-    EXPECT_FALSE(KivMeasure::Read(KivUnicodeString(std::string(1000000, '1')), KivDlgUnitMetre, stored));
+    EXPECT_FALSE(KivMeasure::Read(KivUnicodeString(std::string("5\0mm", 4)), KivDlgUnitMeter, stored));
+    EXPECT_FALSE(KivMeasure::Read(KivUnicodeString(std::string(1000000, '1')), KivDlgUnitMeter, stored));
     EXPECT_EQ(stored, kUntouched);
 }
 
-// Settings hold millimetres, taken as 1000.0 times the metres of a spinner.
-TEST(TypedMeasures, MillimetresComeBackExactly)
+// Settings hold millimeters, taken as 1000.0 times the meters of a spinner.
+TEST(TypedMeasures, MillimetersComeBackExactly)
 {
     for (int n = 0; n <= 1000; ++n)
-        ASSERT_EQ(Typed(std::to_string(n), KivDlgUnitMillimetre) * 1000.0, static_cast<double>(n));
+        ASSERT_EQ(Typed(std::to_string(n), KivDlgUnitMillimeter) * 1000.0, static_cast<double>(n));
     EXPECT_EQ(Typed("1", KivDlgUnitInch) * 1000.0, 25.4);
     for (const char* text : {"20", "2 cm", "0.02 m", "20mm"})
-        EXPECT_EQ(Typed(text, KivDlgUnitMillimetre) * 1000.0, 20.0) << text;
+        EXPECT_EQ(Typed(text, KivDlgUnitMillimeter) * 1000.0, 20.0) << text;
 
-    // Above, some numbers have no double that gives them back; no neighbour of the answer would do better.
+    // Above, some numbers have no double that gives them back; no neighbor of the answer would do better.
     for (int n = 1001; n <= 20000; ++n) {
-        const double metres = Typed(std::to_string(n), KivDlgUnitMillimetre);
-        const double error = std::abs(metres * 1000.0 - n);
-        ASSERT_LE(error, std::abs(std::nextafter(metres, 1e9) * 1000.0 - n)) << n;
-        ASSERT_LE(error, std::abs(std::nextafter(metres, 0.0) * 1000.0 - n)) << n;
+        const double meters = Typed(std::to_string(n), KivDlgUnitMillimeter);
+        const double error = std::abs(meters * 1000.0 - n);
+        ASSERT_LE(error, std::abs(std::nextafter(meters, 1e9) * 1000.0 - n)) << n;
+        ASSERT_LE(error, std::abs(std::nextafter(meters, 0.0) * 1000.0 - n)) << n;
     }
 }
 

@@ -48,10 +48,10 @@ TEST_F(Saving, EveryLineThatDidNotChangeSurvivesByteForByte)
 {
     box.Write(file,
               "\xef\xbb\xbf# kivsettings 1\r\n\r\n  # mine \t\r\n int  Ruler=0 \r\nbool New = true\r\n"
-              "int Twice = 1\r\nunsigned Colour = 4294967295\r\nint Twice = 2\r\n\tstring Path = \"a\\\"b\"");
+              "int Twice = 1\r\nunsigned Color = 4294967295\r\nint Twice = 2\r\n\tstring Path = \"a\\\"b\"");
     KivSettingRepository& repository = box.Reopen();
     EXPECT_EQ(box.Read(repository, "Twice", 0), 2);
-    EXPECT_EQ(box.Read(repository, "Colour", 0U), 4294967295U);
+    EXPECT_EQ(box.Read(repository, "Color", 0U), 4294967295U);
     EXPECT_EQ(box.Read(repository, "Path", KivUnicodeString()), "a\"b");
     EXPECT_EQ(box.Said("DraftingOptions.kivsettings:8: Twice: the key stands in line 6 too"), 1);
     EXPECT_EQ(box.Said(":5: New: the type is unknown"), 1);
@@ -62,7 +62,7 @@ TEST_F(Saving, EveryLineThatDidNotChangeSurvivesByteForByte)
     ASSERT_EQ(Save(repository), Receipt::Durable);
     EXPECT_EQ(box.Bytes(file),
               "\xef\xbb\xbf# kivsettings 1\r\n\r\n  # mine \t\r\nint Ruler = 1\r\nbool New = true\r\n"
-              "unsigned Colour = 4294967295\r\nint Twice = 3\r\n\tstring Path = \"a\\\"b\"\r\n"
+              "unsigned Color = 4294967295\r\nint Twice = 3\r\n\tstring Path = \"a\\\"b\"\r\n"
               "int Zebra = 1\r\nint Ant = -2\r\n");
     EXPECT_EQ(box.Names("user"), std::vector<std::string>{"DraftingOptions.kivsettings"});
     KivSettingInfo info;

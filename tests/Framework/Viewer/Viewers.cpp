@@ -139,7 +139,7 @@ TEST_F(Viewers, BagsDrawInOrderWhatHasAPlace)
     const Kiv2DPoint nowhere{kNan, 0.0}, zero;
     bag.Add(std::make_unique<Kiv2DLineRep>(zero, nowhere));
     bag.Add(std::make_unique<Kiv2DArrowRep>(zero, zero, 3.0, 0.35));
-    bag.Add(std::make_unique<Kiv2DTextRep>(nowhere, "t", Kiv2DAnchor::Centre));
+    bag.Add(std::make_unique<Kiv2DTextRep>(nowhere, "t", Kiv2DAnchor::Center));
     const Kiv2DBag* inner = bag.Add(std::make_unique<Kiv2DBag>());
     bag.Add(std::make_unique<Kiv2DPolylineRep>(std::vector{zero, nowhere, zero}));
     EXPECT_FALSE(bag.Add(std::unique_ptr<Kiv2DPointRep>()));

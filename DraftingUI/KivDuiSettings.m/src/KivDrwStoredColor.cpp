@@ -1,29 +1,29 @@
-#include "KivDrwStoredColour.h"
+#include "KivDrwStoredColor.h"
 
 #include "Kiv2DBaseSketcherSettingsAdapt.h"
 
-void KivDrwComponentColour::Read(const KivSettingRepository* repository, int& r, int& g, int& b) const
+void KivDrwComponentColor::Read(const KivSettingRepository* repository, int& r, int& g, int& b) const
 {
     r = KivDrwRead(repository, red);
     g = KivDrwRead(repository, green);
     b = KivDrwRead(repository, blue);
 }
 
-void KivDrwComponentColour::Write(KivSettingRepository* repository, int r, int g, int b) const
+void KivDrwComponentColor::Write(KivSettingRepository* repository, int r, int g, int b) const
 {
-    if (!KivDrwIsColour(r, g, b)) return;
+    if (!KivDrwIsColor(r, g, b)) return;
     KivDrwWrite(repository, red, r);
     KivDrwWrite(repository, green, g);
     KivDrwWrite(repository, blue, b);
 }
 
-void KivDrwComponentColour::GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const
+void KivDrwComponentColor::GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const
 {
     KivDrwGetInfo(repository, red, info);
     info.companions = {green.name, blue.name};
 }
 
-void KivDrwPackedColour::Read(const KivSettingRepository* repository, int& r, int& g, int& b) const
+void KivDrwPackedColor::Read(const KivSettingRepository* repository, int& r, int& g, int& b) const
 {
     unsigned int red = 0, green = 0, blue = 0;
     Kiv2DBaseSketcherSettingsAdapt::GetRGB(KivDrwRead(repository, key), &red, &green, &blue);
@@ -32,21 +32,21 @@ void KivDrwPackedColour::Read(const KivSettingRepository* repository, int& r, in
     b = static_cast<int>(blue);
 }
 
-void KivDrwPackedColour::Write(KivSettingRepository* repository, int r, int g, int b) const
+void KivDrwPackedColor::Write(KivSettingRepository* repository, int r, int g, int b) const
 {
-    if (!KivDrwIsColour(r, g, b)) return;
+    if (!KivDrwIsColor(r, g, b)) return;
     unsigned int packed = 0;
     Kiv2DBaseSketcherSettingsAdapt::SetRGB(&packed, static_cast<unsigned int>(r),
                                            static_cast<unsigned int>(g), static_cast<unsigned int>(b));
     KivDrwWrite(repository, key, packed);
 }
 
-void KivDrwPackedColour::GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const
+void KivDrwPackedColor::GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const
 {
     KivDrwGetInfo(repository, key, info);
 }
 
-bool KivDrwIsColour(int r, int g, int b)
+bool KivDrwIsColor(int r, int g, int b)
 {
     const auto inRange = [](int component) { return component >= 0 && component <= 255; };
     return inRange(r) && inRange(g) && inRange(b);

@@ -2,8 +2,8 @@
 
 #include "KivDrwSettingAccess.h"
 
-// The two background colours, whose components are stored as floats from 0.0 to 1.0.
-struct KivDrwBackgroundColour {
+// The two background colors, whose components are stored as floats from 0.0 to 1.0.
+struct KivDrwBackgroundColor {
     const KivDrwKey<float>& red;
     const KivDrwKey<float>& green;
     const KivDrwKey<float>& blue;
@@ -18,8 +18,8 @@ struct KivDrwBackgroundColour {
     void GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const;
 };
 
-inline constexpr KivDrwBackgroundColour kKivDrwSheetColour{
+inline constexpr KivDrwBackgroundColor kKivDrwSheetColor{
     KivDrwKeys::BackgroundColorRed, KivDrwKeys::BackgroundColorGreen, KivDrwKeys::BackgroundColorBlue};
-inline constexpr KivDrwBackgroundColour kKivDrwDetailColour{KivDrwKeys::BackgroundColorRedDitto,
-                                                            KivDrwKeys::BackgroundColorGreenDitto,
-                                                            KivDrwKeys::BackgroundColorBlueDitto};
+inline constexpr KivDrwBackgroundColor kKivDrwDetailColor{KivDrwKeys::BackgroundColorRedDitto,
+                                                          KivDrwKeys::BackgroundColorGreenDitto,
+                                                          KivDrwKeys::BackgroundColorBlueDitto};

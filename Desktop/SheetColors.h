@@ -3,10 +3,10 @@
 #include <QColor>
 #include <QLinearGradient>
 
-// The colours of one sheet: its surface, and lines that can be told from it whatever colour it has.
-class SheetColours {
+// The colors of one sheet: its surface, and lines that can be told from it whatever color it has.
+class SheetColors {
 public:
-    SheetColours(const QColor& sheet, bool graduated);
+    SheetColors(const QColor& sheet, bool graduated);
 
     const QColor& Sheet() const { return _sheet; }
     // What the surface is filled with, from the top of the sheet to its bottom.
@@ -14,14 +14,14 @@ public:
 
     // Black or white, whichever stands out more.
     const QColor& Ink() const { return _ink; }
-    // A line between the sheet's colour (0) and ink (1).
+    // A line between the sheet's color (0) and ink (1).
     QColor Shade(double strength) const;
     // The same as ink that lets the surface through, which a graduated one needs.
     QColor Veil(double strength) const;
-    // A coloured line, drawn towards ink until it stands out from all of the surface.
+    // A colored line, drawn towards ink until it stands out from all of the surface.
     QColor Accent(const QColor& wanted) const;
 
-    // How far two colours are apart for the eye: 1 (the same) to 21 (black and white).
+    // How far two colors are apart for the eye: 1 (the same) to 21 (black and white).
     static double Contrast(const QColor& one, const QColor& other);
 
 private:

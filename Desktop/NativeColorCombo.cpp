@@ -1,4 +1,4 @@
-#include "NativeColourCombo.h"
+#include "NativeColorCombo.h"
 
 #include "Dialog/KivUserHand.h"
 #include "IconEngine.h"
@@ -12,28 +12,27 @@
 
 namespace {
 
-QColor ToColor(const KivColour& colour)
+QColor ToColor(const KivColor& color)
 {
-    return QColor(static_cast<int>(colour.red), static_cast<int>(colour.green),
-                  static_cast<int>(colour.blue));
+    return QColor(static_cast<int>(color.red), static_cast<int>(color.green), static_cast<int>(color.blue));
 }
 
 // The border contrasts with the surface: white on white has to be seen, black on black too.
-QIcon Swatch(const QColor& colour)
+QIcon Swatch(const QColor& color)
 {
     return IconEngine::Icon(
-        [colour](QPainter& painter, const QRectF& rectangle, const QColor& ink) {
+        [color](QPainter& painter, const QRectF& rectangle, const QColor& ink) {
             const qreal line = std::max(1.0, rectangle.height() / 16.0);
             const qreal inset = line * 1.5;
             painter.setRenderHint(QPainter::Antialiasing, false);
             painter.fillRect(rectangle.adjusted(inset, inset, -inset, -inset), ink);
             painter.fillRect(rectangle.adjusted(inset + line, inset + line, -inset - line, -inset - line),
-                             colour);
+                             color);
         },
         IconEngine::Place::List);
 }
 
-// Four swatches in one: where colours are mixed.
+// Four swatches in one: where colors are mixed.
 QIcon Mixer()
 {
     return IconEngine::Icon(
@@ -59,35 +58,35 @@ unsigned int Part(int component)
 
 } // namespace
 
-KivColour NativeColourCombo::Colour() const
+KivColor NativeColorCombo::Color() const
 {
-    KivColour colour;
-    Combo()->GetSelectedColor(&colour.red, &colour.green, &colour.blue);
-    return colour;
+    KivColor color;
+    Combo()->GetSelectedColor(&color.red, &color.green, &color.blue);
+    return color;
 }
 
-void NativeColourCombo::ShowNode()
+void NativeColorCombo::ShowNode()
 {
     NativeCombo::ShowNode();
-    setAccessibleName(NativeDescription(*TreeNode()).Name() + ": " + ToQt(KivSpokenColourName(Colour())));
+    setAccessibleName(NativeDescription(*TreeNode()).Name() + ": " + ToQt(KivSpokenColorName(Color())));
 }
 
-QStringList NativeColourCombo::Lines() const
+QStringList NativeColorCombo::Lines() const
 {
-    return NativeCombo::Lines() << WindowText("MoreColours");
+    return NativeCombo::Lines() << WindowText("MoreColors");
 }
 
-QIcon NativeColourCombo::LineIcon(int line) const
+QIcon NativeColorCombo::LineIcon(int line) const
 {
-    const auto palette = KivColourPalette();
+    const auto palette = KivColorPalette();
     const auto index = static_cast<std::size_t>(line);
-    if (index < palette.size()) return Swatch(ToColor(palette[index].colour));
+    if (index < palette.size()) return Swatch(ToColor(palette[index].color));
     if (line >= TreeNode()->GetLineCount()) return Mixer();
-    // The colour of the user's own is the last of the tree's lines.
-    return Swatch(ToColor(Colour()));
+    // The color of the user's own is the last of the tree's lines.
+    return Swatch(ToColor(Color()));
 }
 
-void NativeColourCombo::Choose(int line)
+void NativeColorCombo::Choose(int line)
 {
     if (line < TreeNode()->GetLineCount()) {
         NativeCombo::Choose(line);
@@ -96,28 +95,27 @@ void NativeColourCombo::Choose(int line)
     }
 }
 
-QColorDialog* NativeColourCombo::OpenMixer()
+QColorDialog* NativeColorCombo::OpenMixer()
 {
-    auto* mixer = new QColorDialog(ToColor(Colour()), this);
+    auto* mixer = new QColorDialog(ToColor(Color()), this);
     mixer->setAttribute(Qt::WA_DeleteOnClose);
     mixer->setWindowTitle(NativeDescription(*TreeNode()).Name());
     connect(mixer, &QColorDialog::colorSelected, this, [this](const QColor& chosen) {
         if (TreeNode())
-            KivUserHand::ChooseColour(*Combo(), Part(chosen.red()), Part(chosen.green()),
-                                      Part(chosen.blue()));
+            KivUserHand::ChooseColor(*Combo(), Part(chosen.red()), Part(chosen.green()), Part(chosen.blue()));
     });
     mixer->open();
     return mixer;
 }
 
-void NativeColourCombo::keyPressEvent(QKeyEvent* event)
+void NativeColorCombo::keyPressEvent(QKeyEvent* event)
 {
     _passing = true;
     NativeCombo::keyPressEvent(event);
     _passing = false;
 }
 
-void NativeColourCombo::wheelEvent(QWheelEvent* event)
+void NativeColorCombo::wheelEvent(QWheelEvent* event)
 {
     _passing = true;
     NativeCombo::wheelEvent(event);

@@ -1,4 +1,4 @@
-#include "SheetColours.h"
+#include "SheetColors.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,18 +14,17 @@ QColor Mixed(const QColor& from, const QColor& to, double part)
     return QColor(mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue()));
 }
 
-double Luminance(const QColor& colour)
+double Luminance(const QColor& color)
 {
     const auto linear = [](double part) {
         return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
     };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
 } // namespace
 
-SheetColours::SheetColours(const QColor& sheet, bool graduated) : _sheet(sheet), _end(sheet)
+SheetColors::SheetColors(const QColor& sheet, bool graduated) : _sheet(sheet), _end(sheet)
 {
     const bool isDark = Contrast(sheet, Qt::white) > Contrast(sheet, Qt::black);
     _ink = isDark ? Qt::white : Qt::black;
@@ -35,7 +34,7 @@ SheetColours::SheetColours(const QColor& sheet, bool graduated) : _sheet(sheet),
     _end = Mixed(sheet, Contrast(sheet, away) < 1.6 ? _ink : away, kGraduation);
 }
 
-QBrush SheetColours::Surface(double top, double bottom) const
+QBrush SheetColors::Surface(double top, double bottom) const
 {
     if (_end == _sheet) return _sheet;
     QLinearGradient gradient(0.0, top, 0.0, bottom);
@@ -44,31 +43,31 @@ QBrush SheetColours::Surface(double top, double bottom) const
     return gradient;
 }
 
-QColor SheetColours::Shade(double strength) const
+QColor SheetColors::Shade(double strength) const
 {
     return Mixed(_sheet, _ink, strength);
 }
 
-QColor SheetColours::Veil(double strength) const
+QColor SheetColors::Veil(double strength) const
 {
     QColor veil = _ink;
     veil.setAlphaF(static_cast<float>(strength));
     return veil;
 }
 
-QColor SheetColours::Accent(const QColor& wanted) const
+QColor SheetColors::Accent(const QColor& wanted) const
 {
     for (double part = 0.0; part < 1.0; part += 0.1)
         if (const QColor line = Mixed(wanted, _ink, part); WorstContrast(line) >= kReadable) return line;
     return _ink;
 }
 
-double SheetColours::WorstContrast(const QColor& line) const
+double SheetColors::WorstContrast(const QColor& line) const
 {
     return std::min(Contrast(line, _sheet), Contrast(line, _end));
 }
 
-double SheetColours::Contrast(const QColor& one, const QColor& other)
+double SheetColors::Contrast(const QColor& one, const QColor& other)
 {
     const double a = Luminance(one) + 0.05, b = Luminance(other) + 0.05;
     return std::max(a, b) / std::min(a, b);

@@ -5,12 +5,12 @@
 
 class QColorDialog;
 
-// A combo of colours: a swatch before each name, and at the end an entry that lets the user mix any colour.
-class NativeColourCombo : public NativeCombo {
+// A combo of colors: a swatch before each name, and at the end an entry that lets the user mix any color.
+class NativeColorCombo : public NativeCombo {
 public:
     using NativeCombo::NativeCombo;
 
-    // Non-modal for the tree: the colour is entered when the dialog is accepted.
+    // Non-modal for the tree: the color is entered when the dialog is accepted.
     QColorDialog* OpenMixer();
 
 protected:
@@ -23,7 +23,7 @@ protected:
 
 private:
     KivComboColor* Combo() const { return static_cast<KivComboColor*>(TreeNode()); }
-    KivColour Colour() const;
+    KivColor Color() const;
 
     bool _passing = false; // a key or the wheel goes along the lines
 };

@@ -1,4 +1,4 @@
-#include "KivDrwBackgroundColour.h"
+#include "KivDrwBackgroundColor.h"
 
 #include <limits>
 
@@ -21,21 +21,21 @@ float Stored(int component)
 
 } // namespace
 
-void KivDrwBackgroundColour::Read(const KivSettingRepository* repository, int& r, int& g, int& b) const
+void KivDrwBackgroundColor::Read(const KivSettingRepository* repository, int& r, int& g, int& b) const
 {
     r = Scaled(KivDrwRead(repository, red));
     g = Scaled(KivDrwRead(repository, green));
     b = Scaled(KivDrwRead(repository, blue));
 }
 
-void KivDrwBackgroundColour::Write(KivSettingRepository* repository, int r, int g, int b) const
+void KivDrwBackgroundColor::Write(KivSettingRepository* repository, int r, int g, int b) const
 {
     KivDrwWrite(repository, red, Stored(r));
     KivDrwWrite(repository, green, Stored(g));
     KivDrwWrite(repository, blue, Stored(b));
 }
 
-void KivDrwBackgroundColour::GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const
+void KivDrwBackgroundColor::GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const
 {
     KivDrwGetInfo(repository, red, info);
     info.companions = {green.name, blue.name};
