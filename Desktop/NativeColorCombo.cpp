@@ -68,7 +68,8 @@ KivColor NativeColorCombo::Color() const
 void NativeColorCombo::ShowNode()
 {
     NativeCombo::ShowNode();
-    setAccessibleName(NativeDescription(*TreeNode()).Name() + ": " + ToQt(KivSpokenColorName(Color())));
+    const QString name = NativeDescription(*TreeNode()).Name();
+    setAccessibleName(TreeNode()->GetSelect() < 0 ? name : name + ": " + ToQt(KivSpokenColorName(Color())));
 }
 
 QStringList NativeColorCombo::Lines() const

@@ -20,6 +20,6 @@ void KivComboDashed::AddOtherType(const KivString& type, int count)
 
 void KivComboDashed::SetSelect(unsigned int type)
 {
-    if (type >= 1 && type <= static_cast<unsigned int>(GetLineCount()))
-        KivDlgCombo::SetSelect(static_cast<int>(type) - 1);
+    const bool isThere = type >= 1 && type <= static_cast<unsigned int>(GetLineCount());
+    KivDlgCombo::SetSelect(isThere ? static_cast<int>(type) - 1 : -1);
 }

@@ -18,7 +18,7 @@ public:
     // Adds that many types of that name, numbered on from the last one.
     void AddOtherType(const KivString& type, int count);
 
-    // 0 when nothing is selected. A number that no line has is ignored.
+    // 0 when nothing is selected. A number that no line has selects none.
     unsigned int GetSelect() const { return static_cast<unsigned int>(KivDlgCombo::GetSelect() + 1); }
     void SetSelect(unsigned int type);
 };

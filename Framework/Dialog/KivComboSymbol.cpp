@@ -14,6 +14,6 @@ KivComboSymbol::KivComboSymbol(KivDialog* parent, const KivString& name, unsigne
 
 void KivComboSymbol::SetSelect(unsigned int symbol)
 {
-    if (symbol >= 1 && symbol <= static_cast<unsigned int>(GetLineCount()))
-        KivDlgCombo::SetSelect(static_cast<int>(symbol) - 1);
+    const bool isThere = symbol >= 1 && symbol <= static_cast<unsigned int>(GetLineCount());
+    KivDlgCombo::SetSelect(isThere ? static_cast<int>(symbol) - 1 : -1);
 }

@@ -12,7 +12,7 @@ public:
 
     KivDlgCombo* GetCombo() { return this; }
 
-    // 0 when nothing is selected. A number that no line has is ignored.
+    // 0 when nothing is selected. A number that no line has selects none.
     unsigned int GetSelect() const { return static_cast<unsigned int>(KivDlgCombo::GetSelect() + 1); }
     void SetSelect(unsigned int symbol);
 };

@@ -12,5 +12,5 @@ KivComboWeight::KivComboWeight(KivDialog* parent, const KivString& name, unsigne
 
 void KivComboWeight::SetSelect(unsigned int weight)
 {
-    if (weight < kMillimeters.size()) KivDlgCombo::SetSelect(static_cast<int>(weight));
+    KivDlgCombo::SetSelect(weight < kMillimeters.size() ? static_cast<int>(weight) : -1);
 }

@@ -16,7 +16,7 @@ public:
                    int reserved);
 
     unsigned int GetSelect() const { return static_cast<unsigned int>(KivDlgCombo::GetSelect()); }
-    // A number that no line has is ignored.
+    // A number that no line has selects none.
     void SetSelect(unsigned int weight);
     KivDlgCombo* GetCombo() { return this; }
 };

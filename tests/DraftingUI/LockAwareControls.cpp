@@ -177,7 +177,7 @@ TEST_F(LockAwareControls, LineTypesColorsAndRangesFollowTheirContracts)
     auto* without = new KivDrwLockComboDashed(nullptr, "", page.get(), "dashed", 0, 0UL, 0U);
     EXPECT_EQ(without->GetCombo()->GetLineCount(), 7);
     without->SetSelect(8);
-    EXPECT_EQ(without->GetSelect(), 1U) << "there is none";
+    EXPECT_EQ(without->GetCombo()->GetSelect(), -1) << "there is none";
 
     auto* color = new KivDrwLockComboColor(page.get(), "color", KivSettingInfo());
     unsigned int r = 0, g = 0, b = 0;

@@ -114,9 +114,9 @@ TEST_F(ViewPage, ModesTwoAndThreeStandTheOtherWayRoundInTheCombo)
 
 TEST_F(ViewPage, WhatTheStyleOrTheModeGovernsIsNotWritten)
 {
-    const std::vector<const char*> always = {
-        "DrwOcclusionCulling", "DrwExactPreview",     "DrwGenerationForBox", "KivDrwQmtAnnotLay",
-        "KivDrwGeomOf2DLView", "KivDrwDimClipNoShow", "KivDrwSelBodyInAss"};
+    const std::vector<const char*> always = {"DrwOcclusionCulling", "DrwExactPreview", "DrwGenerationForBox",
+                                             "KivDrwQmtAnnotLay", "KivDrwGeomOf2DLView"};
+    const std::vector<const char*> byTheirOwnButton = {"KivDrwDimClipNoShow", "KivDrwSelBodyInAss"};
     const std::vector<const char*> unstyled = {"GenHiddenLines", "GenApplyUncut", "Gen3DColors"};
     const std::vector<const char*> exact = {"GenAxisCreate", "GenCenterCreate", "GenThreadCreate",
                                             "GenFilCreate",  "GenWireFrame",    "DrwProject3DPts"};
@@ -128,6 +128,7 @@ TEST_F(ViewPage, WhatTheStyleOrTheModeGovernsIsNotWritten)
             for (const char* key : always) EXPECT_TRUE(IsStored(key)) << key;
             for (const char* key : unstyled) EXPECT_EQ(IsStored(key), prevented == 1) << key;
             for (const char* key : exact) EXPECT_EQ(IsStored(key), prevented == 1 && mode == 0) << key;
+            for (const char* key : byTheirOwnButton) EXPECT_FALSE(IsStored(key)) << key;
         }
     }
     OpenOn("int DrwOcclusionCulling = 1\nint DrwProject3DPts = 1\n");
@@ -228,11 +229,6 @@ TEST_F(ViewPage, LineTypesAndWeightsAreTheirNumbers)
         EXPECT_EQ(stored(std::string(views[i]) + "Linetype"), types[i]);
         EXPECT_EQ(stored(std::string("Drw") + views[i] + "Thickness"), i == 3 ? 5U : weights[i]);
     }
-    // A number that no line has is kept until something is chosen.
-    OpenOn("unsigned SkinLinetype = 77\n");
-    EXPECT_TRUE(Press("linetypePushButton"));
-    CloseAll("LineTypeWnd");
-    EXPECT_EQ(stored("SkinLinetype"), 77U);
 }
 
 TEST_F(ViewPage, AQualityFixesTheResolutionUnlessItIsTheUsersOwn)

@@ -1,5 +1,7 @@
 #include "KivDrwBackgroundColor.h"
 
+#include "KivDrwPageWrite.h"
+
 #include <limits>
 
 namespace {
@@ -30,9 +32,7 @@ void KivDrwBackgroundColor::Read(const KivSettingRepository* repository, int& r,
 
 void KivDrwBackgroundColor::Write(KivSettingRepository* repository, int r, int g, int b) const
 {
-    KivDrwWrite(repository, red, Stored(r));
-    KivDrwWrite(repository, green, Stored(g));
-    KivDrwWrite(repository, blue, Stored(b));
+    KivDrwChooseTogether<float>(repository, {{red, Stored(r)}, {green, Stored(g)}, {blue, Stored(b)}});
 }
 
 void KivDrwBackgroundColor::GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const

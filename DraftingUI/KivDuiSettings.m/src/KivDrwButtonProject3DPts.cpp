@@ -4,7 +4,8 @@
 
 namespace {
 
-constexpr int kInherited = 0;  // any other value is the number of a symbol
+constexpr int kInherited = 0; // any other value is the number of a symbol
+constexpr int kFirstSymbol = 1;
 constexpr int kComboWidth = 5; // characters
 
 } // namespace
@@ -42,7 +43,9 @@ void KivDrwButtonProject3DPts::ShowValues()
     const bool inherited = _symbol.cached == kInherited;
     (inherited ? _inherited : _chosen)->SetState(KivDlgChecked, 0);
     _combo->SetSensitivity(inherited ? KivDlgDisabled : KivDlgEnabled);
-    if (!inherited) _combo->SetSelect(static_cast<unsigned int>(_symbol.cached));
+    // Some symbol is offered to who turns from the inherited one.
+    if (!inherited || _combo->KivDlgCombo::GetSelect() < 0)
+        _combo->SetSelect(static_cast<unsigned int>(inherited ? kFirstSymbol : _symbol.cached));
 }
 
 void KivDrwButtonProject3DPts::ReadFrom(KivCommand*)
@@ -50,5 +53,12 @@ void KivDrwButtonProject3DPts::ReadFrom(KivCommand*)
     if (!_inherited || !_combo) return;
     const bool inherited = _inherited->GetState() == KivDlgChecked;
     _combo->SetSensitivity(inherited ? KivDlgDisabled : KivDlgEnabled);
-    _symbol.cached = inherited ? kInherited : static_cast<int>(_combo->GetSelect());
+    // A number that is no symbol's stays, with none chosen, until one is.
+    if (inherited) {
+        _symbol.cached = kInherited;
+    } else if (_combo->KivDlgCombo::GetSelect() >= 0) {
+        _symbol.cached = static_cast<int>(_combo->GetSelect());
+    } else {
+        _symbol.Load();
+    }
 }

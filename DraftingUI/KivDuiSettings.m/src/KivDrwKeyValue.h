@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KivDrwSettingAccess.h"
+#include "KivDrwPageWrite.h"
 #include "KivPageValue.h"
 
 // A value of a page without accessors, bound to a key itself.
@@ -26,14 +26,30 @@ public:
         values.push_back(this);
         presets.push_back(this);
     }
-    void Preset() override { KivDrwGet(nullptr, _key, this->cached); }
-    void Load() override { KivDrwGet(_repository, _key, this->cached); }
-    void Save() override { KivDrwSet(_repository, _key, this->cached); }
+    void Preset() override
+    {
+        KivDrwGet(nullptr, _key, this->cached);
+        _loaded = this->cached;
+    }
+    void Load() override
+    {
+        KivDrwGet(_repository, _key, this->cached);
+        _loaded = this->cached;
+    }
+    void Save() override
+    {
+        if (this->cached == _loaded) {
+            KivDrwKeep(_repository, _key, this->cached);
+        } else {
+            KivDrwChoose(_repository, _key, this->cached);
+        }
+    }
     HRESULT GetInfo(KivSettingInfo& info) const override { return KivDrwGetInfo(_repository, _key, info); }
 
 private:
     KivSettingRepository* _repository;
     const KivDrwKey<Stored>& _key;
+    T _loaded{};
 };
 
 // A value as a member of a page or a window that has _values, _presets and _repository:

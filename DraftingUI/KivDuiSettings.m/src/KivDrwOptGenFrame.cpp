@@ -63,10 +63,8 @@ void KivDrwOptGenFrame::Write()
     if (!_repository) return;
     _form.ReadAll();
     // The order is a contract, and not that of reading.
-    KivBoundValue* const order[] = {
-        &_genBalloonByInstance, &_genDim,     &_genDimFilter,   &_genDimAutoPos,
-        &_genDimAutoTrans,      &_genDimAnal, &_genDimFromPart, &_genDimSemiAutoTimeOut};
-    for (KivBoundValue* value : order) value->Save();
+    _form.Store({&_genBalloonByInstance, &_genDim, &_genDimFilter, &_genDimAutoPos, &_genDimAutoTrans,
+                 &_genDimAnal, &_genDimFromPart, &_genDimSemiAutoTimeOut});
 }
 
 void KivDrwOptGenFrame::WriteSettings_CallbackMethod(KivCommand*, KivNotification*, void*)

@@ -8,7 +8,6 @@
 #include "KivDrwButtonRasterView.h"
 #include "KivDrwButtonWireFrameMod.h"
 #include "KivDrwGenerationMode.h"
-#include "KivDrwSettingsServices.h"
 
 namespace {
 
@@ -35,7 +34,9 @@ void KivDrwOptViewFrame::Build()
 {
     BuildElements();
     BuildGeneration();
-    Group("frameClipping", "I_DrwClippingView").Line().Check("chkDimClipNoShow", _dimClipNoShow);
+    Group("frameClipping", "I_DrwClippingView")
+        .Line()
+        .Check("chkDimClipNoShow", _dimClipNoShow, {}, KivTicked::OnlyFor1);
     KivFormGroup view3D = Group("frameView3D", "I_DrwZekView");
     view3D.Line().Check("chkQmtAnnotLay", _qmtAnnotLay);
     view3D.Line().Check("chkGeomOf2DLView", _geomOf2DLView);
@@ -90,7 +91,7 @@ void KivDrwOptViewFrame::BuildGeneration()
     const KivDrwLockCheckButton* check = box.At(1).Check("checkGenBox", _genBox);
     box.Spinner("spinGenBox", _genBoxTol, kTolerance)->SetLongHelp(check->GetLongHelp());
     generation.Line().Check("chkOcclusionCulling", _occlusionCulling);
-    generation.Line().Check("chkSelBodyInAss", _selBodyInAss);
+    generation.Line().Check("chkSelBodyInAss", _selBodyInAss, {}, KivTicked::OnlyFor1);
 }
 
 void KivDrwOptViewFrame::BuildPush(KivFormLine line, const KivString& name, Callback callback)
@@ -111,13 +112,6 @@ void KivDrwOptViewFrame::Initialize()
 void KivDrwOptViewFrame::UpdateWidgets()
 {
     KivPageFrame::UpdateWidgets();
-    // These two are on only for exactly 1, deliberately.
-    const auto showExactly = [this](const char* name, int value) {
-        KivDrwSettingsServices::UpdateCheckButton(static_cast<KivDrwLockCheckButton*>(FindDialog(name)),
-                                                  value == 1);
-    };
-    showExactly("chkDimClipNoShow", _dimClipNoShow.cached);
-    showExactly("chkSelBodyInAss", _selBodyInAss.cached);
     Enable("pushGenFil", _genFil.cached != 0);
     Enable("pushGenWireFrameMod", _genWireFrame.cached != 0);
     Enable("project3DPtsPushButton", _project3DPts.cached != 0);
@@ -178,25 +172,25 @@ void KivDrwOptViewFrame::UpdateVbx()
     for (const KivDrwViewRule& rule : kKivDrwViewRules) Apply(rule, styled);
 }
 
-void KivDrwOptViewFrame::Write(KivCommand*, KivNotification*, void*)
+void KivDrwOptViewFrame::Write(KivCommand* from, KivNotification*, void*)
 {
     if (!_repository) return;
     _form.ReadAll();
-    KivBoundValue* const always[] = {&_occlusionCulling, &_exactPreview,  &_genBox,        &_genBoxTol,
-                                     &_qmtAnnotLay,      &_geomOf2DLView, &_dimClipNoShow, &_selBodyInAss};
-    for (KivBoundValue* value : always) value->Save();
+    _form.Store({&_occlusionCulling, &_exactPreview, &_genBox, &_genBoxTol, &_qmtAnnotLay, &_geomOf2DLView});
+    // These two are stored only when their own button was pressed, deliberately.
+    for (KivBoundValue* value : {&_dimClipNoShow, &_selBodyInAss}) {
+        if (_form.IsSender(*value, from)) _form.Store({value});
+    }
     Enable("spinGenBox", _genBox.cached != 0);
     // What the style or the mode governs is never written from here.
     if (StyleGoverns()) return;
-    for (KivBoundValue* value : {&_genHiddenLines, &_genApplyUncut, &_gen3DColors}) value->Save();
+    _form.Store({&_genHiddenLines, &_genApplyUncut, &_gen3DColors});
     if (_mode.cached == KivDrwExactMode) WriteExactOptions();
 }
 
 void KivDrwOptViewFrame::WriteExactOptions()
 {
-    for (KivBoundValue* value :
-         {&_genAxis, &_genCenter, &_genThread, &_genFil, &_genWireFrame, &_project3DPts})
-        value->Save();
+    _form.Store({&_genAxis, &_genCenter, &_genThread, &_genFil, &_genWireFrame, &_project3DPts});
     Enable("pushGenFil", _genFil.cached != 0);
     Enable("pushGenWireFrameMod", _genWireFrame.cached != 0);
     // Culled points cannot be projected, whether they are asked for or not.

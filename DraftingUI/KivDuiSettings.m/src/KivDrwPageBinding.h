@@ -1,7 +1,7 @@
 #pragma once
 
 #include "KivDrwBackgroundColor.h"
-#include "KivDrwSettingAccess.h"
+#include "KivDrwPageWrite.h"
 #include "KivDrwStoredColor.h"
 #include "KivPageValue.h"
 
@@ -28,7 +28,7 @@ template <auto accessor> using KivValueOf = typename KivAccessorValue<decltype(a
 #define KIV_BIND_SETTING(key, SetAccessor, GetAccessor, GetInfoAccessor)                                     \
     int SetAccessor(const KivValueOf<&Base::SetAccessor>& value) override                                    \
     {                                                                                                        \
-        return KivDrwSet(_repository, key, value);                                                           \
+        return KivDrwChoose(_repository, key, value);                                                        \
     }                                                                                                        \
     KIV_BIND_READING(key, SetAccessor, GetAccessor, GetInfoAccessor)
 
@@ -75,7 +75,7 @@ template <auto accessor> using KivValueOf = typename KivAccessorValue<decltype(a
 public:                                                                                                      \
     virtual int SetAccessor(const T& in)                                                                     \
     {                                                                                                        \
-        return KivDrwSet(_repository, key, in);                                                              \
+        return KivDrwChoose(_repository, key, in);                                                           \
     }                                                                                                        \
     virtual int GetAccessor(T& out)                                                                          \
     {                                                                                                        \

@@ -20,7 +20,7 @@ template <class Store> void KivDrwStoreAndTell(bool canStore, KivDrwTellSketcher
     int SetAccessor(const KivValueOf<&Base::SetAccessor>& value) override                                    \
     {                                                                                                        \
         KivDrwStoreAndTell(_repository, &Kiv2DBaseSketcherSettingsAdapt::Tell,                               \
-                           [&] { KivDrwSet(_repository, key, value); });                                     \
+                           [&] { KivDrwChoose(_repository, key, value); });                                  \
         return S_OK;                                                                                         \
     }                                                                                                        \
     KIV_BIND_READING(key, SetAccessor, GetAccessor, GetInfoAccessor)

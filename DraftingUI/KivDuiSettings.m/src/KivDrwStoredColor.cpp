@@ -1,6 +1,7 @@
 #include "KivDrwStoredColor.h"
 
 #include "Kiv2DBaseSketcherSettingsAdapt.h"
+#include "KivDrwPageWrite.h"
 
 void KivDrwComponentColor::Read(const KivSettingRepository* repository, int& r, int& g, int& b) const
 {
@@ -12,9 +13,7 @@ void KivDrwComponentColor::Read(const KivSettingRepository* repository, int& r, 
 void KivDrwComponentColor::Write(KivSettingRepository* repository, int r, int g, int b) const
 {
     if (!KivDrwIsColor(r, g, b)) return;
-    KivDrwWrite(repository, red, r);
-    KivDrwWrite(repository, green, g);
-    KivDrwWrite(repository, blue, b);
+    KivDrwChooseTogether<int>(repository, {{red, r}, {green, g}, {blue, b}});
 }
 
 void KivDrwComponentColor::GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const
@@ -38,7 +37,7 @@ void KivDrwPackedColor::Write(KivSettingRepository* repository, int r, int g, in
     unsigned int packed = 0;
     Kiv2DBaseSketcherSettingsAdapt::SetRGB(&packed, static_cast<unsigned int>(r),
                                            static_cast<unsigned int>(g), static_cast<unsigned int>(b));
-    KivDrwWrite(repository, key, packed);
+    KivDrwChoose(repository, key, packed);
 }
 
 void KivDrwPackedColor::GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const

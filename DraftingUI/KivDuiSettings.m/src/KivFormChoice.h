@@ -8,6 +8,9 @@
 
 // What a page offers to choose from, as it declares it.
 
+// Which values show a switch as on.
+enum class KivTicked { ForAnyBut0, OnlyFor1 };
+
 // A combo's lines from top to bottom: each with the key of its text in a catalogue and the value that it
 // stands for.
 struct KivFormChoice {

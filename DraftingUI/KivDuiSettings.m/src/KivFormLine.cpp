@@ -95,23 +95,24 @@ KivDlgPushButton* KivFormLine::Push(const KivString& name)
 KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivCachedValue<unsigned char>& value,
                                           Rule rule)
 {
-    return CheckOf(name, value, std::move(rule));
+    return CheckOf(name, value, KivTicked::ForAnyBut0, std::move(rule));
 }
 
-KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivCachedValue<int>& value, Rule rule)
+KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivCachedValue<int>& value, Rule rule,
+                                          KivTicked ticked)
 {
-    return CheckOf(name, value, std::move(rule));
+    return CheckOf(name, value, ticked, std::move(rule));
 }
 
-template <class T>
-KivDrwLockCheckButton* KivFormLine::CheckOf(const KivString& name, KivCachedValue<T>& value, Rule rule)
+template <class T> KivDrwLockCheckButton*
+KivFormLine::CheckOf(const KivString& name, KivCachedValue<T>& value, KivTicked ticked, Rule rule)
 {
     if (LeavesOut(value)) return nullptr;
     auto* button = new KivDrwLockCheckButton(&_frame, name, value.Info(), 0UL);
     Place(*button);
     Name(button->GetDialog());
     _form.Connect(button->GetDialog(), button->GetChkBModifyNotification());
-    _form.Add(std::make_unique<KivCheckRow<T>>(button, value, std::move(rule)));
+    _form.Add(std::make_unique<KivCheckRow<T>>(button, value, ticked, std::move(rule)));
     return button;
 }
 

@@ -33,7 +33,8 @@ public:
     KivFormLine& Attached(unsigned int attachment);
 
     KivDrwLockCheckButton* Check(const KivString& name, KivCachedValue<unsigned char>& value, Rule rule = {});
-    KivDrwLockCheckButton* Check(const KivString& name, KivCachedValue<int>& value, Rule rule = {});
+    KivDrwLockCheckButton* Check(const KivString& name, KivCachedValue<int>& value, Rule rule = {},
+                                 KivTicked ticked = KivTicked::ForAnyBut0);
     KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<double>& value,
                                const KivSpinnerSetup& setup, Rule rule = {});
     KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<int>& value, const KivCountSetup& setup,
@@ -71,8 +72,8 @@ private:
     KivDrwLockSpinner* BareSpinner(const KivString& name, const KivSettingInfo& info, int width,
                                    unsigned long style = 0);
     KivDrwLockCombo* BareCombo(const KivString& name, const KivSettingInfo& info, unsigned long style);
-    template <class T>
-    KivDrwLockCheckButton* CheckOf(const KivString& name, KivCachedValue<T>& value, Rule rule);
+    template <class T> KivDrwLockCheckButton* CheckOf(const KivString& name, KivCachedValue<T>& value,
+                                                      KivTicked ticked, Rule rule);
     bool LeavesOut(const KivBoundValue& value);
     void Place(KivDialog& control);
     void PlaceNamed(KivDrwLockDialog& wrapper, KivDlgCombo* combo);

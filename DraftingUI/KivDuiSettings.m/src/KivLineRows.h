@@ -4,27 +4,20 @@
 #include "KivDrwLockComboWeight.h"
 #include "KivPageRow.h"
 
-// A line type or a line weight, by its number. A stored number that no line has leaves the combo as it is.
-template <class LockCombo> class KivLineRow final : public KivPageRow {
+// A line type or a line weight, by its number. A stored number that no line has shows none as chosen.
+template <class LockCombo> class KivLineRow final : public KivValueRow<LockCombo, unsigned int> {
 public:
-    KivLineRow(LockCombo* combo, KivCachedValue<unsigned int>& value, Rule rule)
-        : KivPageRow(value, std::move(rule)), _combo(combo), _value(value)
+    KivLineRow(LockCombo* combo, KivCachedValue<unsigned int>& value, KivPageRow::Rule rule)
+        : KivValueRow<LockCombo, unsigned int>(combo, value, std::move(rule))
     {}
-    void Show() override
-    {
-        if (_combo) _combo->SetSelect(_value.cached);
-    }
-    using KivPageRow::Read;
-    void Read() override
-    {
-        if (_combo) _value.cached = _combo->GetSelect();
-    }
 
 private:
-    KivDrwLockDialog* Control() const override { return _combo.Get(); }
-
-    KivWeakPtr<LockCombo> _combo;
-    KivCachedValue<unsigned int>& _value;
+    void ShowValue(LockCombo& combo, const unsigned int& number) override { combo.SetSelect(number); }
+    std::optional<unsigned int> Reading(LockCombo& combo) override
+    {
+        if (!combo.GetCombo() || combo.GetCombo()->GetSelect() < 0) return {};
+        return combo.GetSelect();
+    }
 };
 
 using KivLineTypeRow = KivLineRow<KivDrwLockComboDashed>;

@@ -2,7 +2,7 @@
 
 #include "Dialog/KivDlgToolsOptionsFrame.h"
 
-#include <vector>
+#include <algorithm>
 
 KivFormGroup KivPageForm::Group(KivDialog& surface, const KivString& name, const KivString& icon, short row,
                                 short column, short rows)
@@ -45,11 +45,32 @@ void KivPageForm::ShowValue(const KivBoundValue& value)
     }
 }
 
+void KivPageForm::Store(const KivBoundValues& values)
+{
+    // A control that is not there stores nothing.
+    const KivWeakPtr<KivCommand> owner(&_owner);
+    for (KivBoundValue* value : values) {
+        const auto row = std::find_if(_rows.begin(), _rows.end(), [value](const auto& candidate) {
+            return candidate->IsAlive() && candidate->IsOf(*value);
+        });
+        if (row == _rows.end()) continue;
+        value->Save();
+        if (!owner) return; // whoever was told of it has destroyed the page
+        (*row)->ShowInForce();
+    }
+}
+
 void KivPageForm::Read(const KivCommand* from)
 {
     for (const auto& row : _rows) {
-        if (row->Read(from)) return;
+        if (row->ReadIfSender(from)) return;
     }
+}
+
+bool KivPageForm::IsSender(const KivBoundValue& value, const KivCommand* from) const
+{
+    return std::any_of(_rows.begin(), _rows.end(),
+                       [&](const auto& row) { return row->IsOf(value) && row->IsSender(from); });
 }
 
 void KivPageForm::ReadAll()

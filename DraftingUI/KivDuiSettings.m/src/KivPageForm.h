@@ -35,10 +35,15 @@ public:
     void ShowValue(const KivBoundValue& value);
     // Stores the value of the control that sent a notification, and shows it wherever else it is shown.
     void Take(KivCommand* from);
+    // Stores those of these values that have a control, in this order; what the controls show was taken
+    // before. The rows show then what is in force.
+    void Store(const KivBoundValues& values);
     // Takes what the sender shows into the cached value, runs its rule, and stores nothing.
     void Read(const KivCommand* from);
     // Takes what every control shows into the cached values, and stores nothing.
     void ReadAll();
+    // Whether a control of this value sent a notification.
+    bool IsSender(const KivBoundValue& value, const KivCommand* from) const;
 
     // For rows that are being declared.
     bool LeavesOut(const KivBoundValue& value) const;

@@ -1,6 +1,7 @@
 #include "KivPageRows.h"
 
 #include "Dialog/KivTextCatalogue.h"
+#include "KivDrwStoredColor.h"
 #include "KivWholeOf.h"
 
 #include <algorithm>
@@ -8,155 +9,134 @@
 
 KivMeasureRow::KivMeasureRow(KivDrwLockSpinner* spinner, KivCachedValue<double>& value, double shownPerStored,
                              double storedPerShown, Rule rule)
-    : KivPageRow(value, std::move(rule)), _spinner(spinner), _value(value), _shownPerStored(shownPerStored),
+    : KivValueRow(spinner, value, std::move(rule)), _shownPerStored(shownPerStored),
       _storedPerShown(storedPerShown)
 {}
 
-void KivMeasureRow::Show()
+void KivMeasureRow::ShowValue(KivDrwLockSpinner& spinner, const double& value)
 {
-    KivDrwSettingsServices::UpdateSpinner(_spinner.Get(), _value.cached * _shownPerStored);
+    KivDrwSettingsServices::UpdateSpinner(&spinner, value * _shownPerStored);
 }
 
-void KivMeasureRow::Read()
+std::optional<double> KivMeasureRow::Reading(KivDrwLockSpinner& spinner)
 {
-    if (_spinner)
-        KivDrwSettingsServices::GetValueFromSpinner(_spinner.Get(), _spinner->GetDialog(), _storedPerShown,
-                                                    _value.cached);
+    double value = 0.0;
+    KivDrwSettingsServices::GetValueFromSpinner(&spinner, spinner.GetDialog(), _storedPerShown, value);
+    return value;
 }
 
 KivWholeRow::KivWholeRow(KivDrwLockSpinner* spinner, KivCachedValue<int>& value, Rule rule)
-    : KivPageRow(value, std::move(rule)), _spinner(spinner), _value(value)
+    : KivValueRow(spinner, value, std::move(rule))
 {}
 
-void KivWholeRow::Show()
+void KivWholeRow::ShowValue(KivDrwLockSpinner& spinner, const int& value)
 {
-    KivDrwSettingsServices::UpdateSpinner(_spinner.Get(), static_cast<double>(_value.cached));
+    KivDrwSettingsServices::UpdateSpinner(&spinner, static_cast<double>(value));
 }
 
-void KivWholeRow::Read()
+std::optional<int> KivWholeRow::Reading(KivDrwLockSpinner& spinner)
 {
-    if (!_spinner) return;
-    _value.cached = KivWholeOf(_spinner->GetValue());
-    Show();
+    const int whole = KivWholeOf(spinner.GetValue());
+    // What is typed is shown as it counts.
+    if (spinner.GetValue() != static_cast<double>(whole)) ShowValue(spinner, whole);
+    return whole;
 }
 
 KivColorRow::KivColorRow(KivDrwLockComboColor* combo, KivCachedValue<KivPageColor>& value, Rule rule)
-    : KivPageRow(value, std::move(rule)), _combo(combo), _value(value)
+    : KivValueRow(combo, value, std::move(rule))
 {}
 
-void KivColorRow::Show()
+void KivColorRow::ShowValue(KivDrwLockComboColor& combo, const KivPageColor& color)
 {
-    KivDrwSettingsServices::UpdateComboColor(_combo.Get(), _value.cached.red, _value.cached.green,
-                                             _value.cached.blue);
+    if (KivDrwSettingsServices::UpdateComboColor(&combo, color.red, color.green, color.blue) == S_OK) return;
+    if (KivDlgCombo* lines = combo.GetCombo()) lines->SetSelect(-1);
 }
 
-void KivColorRow::Read()
+std::optional<KivPageColor> KivColorRow::Reading(KivDrwLockComboColor& combo)
 {
-    ReadToStore();
-}
-
-bool KivColorRow::ReadToStore()
-{
-    return _combo && KivDrwSettingsServices::GetValueFromComboColor(_combo.Get(), _combo->GetDialog(),
-                                                                    _value.cached.red, _value.cached.green,
-                                                                    _value.cached.blue) == S_OK;
+    KivPageColor color;
+    if (!combo.GetCombo() || combo.GetCombo()->GetSelect() < 0 ||
+        KivDrwSettingsServices::GetValueFromComboColor(&combo, combo.GetDialog(), color.red, color.green,
+                                                       color.blue) != S_OK)
+        return {};
+    return color;
 }
 
 KivChoiceRow::KivChoiceRow(KivDrwLockCombo* combo, KivCachedValue<int>& value, const KivFormChoice& choice,
                            Rule rule)
-    : KivPageRow(value, std::move(rule)), _combo(combo), _value(value), _choice(choice)
+    : KivValueRow(combo, value, std::move(rule)), _choice(choice)
 {}
 
-void KivChoiceRow::Show()
+void KivChoiceRow::ShowValue(KivDrwLockCombo& control, const int& value)
 {
-    KivDlgCombo* combo = _combo ? _combo->GetCombo() : nullptr;
+    KivDlgCombo* combo = control.GetCombo();
     if (!combo) return;
     const KivTextCatalogue& texts = KivTextCatalogue::Open(_choice.catalogue);
     const KivDialog::ChangesAsOne asOne(*combo);
     combo->ClearLine();
     for (const KivFormChoice::Line& line : _choice.lines) {
         combo->SetLine(texts.Find(line.key), -1);
-        if (line.value == _value.cached) combo->SetSelect(combo->GetLineCount() - 1);
+        if (line.value == value) combo->SetSelect(combo->GetLineCount() - 1);
     }
 }
 
-void KivChoiceRow::Read()
+std::optional<int> KivChoiceRow::Reading(KivDrwLockCombo& control)
 {
-    const int line = _combo && _combo->GetCombo() ? _combo->GetCombo()->GetSelect() : -1;
-    if (line >= 0) _value.cached = _choice.lines[static_cast<std::size_t>(line)].value;
+    const int line = control.GetCombo() ? control.GetCombo()->GetSelect() : -1;
+    if (line < 0) return {};
+    return _choice.lines[static_cast<std::size_t>(line)].value;
 }
 
 KivNameRow::KivNameRow(KivDrwLockCombo* combo, KivCachedValue<KivUnicodeString>& value, KivFormNames names,
                        Rule rule)
-    : KivPageRow(value, std::move(rule)), _combo(combo), _value(value), _names(names)
+    : KivValueRow(combo, value, std::move(rule)), _names(names)
 {}
 
-void KivNameRow::Show()
+void KivNameRow::ShowValue(KivDrwLockCombo& control, const KivUnicodeString& value)
 {
-    KivDlgCombo* combo = _combo ? _combo->GetCombo() : nullptr;
+    KivDlgCombo* combo = control.GetCombo();
     if (!combo) return;
     KivListOfUnicodeString names;
     _names(names);
     const KivDialog::ChangesAsOne asOne(*combo);
     combo->ClearLine();
     for (const KivUnicodeString& name : names) combo->SetLine(name, -1);
-    combo->SetSelect(_value.cached);
+    combo->SetSelect(value);
 }
 
-void KivNameRow::Read()
+std::optional<KivUnicodeString> KivNameRow::Reading(KivDrwLockCombo& control)
 {
-    ReadToStore();
-}
-
-bool KivNameRow::ReadToStore()
-{
-    KivDlgCombo* combo = _combo ? _combo->GetCombo() : nullptr;
+    const KivDlgCombo* combo = control.GetCombo();
     KivUnicodeString name;
-    if (!combo || !combo->GetLine(name, combo->GetSelect()) || name == _value.cached) return false;
-    _value.cached = name;
-    return true;
+    if (!combo || !combo->GetLine(name, combo->GetSelect())) return {};
+    return name;
 }
 
 KivRadioRow::KivRadioRow(KivDrwLockFrame* frame, KivCachedValue<int>& value, std::vector<Button> buttons,
                          std::optional<int> otherwise, Rule rule)
-    : KivPageRow(value, std::move(rule)), _frame(frame), _value(value), _buttons(std::move(buttons)),
-      _otherwise(otherwise)
+    : KivValueRow(frame, value, std::move(rule)), _buttons(std::move(buttons)), _otherwise(otherwise)
 {}
 
-void KivRadioRow::Show()
+void KivRadioRow::ShowValue(KivDrwLockFrame&, const int& wanted)
 {
-    const auto has = [this](int value) {
-        return std::any_of(_buttons.begin(), _buttons.end(),
-                           [value](const Button& button) { return button.value == value; });
-    };
-    const std::optional<int> shown = has(_value.cached) ? _value.cached : _otherwise;
+    const bool isThere = std::any_of(_buttons.begin(), _buttons.end(),
+                                     [wanted](const Button& button) { return button.value == wanted; });
+    const std::optional<int> shown = isThere ? wanted : _otherwise;
     for (const auto& [button, value] : _buttons) {
         if (button) button->SetState(shown == value ? KivDlgChecked : KivDlgUnchecked, 0);
     }
 }
 
-const KivRadioRow::Button* KivRadioRow::Chosen() const
+std::optional<int> KivRadioRow::Reading(KivDrwLockFrame&)
 {
-    for (const Button& button : _buttons) {
-        if (button.button && button.button->GetState() == KivDlgChecked) return &button;
+    for (const auto& [button, value] : _buttons) {
+        if (button && button->GetState() == KivDlgChecked) return value;
     }
-    return nullptr;
-}
-
-void KivRadioRow::Read()
-{
-    if (const Button* chosen = Chosen()) _value.cached = chosen->value;
+    return {};
 }
 
 bool KivRadioRow::IsSender(const KivCommand* from) const
 {
     return from && std::any_of(_buttons.begin(), _buttons.end(),
                                [from](const Button& button) { return button.button.Get() == from; });
-}
-
-bool KivRadioRow::ReadToStore()
-{
-    const int before = _value.cached;
-    Read();
-    return _value.cached != before;
 }

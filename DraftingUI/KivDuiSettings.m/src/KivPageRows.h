@@ -10,73 +10,64 @@
 #include "KivFormChoice.h"
 #include "KivPageRow.h"
 
-// The kinds of rows, by the control that they have. A control belongs to the dialog tree and may be gone.
+// The kinds of rows, by the control that they have.
 
-// A switch: any value but 0 is on; it is read as 1 or 0.
-template <class T> class KivCheckRow final : public KivPageRow {
+// A switch: it is read as 1 or 0.
+template <class T> class KivCheckRow final : public KivValueRow<KivDrwLockCheckButton, T> {
 public:
-    KivCheckRow(KivDrwLockCheckButton* button, KivCachedValue<T>& value, Rule rule)
-        : KivPageRow(value, std::move(rule)), _button(button), _value(value)
+    KivCheckRow(KivDrwLockCheckButton* button, KivCachedValue<T>& value, KivTicked ticked,
+                KivPageRow::Rule rule)
+        : KivValueRow<KivDrwLockCheckButton, T>(button, value, std::move(rule)), _ticked(ticked)
     {}
-    void Show() override { KivDrwSettingsServices::UpdateCheckButton(_button.Get(), _value.cached != 0); }
-    using KivPageRow::Read;
-    void Read() override
-    {
-        unsigned char isOn = 0;
-        if (_button && KivDrwSettingsServices::GetValueFromCheckButton(_button.Get(), _button->GetDialog(),
-                                                                       isOn) == S_OK)
-            _value.cached = isOn;
-    }
 
 private:
-    KivDrwLockDialog* Control() const override { return _button.Get(); }
+    void ShowValue(KivDrwLockCheckButton& button, const T& value) override
+    {
+        const bool isOn = _ticked == KivTicked::OnlyFor1 ? value == 1 : value != 0;
+        KivDrwSettingsServices::UpdateCheckButton(&button, isOn);
+    }
+    std::optional<T> Reading(KivDrwLockCheckButton& button) override
+    {
+        unsigned char isOn = 0;
+        KivDrwSettingsServices::GetValueFromCheckButton(&button, button.GetDialog(), isOn);
+        return static_cast<T>(isOn);
+    }
 
-    KivWeakPtr<KivDrwLockCheckButton> _button;
-    KivCachedValue<T>& _value;
+    KivTicked _ticked;
 };
 
 // A measure: shown in the spinner's unit, stored in another. The two factors are stated, not computed from
 // one another, so that each direction rounds as it always has.
-class KivMeasureRow final : public KivPageRow {
+class KivMeasureRow final : public KivValueRow<KivDrwLockSpinner, double> {
 public:
     KivMeasureRow(KivDrwLockSpinner* spinner, KivCachedValue<double>& value, double shownPerStored,
                   double storedPerShown, Rule rule);
-    void Show() override;
-    using KivPageRow::Read;
-    void Read() override;
 
 private:
-    KivDrwLockDialog* Control() const override { return _spinner.Get(); }
+    void ShowValue(KivDrwLockSpinner& spinner, const double& value) override;
+    std::optional<double> Reading(KivDrwLockSpinner& spinner) override;
 
-    KivWeakPtr<KivDrwLockSpinner> _spinner;
-    KivCachedValue<double>& _value;
     double _shownPerStored;
     double _storedPerShown;
 };
 
 // A whole number that is typed as a real one: what is typed is cut towards zero and shown so.
-class KivWholeRow final : public KivPageRow {
+class KivWholeRow final : public KivValueRow<KivDrwLockSpinner, int> {
 public:
     KivWholeRow(KivDrwLockSpinner* spinner, KivCachedValue<int>& value, Rule rule);
-    void Show() override;
-    using KivPageRow::Read;
-    void Read() override;
 
 private:
-    KivDrwLockDialog* Control() const override { return _spinner.Get(); }
-
-    KivWeakPtr<KivDrwLockSpinner> _spinner;
-    KivCachedValue<int>& _value;
+    void ShowValue(KivDrwLockSpinner& spinner, const int& value) override;
+    std::optional<int> Reading(KivDrwLockSpinner& spinner) override;
 };
 
 // The lock of a value that its owner shows and reads itself.
 class KivLockOnlyRow final : public KivPageRow {
 public:
-    using KivPageRow::Read;
     KivLockOnlyRow(KivDrwLockDialog* control, KivBoundValue& value) : KivPageRow(value, {}), _control(control)
     {}
     void Show() override {}
-    void Read() override {}
+    bool Read() override { return false; }
 
 private:
     KivDrwLockDialog* Control() const override { return _control.Get(); }
@@ -84,60 +75,43 @@ private:
     KivWeakPtr<KivDrwLockDialog> _control;
 };
 
-// A color.
-class KivColorRow final : public KivPageRow {
+// A color. What is none, components out of range, shows no line as chosen.
+class KivColorRow final : public KivValueRow<KivDrwLockComboColor, KivPageColor> {
 public:
     KivColorRow(KivDrwLockComboColor* combo, KivCachedValue<KivPageColor>& value, Rule rule);
-    void Show() override;
-    using KivPageRow::Read;
-    void Read() override;
 
 private:
-    KivDrwLockDialog* Control() const override { return _combo.Get(); }
-
-    bool ReadToStore() override;
-
-    KivWeakPtr<KivDrwLockComboColor> _combo;
-    KivCachedValue<KivPageColor>& _value;
+    void ShowValue(KivDrwLockComboColor& combo, const KivPageColor& color) override;
+    std::optional<KivPageColor> Reading(KivDrwLockComboColor& combo) override;
 };
 
 // A choice from words.
-class KivChoiceRow final : public KivPageRow {
+class KivChoiceRow final : public KivValueRow<KivDrwLockCombo, int> {
 public:
     KivChoiceRow(KivDrwLockCombo* combo, KivCachedValue<int>& value, const KivFormChoice& choice, Rule rule);
-    void Show() override;
-    using KivPageRow::Read;
-    void Read() override;
 
 private:
-    KivDrwLockDialog* Control() const override { return _combo.Get(); }
+    void ShowValue(KivDrwLockCombo& combo, const int& value) override;
+    std::optional<int> Reading(KivDrwLockCombo& combo) override;
 
-    KivWeakPtr<KivDrwLockCombo> _combo;
-    KivCachedValue<int>& _value;
     KivFormChoice _choice;
 };
 
-// A choice from names that are found when the page is shown, such as files on the disk. A stored name that is
-// not among them stays stored.
-class KivNameRow final : public KivPageRow {
+// A choice from names that are found when the page is shown, such as files on the disk.
+class KivNameRow final : public KivValueRow<KivDrwLockCombo, KivUnicodeString> {
 public:
     KivNameRow(KivDrwLockCombo* combo, KivCachedValue<KivUnicodeString>& value, KivFormNames names,
                Rule rule);
-    void Show() override;
-    using KivPageRow::Read;
-    void Read() override;
 
 private:
-    KivDrwLockDialog* Control() const override { return _combo.Get(); }
-    bool ReadToStore() override;
+    void ShowValue(KivDrwLockCombo& combo, const KivUnicodeString& value) override;
+    std::optional<KivUnicodeString> Reading(KivDrwLockCombo& combo) override;
 
-    KivWeakPtr<KivDrwLockCombo> _combo;
-    KivCachedValue<KivUnicodeString>& _value;
     KivFormNames _names;
 };
 
 // A choice of radio buttons under one padlock. A button that is chosen already stores nothing.
-class KivRadioRow final : public KivPageRow {
+class KivRadioRow final : public KivValueRow<KivDrwLockFrame, int> {
 public:
     struct Button {
         KivWeakPtr<KivDlgRadioButton> button;
@@ -146,19 +120,12 @@ public:
     // Without a value that another button has, the one of `otherwise` is shown as chosen, if there is one.
     KivRadioRow(KivDrwLockFrame* frame, KivCachedValue<int>& value, std::vector<Button> buttons,
                 std::optional<int> otherwise, Rule rule);
-    void Show() override;
-    using KivPageRow::Read;
-    void Read() override;
+    bool IsSender(const KivCommand* from) const override;
 
 private:
-    KivDrwLockDialog* Control() const override { return _frame.Get(); }
-    bool IsSender(const KivCommand* from) const override;
-    bool ReadToStore() override;
+    void ShowValue(KivDrwLockFrame& frame, const int& value) override;
+    std::optional<int> Reading(KivDrwLockFrame& frame) override;
 
-    const Button* Chosen() const;
-
-    KivWeakPtr<KivDrwLockFrame> _frame;
-    KivCachedValue<int>& _value;
     std::vector<Button> _buttons;
     std::optional<int> _otherwise;
 };

@@ -10,7 +10,7 @@ class KivBoundValue {
 public:
     // Takes the value in force into the cache; what an accessor answers does not matter.
     virtual void Load() = 0;
-    // Stores the cached value.
+    // Stores the cached value. One that is still as it was loaded was chosen by nobody.
     virtual void Save() = 0;
     // The lock record of the setting; without one it fails and leaves the record untouched.
     virtual HRESULT GetInfo(KivSettingInfo& info) const = 0;
@@ -44,6 +44,8 @@ struct KivPageColor {
     int red = 0;
     int green = 0;
     int blue = 0;
+
+    bool operator==(const KivPageColor&) const = default;
 };
 
 // How the accessors of a type are called: with the value itself, a color with its components one by one.

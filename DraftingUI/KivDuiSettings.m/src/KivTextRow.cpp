@@ -3,16 +3,17 @@
 #include <utility>
 
 KivTextRow::KivTextRow(KivDrwLockEditor* editor, KivCachedValue<KivUnicodeString>& value, Rule rule)
-    : KivPageRow(value, std::move(rule)), _editor(editor), _value(value)
+    : KivValueRow(editor, value, std::move(rule))
 {}
 
-void KivTextRow::Show()
+void KivTextRow::ShowValue(KivDrwLockEditor& editor, const KivUnicodeString& value)
 {
-    if (KivDlgEditor* field = _editor ? _editor->GetEditor() : nullptr) field->SetText(_value.cached, 0);
+    if (KivDlgEditor* field = editor.GetEditor()) field->SetText(value, 0);
 }
 
-void KivTextRow::Read()
+std::optional<KivUnicodeString> KivTextRow::Reading(KivDrwLockEditor& editor)
 {
-    if (const KivDlgEditor* field = _editor ? _editor->GetEditor() : nullptr)
-        _value.cached = field->GetText();
+    const KivDlgEditor* field = editor.GetEditor();
+    if (!field) return {};
+    return field->GetText();
 }

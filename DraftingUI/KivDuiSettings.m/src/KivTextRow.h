@@ -4,15 +4,11 @@
 #include "KivPageRow.h"
 
 // A text. It is stored as it was typed.
-class KivTextRow final : public KivPageRow {
+class KivTextRow final : public KivValueRow<KivDrwLockEditor, KivUnicodeString> {
 public:
     KivTextRow(KivDrwLockEditor* editor, KivCachedValue<KivUnicodeString>& value, Rule rule);
-    void Show() override;
-    void Read() override;
 
 private:
-    KivDrwLockDialog* Control() const override { return _editor.Get(); }
-
-    KivWeakPtr<KivDrwLockEditor> _editor;
-    KivCachedValue<KivUnicodeString>& _value;
+    void ShowValue(KivDrwLockEditor& editor, const KivUnicodeString& value) override;
+    std::optional<KivUnicodeString> Reading(KivDrwLockEditor& editor) override;
 };
