@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Component/KivClass.h"
 #include "Component/KivTie.h"
 #include "Component/KivVar.h"
 #include "Options/KivEditorFactory.h"
