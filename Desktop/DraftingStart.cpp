@@ -53,7 +53,7 @@ std::optional<int> DraftingStart::Prepare(const CommandLine& line, std::ostream&
     }
     if (const auto code = ChooseUnit(line, err)) return code;
     if (const auto code = ChooseLayer(line, err)) return code;
-    for (const char* library : {"KivDuiSettings", "KivDrwSettingCtrl"}) KivLoadLibrary(library);
+    for (const char* library : {KIV_COMPONENT_LIBRARIES}) KivLoadLibrary(library);
     if (line.administrator.empty()) {
         KivDrwOptionsServices::InitOptionsOnDisk();
     } else {

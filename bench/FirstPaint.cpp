@@ -21,7 +21,7 @@ void Paint(QWidget& window)
 void Ours(benchmark::State& state)
 {
     KivSettingsSandbox box;
-    KivLoadLibrary("KivDuiSettings");
+    for (const char* library : {KIV_COMPONENT_LIBRARIES}) KivLoadLibrary(library);
     KivUserSettingsManager manager;
     for (auto _ : state) {
         OptionsWindow window(std::make_unique<KivOptionsSession>(manager), OptionsMemory(QString()));

@@ -213,7 +213,7 @@ long Nodes(const KivDialog& node)
 
 void LoadPages()
 {
-    for (const char* library : {"KivDuiSettings", "KivDrwSettingCtrl"}) KivLoadLibrary(library);
+    for (const char* library : {KIV_COMPONENT_LIBRARIES}) KivLoadLibrary(library);
 }
 
 void BuildPages(benchmark::State& state)

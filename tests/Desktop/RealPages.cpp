@@ -12,7 +12,6 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QDir>
-#include <QFile>
 #include <QLabel>
 #include <QPixmap>
 #include <QScrollBar>
@@ -26,9 +25,7 @@ class RealPages : public testing::Test {
 protected:
     void SetUp() override
     {
-        if (!QFile::exists(Library())) GTEST_SKIP() << "built without the drafting library";
-        for (const char* library : {"KivDuiSettings", "KivDrwSettingCtrl"})
-            ASSERT_TRUE(KivLoadLibrary(library));
+        for (const char* library : {KIV_COMPONENT_LIBRARIES}) ASSERT_TRUE(KivLoadLibrary(library));
         KivSettingsSandbox::Write(sandbox.File("site"), "lock int Drw_settings_GridSnapPt = 1\n");
         sandbox.NameLayers({"site"});
         KivSettingRepository::ForgetAll();
@@ -69,10 +66,6 @@ protected:
             const QString file = QString("%1-%2.png").arg(picture).arg(page);
             EXPECT_TRUE(directory.isEmpty() || window->grab().save(QDir(directory).filePath(file)));
         }
-    }
-    static QString Library()
-    {
-        return QString::fromUtf8(KivInstallRoot().ConvertToChar()) + "/lib/libKivDuiSettings.so";
     }
 
     KivSettingsSandbox sandbox;

@@ -151,6 +151,9 @@ TEST(ComputedDefaults, TitleBlocksComeFromTheFirstInstallationThatHasThem)
     EXPECT_EQ(DefaultFrameAndTitleBlockPath(), (a + tail).c_str());
     box.SetVariable("KivInstallPath", "");
     EXPECT_TRUE(DefaultFrameAndTitleBlockPath().IsEmpty());
+    box.SetVariable("KivInstallPath", {});
+    EXPECT_TRUE(std::filesystem::is_directory(DefaultFrameAndTitleBlockPath().ConvertToChar()))
+        << "an installation brings the directory that is its default";
 }
 
 TEST(ComputedDefaults, StyleFilesAreLookedForInEveryCollection)

@@ -20,8 +20,7 @@ class OptionsPages : public testing::Test {
 protected:
     static void SetUpTestSuite()
     {
-        for (const char* library : {"KivDuiSettings", "KivDrwSettingCtrl"})
-            ASSERT_TRUE(KivLoadLibrary(library));
+        for (const char* library : {KIV_COMPONENT_LIBRARIES}) ASSERT_TRUE(KivLoadLibrary(library));
     }
     void TearDown() override
     {

@@ -32,8 +32,7 @@ std::string Noise(std::mt19937& random)
 
 TEST(Noise, NoBytesBreakTheReaderOrTheWriter)
 {
-    for (const auto& sample : std::filesystem::directory_iterator(
-             std::filesystem::path(__FILE__).parent_path() / "../../Fuzz/settings")) {
+    for (const auto& sample : std::filesystem::directory_iterator(KIV_TEST_DATA "/settings")) {
         EXPECT_EQ(BrokenProperty(KivSettingsSandbox::Bytes(sample.path())), nullptr) << sample.path();
     }
     std::mt19937 random(20240607);
