@@ -1,6 +1,9 @@
 #include "DraftingPictures.h"
 
+#include "Dialog/KivDlgCheckButton.h"
+#include "Dialog/KivDlgCombo.h"
 #include "Dialog/KivDlgPushButton.h"
+#include "Dialog/KivHandReach.h"
 #include "Dialog/KivUserHand.h"
 #include "DraftingText.h"
 #include "DraftingWindow.h"
@@ -41,13 +44,19 @@ void ShowWhole(QWidget& window, const QScrollArea* area)
     window.resize(window.size() + missing.expandedTo(QSize(0, 0)).boundedTo(QSize(1200, 2400)));
 }
 
-void CollectButtons(const KivDialog& node, std::vector<KivDlgPushButton*>& buttons)
+template <class Control> void Collect(const KivDialog& node, std::vector<Control*>& found)
 {
     for (KivDialog* child : node.Children()) {
-        if (child->IsAKindOf(KivDlgPushButton::Name))
-            buttons.push_back(static_cast<KivDlgPushButton*>(child));
-        CollectButtons(*child, buttons);
+        if (child->IsAKindOf(Control::Name)) found.push_back(static_cast<Control*>(child));
+        Collect(*child, found);
     }
+}
+
+template <class Control> std::vector<Control*> All(const KivDialog& page)
+{
+    std::vector<Control*> found;
+    Collect(page, found);
+    return found;
 }
 
 } // namespace
@@ -70,32 +79,66 @@ bool DraftingPictures::Write(DraftingWindow& window, const KivUnicodeString& pag
     options.show();
     const KivOptionsSession::Page* const only = page.IsEmpty() ? nullptr : options.Session()->FindPage(page);
     bool isSaved = true;
-    for (const KivOptionsSession::Page& shown : options.Session()->Pages()) {
-        if (only && &shown != only) continue;
-        options.ShowPage(KivUnicodeString(shown.editor));
+    const auto name = [](const KivOptionsSession::Page& tab) { return "options-" + FileName(tab.title); };
+    for (const KivOptionsSession::Page& tab : options.Session()->Pages()) {
+        if (only && &tab != only) continue;
+        options.ShowPage(KivUnicodeString(tab.editor));
         options.resize(980, 760);
         ShowWhole(options, &options.PageView(options.CurrentPage()));
-        const QString name = "options-" + FileName(shown.title);
-        isSaved = isSaved && Save(options, name) && WriteWindows(options, *shown.frame, name);
+        isSaved = isSaved && Save(options, name(tab)) &&
+                  WriteWindows(options, All<KivDlgPushButton>(*tab.frame), name(tab));
+    }
+    // After the tabs, which show the settings as they are: this changes some, until the end takes it back.
+    for (const KivOptionsSession::Page& tab : options.Session()->Pages()) {
+        if (!only || &tab == only) isSaved = isSaved && WriteGrayWindows(options, *tab.frame, name(tab));
+    }
+    if (!only) {
+        for (const KivUnicodeString& title : options.Session()->EmptyTabs()) {
+            _err << "kivdrafting: " << DraftingText("PicturesNoTab").arg(ToQt(title)).toStdString() << '\n';
+            isSaved = false;
+        }
     }
     options.reject();
     return isSaved;
 }
 
-bool DraftingPictures::WriteWindows(const OptionsWindow& options, const KivDialog& page, const QString& name)
+bool DraftingPictures::WriteWindows(const OptionsWindow& options,
+                                    const std::vector<KivDlgPushButton*>& buttons, const QString& name)
 {
-    std::vector<KivDlgPushButton*> buttons;
-    CollectButtons(page, buttons);
     bool isSaved = true;
     for (KivDlgPushButton* button : buttons) {
         if (!KivUserHand::Press(*button)) continue;
         for (NativeDialog* window : options.findChildren<NativeDialog*>()) {
             if (!window->isVisible()) continue;
+            const QString file = name + "-" + FileName(window->Node()->GetTitle());
             ShowWhole(*window, window->findChild<QScrollArea*>());
-            isSaved = isSaved && Save(*window, name + "-" + FileName(window->Node()->GetTitle()));
+            isSaved = isSaved && (!_drawn.insert(file).second || Save(*window, file));
             window->close();
         }
         KivCommand::DrainDelayedDestruction();
+    }
+    return isSaved;
+}
+
+// A button that the settings make gray is reached as a user reaches it: by what enables it on its page.
+bool DraftingPictures::WriteGrayWindows(const OptionsWindow& options, const KivDialog& page,
+                                        const QString& name)
+{
+    std::vector<KivDlgPushButton*> gray = All<KivDlgPushButton>(page);
+    std::erase_if(gray, [](const KivDlgPushButton* button) { return bool(KivHandReach::Reach(*button)); });
+    if (gray.empty()) return true;
+    bool isSaved = true;
+    for (KivDlgCheckButton* check : All<KivDlgCheckButton>(page)) {
+        if (!KivUserHand::Tick(*check)) continue;
+        isSaved = isSaved && WriteWindows(options, gray, name);
+        KivUserHand::Tick(*check);
+    }
+    for (KivDlgCombo* combo : All<KivDlgCombo>(page)) {
+        const int before = combo->GetSelect();
+        for (int line = 0; line < combo->GetLineCount(); ++line) {
+            if (KivUserHand::Choose(*combo, line)) isSaved = isSaved && WriteWindows(options, gray, name);
+        }
+        KivUserHand::Choose(*combo, before);
     }
     return isSaved;
 }

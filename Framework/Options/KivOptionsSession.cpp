@@ -48,15 +48,19 @@ void KivOptionsSession::Add(const KivUserSettingsManager::Editor& editor)
 {
     auto frame = std::make_unique<KivEditorPage>(_root.get(), editor.name);
     editor.settings->BuildEditor(frame.get());
-    if (frame->Children().empty()) return;
-    editor.settings->SetUserSettingsValue(kNoRepository);
 
     // The texts of a tab are those of the library that its editor is part of.
     const KivMetaClass* meta = KivMetaClass::Find(editor.name.ConvertToChar());
     const KivTextCatalogue& texts = KivTextCatalogue::Open(meta->Framework());
-    const KivUnicodeString title = texts.Find(editor.name + ".Title");
+    KivUnicodeString title = texts.Find(editor.name + ".Title");
+    if (title.IsEmpty()) title = KivUnicodeString(editor.name);
+    if (frame->Children().empty()) {
+        _emptyTabs.push_back(title);
+        return;
+    }
+    editor.settings->SetUserSettingsValue(kNoRepository);
     _pages.push_back({.editor = editor.name,
-                      .title = title.IsEmpty() ? KivUnicodeString(editor.name) : title,
+                      .title = title,
                       .icon = KivString(texts.Find(editor.name + ".Icon").View()),
                       .help = texts.Find(editor.name + ".Help"),
                       .frame = frame.get(),

@@ -28,6 +28,8 @@ public:
 
     // The tabs, in the order of their positions.
     const std::vector<Page>& Pages() const { return _pages; }
+    // The titles of the tabs that are not offered.
+    const std::vector<KivUnicodeString>& EmptyTabs() const { return _emptyTabs; }
     // The tab that a person calls so: its title or the class of its editor, in any case; null when there is
     // none.
     const Page* FindPage(const KivUnicodeString& name) const;
@@ -52,4 +54,5 @@ private:
 
     std::unique_ptr<KivDlgFrame> _root;
     std::vector<Page> _pages;
+    std::vector<KivUnicodeString> _emptyTabs;
 };

@@ -242,6 +242,9 @@ TEST_F(SheetProgram, ItDrawsPicturesAndEndsInOrder)
     EXPECT_NE(out.str().find("drafting.png\n"), std::string::npos) << out.str();
     EXPECT_GE(QImage(QString::fromStdString((pictures / "drafting.png").string())).width(), 2000);
     EXPECT_TRUE(fs::exists(pictures / "options-general.png"));
+    EXPECT_TRUE(fs::exists(pictures / "options-view-raster-picture-options.png"))
+        << "also a window whose button is gray by the settings\n"
+        << out.str();
     box.Write(box.root / "file", "");
     EXPECT_EQ(run({"--screenshot", QString::fromStdString((box.root / "file" / "x").string())}), 1);
     EXPECT_TRUE(Erred("cannot be made")) << err.str();

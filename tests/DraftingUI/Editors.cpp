@@ -4,6 +4,7 @@
 #include "KivDrwOptGeoEditor.h"
 #include "KivDrwOptViewEditor.h"
 #include "KivDrwRepository.h"
+#include "Options/KivOptionsSession.h"
 #include "SketcherTest.h"
 
 namespace {
@@ -99,6 +100,11 @@ TEST_F(Editors, AdministrationDoesNothingWithoutItsController)
     editor->CancelModification(nullptr);
     editor->ResetUserSettingsValue();
     EXPECT_EQ(Heard(), "");
+    const auto manager = Made<KivUserSettingsManager>();
+    const KivOptionsSession session(*manager.Get());
+    EXPECT_EQ(session.FindPage("Administration"), nullptr);
+    ASSERT_EQ(session.EmptyTabs().size(), 1U) << "what is not offered is known, so that it can be said";
+    EXPECT_EQ(session.EmptyTabs()[0], "Administration");
 }
 
 TEST_F(Editors, AdministrationSaysThatItsControllerIsMissing)
