@@ -1,7 +1,7 @@
 #include "DraftingStart.h"
 
+#include "Base/KivTextCatalogue.h"
 #include "Component/KivLibrary.h"
-#include "Dialog/KivTextCatalogue.h"
 #include "DraftingOptions.h"
 #include "DraftingText.h"
 #include "KivDrwOptionsServices.h"

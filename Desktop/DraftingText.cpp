@@ -1,6 +1,6 @@
 #include "DraftingText.h"
 
-#include "Dialog/KivTextCatalogue.h"
+#include "Base/KivTextCatalogue.h"
 #include "NativeText.h"
 
 QString DraftingText(const char* key)

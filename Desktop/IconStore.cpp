@@ -1,7 +1,7 @@
 #include "IconStore.h"
 
 #include "Base/KivDiagnostic.h"
-#include "Dialog/KivTextCatalogue.h"
+#include "Base/KivTextCatalogue.h"
 #include "IconEngine.h"
 #include "NativeText.h"
 

@@ -7,14 +7,6 @@
 
 namespace {
 
-// A label may name the frame that wraps a control and its padlock.
-const KivDlgLabel* LabelOf(const KivDialog& node)
-{
-    if (const KivDlgLabel* label = node.GetLabel()) return label;
-    const KivDialog* parent = node.GetParentDialog();
-    return parent ? parent->GetLabel() : nullptr;
-}
-
 // Whom a text is asked of: a label explains nothing that its control does not explain better.
 const KivDialog& Speaker(const KivDialog& node)
 {
@@ -30,33 +22,16 @@ QString Wrapped(const KivUnicodeString& text)
     return "<qt>" + ToQt(text).toHtmlEscaped().replace(u'\n', "<br>") + "</qt>";
 }
 
-KivUnicodeString PlainTip(const KivDialog& node)
-{
-    if (!node.IsEnabled()) {
-        const KivUnicodeString why = node.WhyDisabled();
-        return why.IsEmpty() ? FromQt(WindowText("NotAvailable")) : why;
-    }
-    for (const KivUnicodeString& help : {node.GetHelp(), node.GetShortHelp(), node.GetLongHelp()}) {
-        if (!help.IsEmpty()) return help;
-    }
-    return {};
-}
-
 } // namespace
 
 QString NativeDescription::Name() const
 {
-    const KivUnicodeString title = _node.GetSpokenTitle();
-    const bool isObjectName = title == KivUnicodeString(_node.KivCommand::GetName());
-    const KivDlgLabel* label = LabelOf(_node);
-    QString name = ToQt(isObjectName && label ? label->GetSpokenTitle() : title).trimmed();
-    while (name.endsWith(u':')) name.chop(1);
-    return name;
+    return ToQt(_node.GetSpokenName());
 }
 
 QString NativeDescription::Tip() const
 {
-    return ToQt(PlainTip(Speaker(_node)));
+    return ToQt(Speaker(_node).GetTip());
 }
 
 QString NativeDescription::LongHelp() const
@@ -68,7 +43,7 @@ QString NativeDescription::LongHelp() const
 
 void NativeDescription::ShowOn(QWidget& widget) const
 {
-    widget.setToolTip(Wrapped(PlainTip(Speaker(_node))));
+    widget.setToolTip(Wrapped(Speaker(_node).GetTip()));
     widget.setWhatsThis(LongHelp());
     widget.setAccessibleName(Name());
     widget.setAccessibleDescription(Tip());

@@ -11,10 +11,8 @@ class NativeDescription {
 public:
     explicit NativeDescription(const KivDialog& node) : _node(node) {}
 
-    // Its own title, else that of the label which names it (or the frame that wraps it).
     QString Name() const;
-    // Why it cannot be used while that is so, else its help; a label speaks for its control. Never empty for
-    // a control that is gray.
+    // A label speaks for its control.
     QString Tip() const;
     QString LongHelp() const;
 

@@ -16,9 +16,13 @@ namespace {
 constexpr qreal kGrid = 16.0; // the drawing is made on a grid of so many units
 constexpr qreal kPale = 0.45;
 
-// The shackle stands on the body on both sides, or is swung up on its right foot.
-void DrawPadlock(QPainter& painter, bool locked, QColor ink)
+enum class Look { Open, Partly, Closed };
+
+// The shackle stands on the body on both sides, or is swung up on its right foot; the body of one that is
+// closed in part is filled in part.
+void DrawPadlock(QPainter& painter, Look look, QColor ink)
 {
+    const bool locked = look != Look::Open;
     const QRectF body(2.5, 7.5, 11.0, 7.0);
     QPainterPath shackle;
     if (locked) {
@@ -35,10 +39,9 @@ void DrawPadlock(QPainter& painter, bool locked, QColor ink)
     }
     painter.setPen(QPen(ink, locked ? 1.6 : 1.2, Qt::SolidLine, Qt::FlatCap));
     painter.drawPath(shackle);
-    if (!locked) {
-        painter.drawRoundedRect(body, 1.0, 1.0);
-        return;
-    }
+    if (look != Look::Closed) painter.drawRoundedRect(body, 1.0, 1.0);
+    if (look == Look::Partly) painter.fillRect(QRectF(2.5, 11.0, 11.0, 3.5), ink);
+    if (look != Look::Closed) return;
     painter.setPen(Qt::NoPen);
     painter.setBrush(ink);
     QPainterPath plate;
@@ -70,15 +73,10 @@ QSize NativePadlock::PadlockSize(const QWidget& widget)
 void NativePadlock::ShowNode()
 {
     const bool isSwitch = IsSwitch();
-    setFocusPolicy(IsClosed() || isSwitch ? Qt::StrongFocus : Qt::NoFocus);
+    setFocusPolicy(IsClosed() || IsPartlyClosed() || isSwitch ? Qt::StrongFocus : Qt::NoFocus);
     // What can be checked is a switch to screen readers.
     setCheckable(isSwitch);
     setChecked(isSwitch && IsClosed());
-    QString reason = ToQt(TreeNode()->GetReason());
-    if (isSwitch) reason += "\n" + WindowText(IsClosed() ? "PadlockUnlock" : "PadlockLock");
-    setAccessibleName(WindowText(isSwitch ? "PadlockSwitch" : IsClosed() ? "PadlockClosed" : "PadlockOpen"));
-    setAccessibleDescription(reason);
-    setToolTip(reason);
     setWhatsThis(WindowText(isSwitch ? "PadlockSwitchHelp" : "PadlockHelp"));
     update();
 }
@@ -95,7 +93,8 @@ void NativePadlock::paintEvent(QPaintEvent*)
         painter.translate(kGrid, 0.0);
         painter.scale(-1.0, 1.0);
     }
-    DrawPadlock(painter, IsClosed(), palette().color(QPalette::Active, QPalette::WindowText));
+    const Look look = IsClosed() ? Look::Closed : IsPartlyClosed() ? Look::Partly : Look::Open;
+    DrawPadlock(painter, look, palette().color(QPalette::Active, QPalette::WindowText));
     painter.restore();
     if (GovernsRows()) DrawBar(painter);
     if (!hasFocus()) return;
@@ -133,7 +132,7 @@ void NativePadlock::Pressed()
 {
     if (IsSwitch()) {
         KivUserHand::Press(*TreeNode());
-    } else if (IsClosed()) {
-        NativePanel::Open(*this, accessibleName(), ToQt(TreeNode()->GetReason()), NativePanel::Copy::Offered);
+    } else if (IsClosed() || IsPartlyClosed()) {
+        NativePanel::Open(*this, accessibleName(), ToQt(TreeNode()->GetReport()), NativePanel::Copy::Offered);
     }
 }

@@ -5,8 +5,9 @@
 
 #include <QAbstractButton>
 
-// A padlock. Closed, it is a control that Tab reaches and that opens the reason as a small panel; open, it is
-// pale and only answers to the pointer that rests on it. An administrator's is a switch, closed or open.
+// A padlock. Closed, also in part, it is a control that Tab reaches and that opens the reason as a small
+// panel; open, it is pale and only answers to the pointer that rests on it. An administrator's is a switch,
+// closed or open.
 class NativePadlock : public QAbstractButton, public NativePieceFor<KivDlgLock> {
 public:
     NativePadlock(KivDialog& node, QWidget* parent);
@@ -25,6 +26,7 @@ protected:
 
 private:
     bool IsClosed() const { return TreeNode() && TreeNode()->IsClosed(); }
+    bool IsPartlyClosed() const { return TreeNode() && TreeNode()->IsPartlyClosed(); }
     bool IsSwitch() const { return TreeNode() && TreeNode()->IsSwitch(); }
     bool GovernsRows() const;
     void Pressed();

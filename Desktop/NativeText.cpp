@@ -1,6 +1,6 @@
 #include "NativeText.h"
 
-#include "Dialog/KivTextCatalogue.h"
+#include "Base/KivTextCatalogue.h"
 
 QString ToQt(const KivUnicodeString& text)
 {

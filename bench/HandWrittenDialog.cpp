@@ -1,7 +1,7 @@
 #include "HandWrittenDialog.h"
 
+#include "Base/KivTextCatalogue.h"
 #include "Dialog/KivColor.h"
-#include "Dialog/KivTextCatalogue.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -62,5 +62,6 @@ template <class Stored> HRESULT KivDrwGetInfo(const KivSettingRepository* reposi
                                               const KivDrwKey<Stored>& key, KivSettingInfo& info)
 {
     if (repository) repository->GetInfo(key.name, &info, 0);
+    info.ReadAs(KivSettingTypeName(Stored()));
     return S_OK;
 }

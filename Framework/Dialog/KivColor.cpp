@@ -1,6 +1,6 @@
 #include "Dialog/KivColor.h"
 
-#include "Dialog/KivTextCatalogue.h"
+#include "Base/KivTextCatalogue.h"
 
 #include <string>
 
@@ -15,10 +15,9 @@ constexpr KivNamedColor kPalette[] = {
     {"ColorMagenta", {255, 0, 255}},
 };
 
-KivUnicodeString Components(const KivColor& color)
+KivUnicodeString Number(unsigned int component)
 {
-    return KivUnicodeString("(" + std::to_string(color.red) + ", " + std::to_string(color.green) + ", " +
-                            std::to_string(color.blue) + ")");
+    return KivUnicodeString(std::to_string(component));
 }
 
 } // namespace
@@ -33,13 +32,16 @@ KivUnicodeString KivColorName(const KivColor& color)
     for (const KivNamedColor& named : kPalette) {
         if (named.color == color) return KivTextCatalogue::FrameworkText(named.name);
     }
-    return KivTextCatalogue::FrameworkText("ColorCustom") + " " + Components(color);
+    return KivTextCatalogue::FrameworkText("ColorCustom",
+                                           {Number(color.red), Number(color.green), Number(color.blue)});
 }
 
 KivUnicodeString KivSpokenColorName(const KivColor& color)
 {
     for (const KivNamedColor& named : kPalette) {
-        if (named.color == color) return KivColorName(color) + " " + Components(color);
+        if (named.color == color)
+            return KivTextCatalogue::FrameworkText("ColorSpoken", {KivColorName(color), Number(color.red),
+                                                                   Number(color.green), Number(color.blue)});
     }
     return KivColorName(color);
 }

@@ -1,6 +1,6 @@
 #include "Dialog/KivComboDashed.h"
 
-#include "Dialog/KivTextCatalogue.h"
+#include "Base/KivTextCatalogue.h"
 
 #include <string>
 

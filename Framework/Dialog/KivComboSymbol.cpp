@@ -1,6 +1,6 @@
 #include "Dialog/KivComboSymbol.h"
 
-#include "Dialog/KivTextCatalogue.h"
+#include "Base/KivTextCatalogue.h"
 
 #include <string>
 

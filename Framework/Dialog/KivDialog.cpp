@@ -1,9 +1,9 @@
 #include "Dialog/KivDialog.h"
 
+#include "Base/KivTextCatalogue.h"
 #include "Dialog/KivDlgLabel.h"
 #include "Dialog/KivDlgLock.h"
 #include "Dialog/KivDlgView.h"
-#include "Dialog/KivTextCatalogue.h"
 
 #include <algorithm>
 
@@ -73,6 +73,19 @@ KivUnicodeString KivDialog::GetSpokenTitle() const
     return KivUnicodeString(std::move(spoken));
 }
 
+KivUnicodeString KivDialog::GetSpokenName() const
+{
+    const KivDialog* parent = GetParentDialog();
+    const KivDlgLabel* label = GetLabel();
+    if (!label && parent) label = parent->GetLabel();
+    const KivUnicodeString title = GetSpokenTitle();
+    const bool isObjectName = title == KivUnicodeString(KivCommand::GetName());
+    const KivUnicodeString named = isObjectName && label ? label->GetSpokenTitle() : title;
+    std::string_view name = named.View();
+    while (!name.empty() && (name.back() == ':' || name.back() == ' ')) name.remove_suffix(1);
+    return KivUnicodeString(name);
+}
+
 void KivDialog::Set(Text& text, const KivUnicodeString& value)
 {
     text = value;
@@ -129,6 +142,22 @@ KivUnicodeString KivDialog::WhyDisabled() const
     return parent ? parent->WhyDisabled() : KivUnicodeString();
 }
 
+KivUnicodeString KivDialog::GetTip() const
+{
+    if (!IsEnabled()) {
+        const KivUnicodeString why = WhyDisabled();
+        return why.IsEmpty() ? KivTextCatalogue::FrameworkText("NotAvailable") : why;
+    }
+    KivUnicodeString tip;
+    for (const KivUnicodeString& help : {GetHelp(), GetShortHelp(), GetLongHelp()}) {
+        if (tip.IsEmpty()) tip = help;
+    }
+    const KivDlgLock* lock = GetLock();
+    if (!lock || !lock->IsPartlyClosed()) return tip;
+    if (!tip.IsEmpty()) tip.Append("\n");
+    return tip.Append(lock->GetReason());
+}
+
 KivDlgLock* KivDialog::GetLock() const
 {
     return static_cast<KivDlgLock*>(_lock.Get());
@@ -153,7 +182,18 @@ KivDialog::ChangesAsOne::~ChangesAsOne()
 
 void KivDialog::Changed()
 {
-    if (_view && _held == 0) _view->NodeChanged(*this);
+    if (_held != 0) return;
+    if (_view) _view->NodeChanged(*this);
+    TellPadlock();
+}
+
+void KivDialog::TellPadlock()
+{
+    const KivDialog* locked = this;
+    while (locked && !locked->GetLock()) locked = locked->GetParentDialog();
+    if (!locked || !locked->GetLock()->SpeaksOfValue()) return;
+    locked->GetLock()->Changed();
+    if (KivDlgLabel* label = GetLabel()) label->Changed();
 }
 
 void KivDialog::EnablingChanged()

@@ -49,6 +49,11 @@ public:
     // What a screen reader says: the text "<object name>.Spoken", which a control without a title of its own
     // has, else the title without the mark of its keyboard letter.
     KivUnicodeString GetSpokenTitle() const;
+    // How it is called where it stands alone, for screen readers: its spoken title, else that of the label
+    // which names it or the frame that wraps it; without the colon that leads to a field.
+    virtual KivUnicodeString GetSpokenName() const;
+    // The value that it shows, as a person reads it ("25 mm", "On"); empty where it shows none.
+    virtual KivUnicodeString GetShownValue() const { return {}; }
 
     // One sentence for a tooltip, a short one for the status line, and a paragraph.
     void SetHelp(const KivUnicodeString& help) { Set(_help, help); }
@@ -79,6 +84,9 @@ public:
     bool IsShown() const;
     // Why a user cannot use it, in words; empty when he can.
     KivUnicodeString WhyDisabled() const;
+    // What there is to say of it: why it cannot be used while that is so, never empty then; else its help,
+    // and which part of its value is locked.
+    virtual KivUnicodeString GetTip() const;
 
     // The padlock that governs this object, and the label that names it; null without one.
     KivDlgLock* GetLock() const;
@@ -110,7 +118,7 @@ public:
     };
 
 protected:
-    // Tells the view, and the views of the children where they depend on it.
+    // Tells the view, and those of the padlock and the label, which speak of what it shows.
     void Changed();
     virtual void VisibilityChanged() { Changed(); }
 
@@ -122,6 +130,7 @@ private:
     void Set(Text& text, const KivUnicodeString& value);
     KivUnicodeString TextOf(const Text& text, const char* kind) const;
     void EnablingChanged();
+    void TellPadlock();
 
     unsigned long _style;
     GridConstraints _grid;

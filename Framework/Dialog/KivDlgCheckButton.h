@@ -11,6 +11,7 @@ public:
     // KivDlgChecked or KivDlgUnchecked; any other state counts as unchecked. Not zero: listeners are told.
     void SetState(unsigned long state, int notify);
     unsigned long GetState() const { return _state; }
+    KivUnicodeString GetShownValue() const override;
 
     KivNotification* GetChkBModifyNotification() const { return &_modified; }
     KivNotification* GetChkBDoubleClickNotification() const { return &_doubleClicked; }

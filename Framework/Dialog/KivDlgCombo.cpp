@@ -43,6 +43,13 @@ bool KivDlgCombo::GetLine(double& line, int position) const
     return number.has_value();
 }
 
+KivUnicodeString KivDlgCombo::GetShownValue() const
+{
+    KivUnicodeString chosen;
+    GetLine(chosen, _selected);
+    return chosen;
+}
+
 void KivDlgCombo::ClearLine()
 {
     _lines.clear();

@@ -25,6 +25,8 @@ public:
     // A position without a line is ignored, except -1: nothing chosen. Not zero: listeners are told.
     void SetSelect(int position, int notify = 0);
     int GetSelect() const { return _selected; }
+    // The chosen line.
+    KivUnicodeString GetShownValue() const override;
     // The first line with that text; nothing is chosen when there is none.
     void SetSelect(const KivUnicodeString& line, int notify = 0);
     // What a user chose from the list.

@@ -1,5 +1,12 @@
 #include "Dialog/KivDlgEditor.h"
 
+#include "Base/KivTextCatalogue.h"
+
+KivUnicodeString KivDlgEditor::GetShownValue() const
+{
+    return _text.IsEmpty() ? KivTextCatalogue::FrameworkText("SettingEmptyText") : _text;
+}
+
 void KivDlgEditor::SetText(const KivUnicodeString& text, int notify)
 {
     _text = text;

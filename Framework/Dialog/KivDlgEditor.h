@@ -11,6 +11,8 @@ public:
     // Not zero: listeners are told.
     void SetText(const KivUnicodeString& text, int notify);
     const KivUnicodeString& GetText() const { return _text; }
+    // The text, or that there is none.
+    KivUnicodeString GetShownValue() const override;
     // What a user has typed and committed.
     KivNotification* GetEditModifyNotification() const { return &_modified; }
 

@@ -9,4 +9,7 @@ public:
     KivDlgFrame(KivDialog* parent, const KivString& name, unsigned long style = KivDlgGridLayout)
         : KivClass(parent, name, style)
     {}
+
+    // The choice among the radio buttons in it.
+    KivUnicodeString GetShownValue() const override;
 };

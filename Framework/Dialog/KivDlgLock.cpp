@@ -1,6 +1,28 @@
 #include "Dialog/KivDlgLock.h"
 
+#include "Base/KivTextCatalogue.h"
 #include "Settings/KivSettingRepository.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr auto Say = &KivTextCatalogue::FrameworkText;
+
+// Where the lock is may have changed; what the record says of the value holds.
+void TakeLock(const KivSettingRepository& repository, KivSettingInfo& info)
+{
+    KivSettingInfo now;
+    repository.GetInfo(info.key.ConvertToChar(), &now, 0);
+    info.locked = now.locked;
+    info.lockedHere = now.lockedHere;
+    info.canLock = now.canLock;
+    info.lockLayer = now.lockLayer;
+    info.lockFile = now.lockFile;
+    info.lockLine = now.lockLine;
+}
+
+} // namespace
 
 KivDlgLock::KivDlgLock(KivDialog* parent, const KivString& name, const KivSettingInfo& info,
                        unsigned long style)
@@ -16,21 +38,66 @@ void KivDlgLock::SetInfo(const KivSettingInfo& info)
     }
 }
 
+bool KivDlgLock::Opens() const
+{
+    return _info.lockedHere ||
+           std::any_of(_info.companions.begin(), _info.companions.end(),
+                       [](const KivSettingInfo& companion) { return companion.lockedHere; });
+}
+
 bool KivDlgLock::Toggle()
 {
     KivSettingRepository* repository = KivSettingRepository::GetRepository(_info.repository.ConvertToChar());
-    const bool locked = !_info.lockedHere;
     if (!IsSwitch() || !repository) return false;
-    if (repository->SetLock(_info.key.ConvertToChar(), locked) != S_OK) return false;
-    // One that an outer layer locks is closed already.
-    for (const KivString& companion : _info.companions) {
-        repository->SetLock(companion.ConvertToChar(), locked);
-    }
-    KivSettingInfo info;
-    repository->GetInfo(_info.key.ConvertToChar(), &info, 0);
-    info.companions = _info.companions;
-    SetInfo(info);
-    return true;
+    const bool locks = !Opens();
+    bool changed = false;
+    KivSettingInfo info = _info;
+    const auto turn = [&](KivSettingInfo& part) {
+        // One that an outer layer locks is closed already, and stays so.
+        if (part.locked || part.lockedHere == locks) return;
+        if (repository->SetLock(part.key.ConvertToChar(), locks) != S_OK) return;
+        TakeLock(*repository, part);
+        changed = true;
+    };
+    turn(info);
+    for (KivSettingInfo& companion : info.companions) turn(companion);
+    if (changed) SetInfo(info);
+    return changed;
+}
+
+KivUnicodeString KivDlgLock::SettingName() const
+{
+    const KivDialog* control = GetAssociatedDialog();
+    return control ? control->GetSpokenName() : KivUnicodeString(_info.key);
+}
+
+KivUnicodeString KivDlgLock::GetSpokenName() const
+{
+    if (IsSwitch()) return Say(IsPartlyClosed() ? "PadlockSwitchPartly" : "PadlockSwitch", {SettingName()});
+    if (IsPartlyClosed()) return Say("PadlockPartly", {SettingName()});
+    return Say(IsClosed() ? "PadlockClosed" : "PadlockOpen", {SettingName()});
+}
+
+KivUnicodeString KivDlgLock::GetReason() const
+{
+    const KivDialog* control = GetAssociatedDialog();
+    return control ? _info.Words(control->GetShownValue()) : _info.Words();
+}
+
+KivUnicodeString KivDlgLock::GetTip() const
+{
+    const char* const key = !IsSwitch() ? "PadlockTip" : Opens() ? "PadlockTipUnlock" : "PadlockTipLock";
+    return Say(key, {SettingName(), GetReason()});
+}
+
+KivUnicodeString KivDlgLock::GetReport() const
+{
+    if (_info.companions.empty())
+        return Say("PadlockReport", {SettingName(), GetReason(), KivUnicodeString(_info.key)});
+    KivUnicodeString keys(_info.key);
+    for (const KivSettingInfo& companion : _info.companions)
+        keys.Append(", ").Append(KivUnicodeString(companion.key));
+    return Say("PadlockReportKeys", {SettingName(), GetReason(), keys});
 }
 
 void KivDlgLock::AddAssociatedDialog(KivDialog* dialog)

@@ -15,16 +15,29 @@ public:
     // Another record of the same setting, after the administrator has changed its lock.
     void SetInfo(const KivSettingInfo& info);
     bool IsLocked() const { return _info.locked; }
-    // Whether it looks closed: locked, or closed by the administrator who edits the layer.
-    bool IsClosed() const { return _info.locked || _info.lockedHere; }
+    // Whether it looks closed: locked, or closed by the administrator who edits the layer; in part, when that
+    // is so for some of what it stands for, such as one component of a color. Whether the controls are
+    // disabled is up to the setting itself, not to its companions.
+    bool IsClosed() const { return _info.IsClosed() && !_info.IsPartlyClosed(); }
+    bool IsPartlyClosed() const { return _info.IsPartlyClosed(); }
     // An administrator's, who locks and unlocks the setting for the users of the layer that he edits.
     bool IsSwitch() const { return _info.canLock; }
+    // Whether pressing the switch opens it: as soon as the edited layer locks some part.
+    bool Opens() const;
     // Turns the switch over in the repository's working state, the companions of the setting along with it.
-    // False, and nothing changed, when it is none.
+    // False, and nothing changed, when it is none or the repository refuses.
     bool Toggle();
 
-    // The record in words.
-    KivUnicodeString GetReason() const { return _info.Words(); }
+    // The setting and its state: "Display grid, locked by the administrator".
+    KivUnicodeString GetSpokenName() const override;
+    // The record in words, with the value as the control shows it.
+    KivUnicodeString GetReason() const;
+    // The setting, the reason and, for a switch, what pressing it does.
+    KivUnicodeString GetTip() const override;
+    // The setting, the reason and the keys, for a person to pass on.
+    KivUnicodeString GetReport() const;
+    // Whether its words change with what the control shows.
+    bool SpeaksOfValue() const { return _info.IsClosed() || IsPartlyClosed(); }
 
     // From now on that object is disabled while the setting is locked.
     void AddAssociatedDialog(KivDialog* dialog);
@@ -34,6 +47,8 @@ public:
     void GetAssociatedDialogSensitivity(unsigned long& sensitivity) const;
 
 private:
+    KivUnicodeString SettingName() const;
+
     KivSettingInfo _info;
     std::vector<KivWeakPtr<KivDialog>> _associated;
 };

@@ -16,14 +16,19 @@ std::vector<KivDlgRadioButton*> KivDlgRadioButton::Choices() const
     return choices;
 }
 
+KivUnicodeString KivDlgRadioButton::GetShownValue() const
+{
+    return _state == KivDlgChecked ? GetSpokenName() : KivUnicodeString();
+}
+
 void KivDlgRadioButton::SetState(unsigned long state, int notify)
 {
     _state = state == KivDlgChecked ? KivDlgChecked : KivDlgUnchecked;
     if (_state == KivDlgChecked) {
         for (KivDlgRadioButton* other : Choices()) {
-            if (other == this || other->_state != KivDlgChecked) continue;
+            if (other == this) continue;
             other->_state = KivDlgUnchecked;
-            other->Changed();
+            other->Changed(); // also one that was not the choice: why it is locked names the choice
         }
     }
     Changed();

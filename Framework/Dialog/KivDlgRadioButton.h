@@ -15,6 +15,8 @@ public:
     // others, silently. Not zero: listeners of this one are told.
     void SetState(unsigned long state, int notify);
     unsigned long GetState() const { return _state; }
+    // Its title while it is the choice.
+    KivUnicodeString GetShownValue() const override;
 
     // The buttons of its choice, itself included, in reading order.
     std::vector<KivDlgRadioButton*> Choices() const;

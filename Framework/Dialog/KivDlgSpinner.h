@@ -33,6 +33,7 @@ public:
 
     // A value as the field shows it, with its unit.
     KivUnicodeString Print(double value) const;
+    KivUnicodeString GetShownValue() const override { return Print(_value); }
     // What a typed text means; false, and the output untouched, when it means nothing.
     bool Read(const KivUnicodeString& text, double& value) const;
 

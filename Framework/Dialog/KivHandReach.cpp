@@ -1,7 +1,7 @@
 #include "Dialog/KivHandReach.h"
 
+#include "Base/KivTextCatalogue.h"
 #include "Dialog/KivDialog.h"
-#include "Dialog/KivTextCatalogue.h"
 
 KivHandAnswer KivHandReach::Done()
 {

@@ -1,5 +1,6 @@
 #include "Dialog/KivUserHand.h"
 
+#include "Base/KivTextCatalogue.h"
 #include "Dialog/KivComboColor.h"
 #include "Dialog/KivDlgCheckButton.h"
 #include "Dialog/KivDlgDialog.h"
@@ -9,7 +10,6 @@
 #include "Dialog/KivDlgRadioButton.h"
 #include "Dialog/KivDlgSpinner.h"
 #include "Dialog/KivHandReach.h"
-#include "Dialog/KivTextCatalogue.h"
 
 #include <algorithm>
 #include <cmath>
@@ -112,15 +112,15 @@ KivHandAnswer KivUserHand::Type(KivDlgSpinner& spinner, const KivUnicodeString& 
     if (text == spinner.Print(spinner.GetValue())) return Done();
     double value = 0.0;
     if (!spinner.Read(text, value))
-        return Refused("“" + text + "” " + KivTextCatalogue::FrameworkText("HandMeansNothing"));
+        return Refused(KivTextCatalogue::FrameworkText("HandMeansNothing", {text}));
     double minimum = 0.0, maximum = 0.0, step = 0.0;
     spinner.GetMinMaxStep(minimum, maximum, step);
     // What shows like a limit is meant as that limit: nobody can type all its digits.
     if (value < minimum && spinner.Print(value) == spinner.Print(minimum)) value = minimum;
     if (value > maximum && spinner.Print(value) == spinner.Print(maximum)) value = maximum;
     if (value < minimum || value > maximum)
-        return Refused(KivTextCatalogue::FrameworkText("HandOutOfRange") + " " + spinner.Print(minimum) +
-                       " – " + spinner.Print(maximum));
+        return Refused(KivTextCatalogue::FrameworkText("HandOutOfRange",
+                                                       {spinner.Print(minimum), spinner.Print(maximum)}));
     return Enter(spinner, value);
 }
 

@@ -1,7 +1,7 @@
 #include "Options/KivOptionsSession.h"
 
+#include "Base/KivTextCatalogue.h"
 #include "Dialog/KivDlgDialog.h"
-#include "Dialog/KivTextCatalogue.h"
 #include "Dialog/KivUserHand.h"
 
 #include <algorithm>

@@ -1,38 +1,92 @@
 #include "Settings/KivSettingInfo.h"
 
+#include "Base/KivTextCatalogue.h"
+
+#include <algorithm>
+#include <string>
+
 namespace {
 
-// in layer "site" (/etc/kiv/site/A.kivsettings, line 12)
+constexpr auto Text = &KivTextCatalogue::FrameworkText;
+
+// layer "site" (/etc/kiv/site/A.kivsettings, line 12)
 KivUnicodeString Place(const KivUnicodeString& layer, const KivUnicodeString& file, int line)
 {
-    KivUnicodeString place("in layer \"");
-    place.Append(layer).Append("\" (").Append(file);
-    if (line > 0) place.Append(", line " + std::to_string(line));
-    return place.Append(")");
+    if (line > 0) return Text("SettingPlaceLine", {layer, file, KivUnicodeString(std::to_string(line))});
+    return Text("SettingPlace", {layer, file});
 }
 
 } // namespace
 
+bool KivSettingInfo::IsPartlyClosed() const
+{
+    return std::any_of(companions.begin(), companions.end(),
+                       [this](const KivSettingInfo& other) { return other.IsClosed() != IsClosed(); });
+}
+
+void KivSettingInfo::ReadAs(const char* readerType)
+{
+    if (origin == Origin::None || type == readerType) return;
+    origin = Origin::None;
+    initial = false;
+    value = layer = file = {};
+    type = {};
+    line = 0;
+}
+
+std::vector<const KivSettingInfo*> KivSettingInfo::Parts() const
+{
+    std::vector<const KivSettingInfo*> parts{this};
+    for (const KivSettingInfo& companion : companions) parts.push_back(&companion);
+    return parts;
+}
+
+bool KivSettingInfo::IsLockedAsOne() const
+{
+    return std::all_of(companions.begin(), companions.end(), [this](const KivSettingInfo& other) {
+        return other.locked == locked && other.lockedHere == lockedHere && other.lockFile == lockFile;
+    });
+}
+
 KivUnicodeString KivSettingInfo::Words() const
 {
-    const bool isSet = origin != Origin::None;
-    const KivUnicodeString shown = value.IsEmpty() ? KivUnicodeString("an empty text") : value;
+    if (origin == Origin::None) return Words(Text("SettingDefaultValue", {}));
+    return Words(value.IsEmpty() ? Text("SettingEmptyText", {}) : value);
+}
+
+KivUnicodeString KivSettingInfo::Words(const KivUnicodeString& shown) const
+{
+    if (!IsLockedAsOne()) return WordsOfParts();
+    if (IsClosed()) return WordsOfLock(shown);
+    switch (origin) {
+    case Origin::None:
+        return Text("SettingNotSet", {});
+    case Origin::User:
+        return Text(initial ? "SettingInitial" : "SettingByUser", {});
+    case Origin::Administrator:
+        break;
+    }
+    return Text("SettingByAdministrator", {Place(layer, file, line)});
+}
+
+KivUnicodeString KivSettingInfo::WordsOfParts() const
+{
     KivUnicodeString words;
-    if (locked) {
-        words.Append("Locked by the administrator at ").Append(isSet ? shown : "the default").Append(" ");
-        words.Append(Place(lockLayer, lockFile, lockLine)).Append(".");
-        if (isSet && file != lockFile)
-            words.Append(" The value is set ").Append(Place(layer, file, line)).Append(".");
-        return words;
+    for (const KivSettingInfo* one : Parts()) {
+        if (!one->IsClosed()) continue;
+        if (!words.IsEmpty()) words.Append("\n");
+        words.Append(Text(one->locked ? "SettingPartLocked" : "SettingPartLockedHere",
+                          {Text(one->part.ConvertToChar(), {}), one->value,
+                           Place(one->lockLayer, one->lockFile, one->lockLine)}));
     }
-    if (lockedHere) {
-        words.Append("Locked at ")
-            .Append(isSet ? shown : "the default")
-            .Append(" for the users of this layer ");
-        return words.Append(Place(lockLayer, lockFile, lockLine)).Append(".");
-    }
-    if (origin == Origin::User) return initial ? "As it was at the first start." : "Set by you.";
-    if (!isSet) return "Not set: the default applies.";
-    words.Append("Set by the administrator ").Append(Place(layer, file, line));
-    return words.Append("; you may change it.");
+    return words;
+}
+
+KivUnicodeString KivSettingInfo::WordsOfLock(const KivUnicodeString& shown) const
+{
+    const KivUnicodeString locker = Place(lockLayer, lockFile, lockLine);
+    if (shown.IsEmpty()) return Text(locked ? "SettingLocked" : "SettingLockedHere", {locker});
+    if (!locked) return Text("SettingLockedHereAt", {locker, shown});
+    if (origin == Origin::None || file == lockFile) return Text("SettingLockedAt", {locker, shown});
+    return Text("SettingLockedAtFrom", {locker, shown, Place(layer, file, line)});
 }

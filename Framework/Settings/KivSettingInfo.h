@@ -16,6 +16,7 @@ struct KivSettingInfo {
     Origin origin = Origin::None; // who gave the value that is shown; None: only the reader's default is left
     bool initial = false;         // the user's value was written by the first start, not by the user
     KivUnicodeString value;       // the value as text, empty when there is none
+    KivString type;               // the type that it is stored in, or empty
     KivUnicodeString layer;       // name of the layer that gave the value, or empty
     KivUnicodeString file;        // its file
     int line = 0;                 // its line there, or 0 when it has not been saved yet
@@ -27,11 +28,30 @@ struct KivSettingInfo {
     KivUnicodeString lockFile;  // its file
     int lockLine = 0;           // its line there; that of a lock on a prefix, when this is one
 
-    // Further keys that an administrator locks and unlocks along with this one; whoever shows several as one
-    // fills it.
-    std::vector<KivString> companions;
+    // The other parts of what is shown as one, such as the green and the blue of a color whose record this
+    // is: an administrator locks and unlocks them along with this one. Whoever shows several as one fills
+    // them, and in each, this one included, the key of the framework text that names the part.
+    std::vector<KivSettingInfo> companions;
+    KivString part;
 
-    // One or two plain sentences for the padlock: whether and by whom the setting is locked, which value is
-    // enforced, where that is written. The same words wherever a person asks.
+    // Locked for whoever asks, or for those inside the layer that is edited.
+    bool IsClosed() const { return locked || lockedHere; }
+    // Some of the parts are closed and some are not.
+    bool IsPartlyClosed() const;
+
+    // For a reader that takes another type than the stored one, and so keeps its default: nobody gave the
+    // value that it shows. Does nothing when the type is that one.
+    void ReadAs(const char* readerType);
+
+    // Plain sentences for the padlock, in the user's language: whether and by whom the setting is locked,
+    // which value is enforced, where that is written. Parts that are not locked alike have a line each.
     KivUnicodeString Words() const;
+    // The same with the value as the row of a page shows it; one that is empty is not spoken of.
+    KivUnicodeString Words(const KivUnicodeString& shown) const;
+
+private:
+    std::vector<const KivSettingInfo*> Parts() const;
+    bool IsLockedAsOne() const;
+    KivUnicodeString WordsOfParts() const;
+    KivUnicodeString WordsOfLock(const KivUnicodeString& shown) const;
 };

@@ -382,6 +382,7 @@ void KivSettingStore::Describe(const KivSettingAttribute& attribute, KivSettingI
     Trace(attribute, place);
     place.Fill(info);
     info.value = KivShownSettingText(attribute.Shown());
+    if (KivHasValue(attribute.Shown())) info.type = KivSettingTypeName(attribute.Shown());
 }
 
 void KivSettingStore::ReportOtherType(const KivSettingAttribute& attribute, const char* expected)

@@ -1,7 +1,7 @@
 #include "Viewer/KivUserHandViewer.h"
 
+#include "Base/KivTextCatalogue.h"
 #include "Dialog/KivHandReach.h"
-#include "Dialog/KivTextCatalogue.h"
 #include "Viewer/Kiv2DViewer.h"
 
 #include <algorithm>

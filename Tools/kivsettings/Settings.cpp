@@ -43,6 +43,7 @@ Setting Settings::Describe(const std::string& key) const
         setting.value = ValueOfUnknown(key);
     }
     _repository.GetInfo(key.c_str(), &setting.info, 0);
+    if (setting.row) setting.info.ReadAs(KivSettingTypeName(setting.fallback));
     return setting;
 }
 

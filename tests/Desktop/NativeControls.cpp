@@ -205,9 +205,9 @@ TEST_F(NativeControls, AnyColorCanBeMixedAndIsSpoken)
 TEST_F(NativeControls, APadlockSaysWhoLockedAndLetsCopyIt)
 {
     QWidget* closed = WidgetOf(LockOf(tree.snap));
-    const QString reason = QString::fromUtf8(LockOf(tree.snap)->GetReason().ConvertToChar());
-    EXPECT_EQ(closed->accessibleName(), "Locked by the administrator");
-    EXPECT_EQ(closed->accessibleDescription(), reason);
+    EXPECT_EQ(closed->accessibleName(), "Snap to point, locked by the administrator");
+    EXPECT_EQ(closed->accessibleDescription().toUtf8(), LockOf(tree.snap)->GetTip().ConvertToChar());
+    EXPECT_TRUE(closed->toolTip().contains("Snap to point: Locked"));
     EXPECT_EQ(WidgetOf(LockOf(tree.show))->focusPolicy(), Qt::NoFocus);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
         closed->setFocus();
@@ -216,7 +216,8 @@ TEST_F(NativeControls, APadlockSaysWhoLockedAndLetsCopyIt)
         ASSERT_TRUE(panel && panel->isVisible());
         QGuiApplication::clipboard()->clear();
         QTest::mouseClick(panel->findChild<QPushButton*>(), Qt::LeftButton);
-        EXPECT_EQ(QGuiApplication::clipboard()->text(), reason);
+        EXPECT_EQ(QGuiApplication::clipboard()->text().toUtf8(),
+                  LockOf(tree.snap)->GetReport().ConvertToChar());
         EXPECT_FALSE(panel->isVisible());
         QTest::qWait(0);
     }

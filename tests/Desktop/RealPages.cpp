@@ -1,8 +1,8 @@
 #include "Base/KivEnvironment.h"
+#include "Base/KivTextCatalogue.h"
 #include "Component/KivLibrary.h"
 #include "Dialog/KivDlgCheckButton.h"
 #include "Dialog/KivDlgLabel.h"
-#include "Dialog/KivTextCatalogue.h"
 #include "NativePiece.h"
 #include "OptionsMessageStrip.h"
 #include "OptionsPageView.h"
@@ -81,7 +81,7 @@ TEST_F(RealPages, AnAdministratorsPadlocksAreSwitches)
     const auto is = [lock](bool closed) {
         const QAccessibleInterface* const heard = QAccessible::queryAccessibleInterface(lock);
         EXPECT_EQ(heard->role(), QAccessible::CheckBox);
-        EXPECT_EQ(heard->text(QAccessible::Name), "Lock for users");
+        EXPECT_EQ(heard->text(QAccessible::Name), "Lock “Display grid” for users");
         EXPECT_EQ(static_cast<bool>(heard->state().checked), closed);
         EXPECT_EQ(lock->focusPolicy(), Qt::StrongFocus);
         EXPECT_TRUE(lock->toolTip().contains(closed ? "let the users" : "Press to lock"))
@@ -96,8 +96,13 @@ TEST_F(RealPages, AnAdministratorsPadlocksAreSwitches)
     QTest::mouseClick(lock, Qt::LeftButton);
     is(true);
     EXPECT_TRUE(WidgetOf("checkGrid_dialog")->isEnabled());
+    for (const char* value : {"Locked at Off", "Locked at On"}) {
+        QTest::keyClick(WidgetOf("checkGrid_dialog"), Qt::Key_Space);
+        EXPECT_TRUE(lock->toolTip().contains(value)) << lock->toolTip().toStdString();
+    }
     window->accept();
-    EXPECT_NE(sandbox.Bytes(sandbox.File("site")).find("lock Drw_settings_GridDisplay\n"), std::string::npos)
+    EXPECT_NE(sandbox.Bytes(sandbox.File("site")).find("lock int Drw_settings_GridDisplay = 1\n"),
+              std::string::npos)
         << sandbox.Bytes(sandbox.File("site"));
 }
 

@@ -1,6 +1,6 @@
+#include "Base/KivTextCatalogue.h"
 #include "CommandLine.h"
 #include "Dialog/KivDlgCheckButton.h"
-#include "Dialog/KivTextCatalogue.h"
 #include "Dialog/KivUserHand.h"
 #include "DraftingDiagnostics.h"
 #include "DraftingLog.h"
@@ -247,7 +247,7 @@ TEST_F(SheetProgram, ItDrawsPicturesAndEndsInOrder)
         << out.str();
     box.Write(box.root / "file", "");
     EXPECT_EQ(run({"--screenshot", QString::fromStdString((box.root / "file" / "x").string())}), 1);
-    EXPECT_TRUE(Erred("cannot be made")) << err.str();
+    EXPECT_TRUE(Erred("cannot be created")) << err.str();
 
     QProcess window;
     window.start(program, {"--page", "General"}); // on the platform of this test

@@ -86,4 +86,57 @@ TEST_F(AdministratorMode, CancelTakesLocksBackAndPadlocksShowIt)
     EXPECT_EQ(box.Bytes(file), bytes + "lock BackgroundColorRedDitto\nlock BackgroundColorBlueDitto\n");
 }
 
+// Each with the setting's title and the value that the row shows, by which it is in force.
+TEST_F(AdministratorMode, PadlocksNameTheirSettingAndTheValueInForce)
+{
+    box.Write(file, "lock double Drw_settings_GridPrimarySpacing = 25\nlock int RotSnapAngle = 30\n"
+                    "lock float BackgroundColorRed = 0\nlock float BackgroundColorGreen = 1\n"
+                    "lock float BackgroundColorBlue = 1\nlock int DrwAnnotSnapMod = 1\n"
+                    "lock string DrwFrameAndTitleBlockPath = \"\"\n");
+    Open();
+    const auto starts = [](const KivUnicodeString& text, const std::string& start) {
+        EXPECT_EQ(text.View().substr(0, start.size()), start) << text.View();
+    };
+    EXPECT_EQ(Lock("checkRuler").GetSpokenName(), "Show ruler, locked by the administrator");
+    EXPECT_EQ(Lock("checkGrid").GetSpokenName(), "Display grid, not locked");
+    const std::string by = "Locked by the administrator at ";
+    starts(Lock("checkRuler").GetTip(), "Show ruler: " + by + "On in layer \"company\" (");
+    starts(Lock("editorGridSpacing").GetReason(), by + "25 mm in ");
+    starts(Lock("spinnerRotSnapAngle").GetReason(), by + "15° in ");
+    starts(Lock("comboBackgroundColor").GetReason(), by + "Cyan in ");
+    starts(Lock("editorTitleBlockPath").GetReason(), by + "an empty text in ");
+    EXPECT_EQ(Lock("spinnerRotSnapAngle").GetReport(),
+              "Rotation snap angle: " + Lock("spinnerRotSnapAngle").GetReason() + "\nKey: RotSnapAngle");
+    EXPECT_EQ(Control("editorGridSpacing").GetTip(), Lock("editorGridSpacing").GetReason());
+    ASSERT_TRUE(Press("pushAnnotActiveSnap"));
+    EXPECT_EQ(Node<KivDialog>("frameRadioAnnotActivSnaplocked").GetShownValue(),
+              "The orientation of their reference");
+}
+
+// The red key's lock governs a color, but nobody is left without a word on the other two.
+TEST_F(AdministratorMode, APartlyLockedColorSaysWhichPartAndIsOpenedAtOnce)
+{
+    box.Write(file, "lock float BackgroundColorGreen = 1\n");
+    Open();
+    EXPECT_TRUE(IsEnabled("comboBackgroundColor"));
+    const std::string fixed =
+        "Green is fixed at 255 by the administrator in layer \"site\" (" + file.string() + ", line 1).";
+    for (const KivUnicodeString& said :
+         {Lock("comboBackgroundColor").GetTip(), Control("comboBackgroundColor").GetTip(),
+          Lock("comboBackgroundColor").GetReport()})
+        EXPECT_NE(said.View().find(fixed), std::string::npos) << said.View();
+    EXPECT_EQ(Lock("comboBackgroundColor").GetSpokenName(),
+              "Sheet background, partly locked by the administrator");
+
+    box.Write(file, "lock float BackgroundColorGreen = 1\nlock BackgroundColorBlue\n");
+    Edit("site");
+    EXPECT_TRUE(Lock("comboBackgroundColor").IsPartlyClosed());
+    EXPECT_TRUE(KivUserHand::Press(Lock("comboBackgroundColor")));
+    EXPECT_FALSE(Lock("comboBackgroundColor").IsPartlyClosed() || Lock("comboBackgroundColor").IsClosed());
+    ASSERT_TRUE(session->Commit().empty());
+    EXPECT_EQ(box.Bytes(file).find("lock"), std::string::npos) << box.Bytes(file);
+    EXPECT_TRUE(KivUserHand::Press(Lock("comboBackgroundColor")));
+    EXPECT_TRUE(Lock("comboBackgroundColor").IsClosed());
+}
+
 } // namespace

@@ -1,5 +1,5 @@
+#include "Base/KivTextCatalogue.h"
 #include "Dialog/KivDlgLabel.h"
-#include "Dialog/KivTextCatalogue.h"
 #include "OptionsPages.h"
 #include "PageTables.h"
 
@@ -283,6 +283,7 @@ TEST_P(PageFamily, EveryControlIsNamedAndNoTextIsLeftOver)
     struct Letters {
         std::map<char, std::string> taken;
         std::set<std::string> without;
+        std::set<KivUnicodeString> padlocks;
     };
     const auto takeLetter = [](const KivDialog& node, const std::string& own, Letters& letters) {
         const std::string title(node.GetTitle().View());
@@ -320,6 +321,10 @@ TEST_P(PageFamily, EveryControlIsNamedAndNoTextIsLeftOver)
         const bool isNamedByItself =
             is("KivDlgCheckButton") || is("KivDlgRadioButton") || is("KivDlgPushButton");
         if (isNamedByItself && !node.GetTitle().IsEmpty()) takeLetter(node, own, letters);
+        if (is("KivDlgLock")) {
+            const KivUnicodeString padlock = node.GetSpokenName();
+            EXPECT_TRUE(letters.padlocks.insert(padlock).second) << "which setting's is " << padlock.View();
+        }
         if (is("KivDlgDialog")) {
             EXPECT_NE(node.GetTitle(), own.c_str()) << "no title";
         }

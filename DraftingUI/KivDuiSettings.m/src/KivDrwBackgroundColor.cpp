@@ -1,6 +1,7 @@
 #include "KivDrwBackgroundColor.h"
 
 #include "KivDrwPageWrite.h"
+#include "KivDrwStoredColor.h"
 
 #include <limits>
 
@@ -37,6 +38,5 @@ void KivDrwBackgroundColor::Write(KivSettingRepository* repository, int r, int g
 
 void KivDrwBackgroundColor::GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const
 {
-    KivDrwGetInfo(repository, red, info);
-    info.companions = {green.name, blue.name};
+    KivDrwGetColorInfo(*this, repository, info);
 }

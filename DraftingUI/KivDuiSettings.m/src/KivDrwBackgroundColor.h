@@ -14,7 +14,8 @@ struct KivDrwBackgroundColor {
     // Stores each component divided by 255, so that only 255 reads back as itself. Nothing without a
     // repository.
     void Write(KivSettingRepository* repository, int r, int g, int b) const;
-    // Deliberately the lock is that of the red key alone; whoever locks or unlocks it takes the others along.
+    // Deliberately the lock is that of the red key alone; whoever locks or unlocks it takes the others along,
+    // and is told of theirs.
     void GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const;
 };
 

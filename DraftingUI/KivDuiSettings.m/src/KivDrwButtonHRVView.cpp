@@ -1,6 +1,6 @@
 #include "KivDrwButtonHRVView.h"
 
-#include "Dialog/KivTextCatalogue.h"
+#include "Base/KivTextCatalogue.h"
 #include "Viewer/Kiv2DArrowRep.h"
 #include "Viewer/Kiv2DLineRep.h"
 #include "Viewer/Kiv2DPointRep.h"

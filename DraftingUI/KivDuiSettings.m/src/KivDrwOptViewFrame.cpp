@@ -1,6 +1,6 @@
 #include "KivDrwOptViewFrame.h"
 
-#include "Dialog/KivTextCatalogue.h"
+#include "Base/KivTextCatalogue.h"
 #include "KivDrwButtonGenFil.h"
 #include "KivDrwButtonHRVView.h"
 #include "KivDrwButtonLinetypeView.h"

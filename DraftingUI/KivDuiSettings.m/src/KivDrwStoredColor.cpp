@@ -18,8 +18,7 @@ void KivDrwComponentColor::Write(KivSettingRepository* repository, int r, int g,
 
 void KivDrwComponentColor::GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const
 {
-    KivDrwGetInfo(repository, red, info);
-    info.companions = {green.name, blue.name};
+    KivDrwGetColorInfo(*this, repository, info);
 }
 
 void KivDrwPackedColor::Read(const KivSettingRepository* repository, int& r, int& g, int& b) const

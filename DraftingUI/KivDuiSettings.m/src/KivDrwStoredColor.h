@@ -2,6 +2,8 @@
 
 #include "KivDrwSettingAccess.h"
 
+#include <string>
+
 // Colors as settings store them, each with what KIV_BIND_COLOR asks of it. Components outside 0 to 255 are
 // not written.
 
@@ -17,7 +19,7 @@ struct KivDrwComponentColor {
 
     void Read(const KivSettingRepository* repository, int& r, int& g, int& b) const;
     void Write(KivSettingRepository* repository, int r, int g, int b) const;
-    // The lock is that of the red key, as with the background colors.
+    // That of the red key, as with the background colors, and the two others as its companions.
     void GetInfo(const KivSettingRepository* repository, KivSettingInfo& info) const;
 };
 
@@ -32,3 +34,22 @@ struct KivDrwPackedColor {
 
 // Whether these are components of a color.
 bool KivDrwIsColor(int r, int g, int b);
+
+// The lock record of a color of three keys: that of the red one with the two others as its companions, each
+// with its component as the color shows it.
+template <class Color>
+void KivDrwGetColorInfo(const Color& color, const KivSettingRepository* repository, KivSettingInfo& info)
+{
+    int r = 0, g = 0, b = 0;
+    color.Read(repository, r, g, b);
+    const auto part = [&](const auto& key, int component, const char* name, KivSettingInfo& record) {
+        KivDrwGetInfo(repository, key, record);
+        record.key = key.name;
+        record.value = KivUnicodeString(std::to_string(component));
+        record.part = name;
+    };
+    part(color.red, r, "PartRed", info);
+    info.companions.resize(2);
+    part(color.green, g, "PartGreen", info.companions[0]);
+    part(color.blue, b, "PartBlue", info.companions[1]);
+}

@@ -1,6 +1,6 @@
 #include "KivPageRows.h"
 
-#include "Dialog/KivTextCatalogue.h"
+#include "Base/KivTextCatalogue.h"
 #include "KivDrwStoredColor.h"
 #include "KivWholeOf.h"
 

@@ -1,5 +1,6 @@
+#include "Base/KivTextCatalogue.h"
 #include "Dialog/KivDlgFrame.h"
-#include "Dialog/KivTextCatalogue.h"
+#include "Settings/KivSettingInfo.h"
 #include "Support/KivSettingsSandbox.h"
 
 #include <gtest/gtest.h>
@@ -55,6 +56,22 @@ TEST_F(TextCatalogues, MissingOnesAreSaidOnceAndShowNames)
     EXPECT_EQ(said.size(), 1U);
     EXPECT_TRUE(KivTextCatalogue::FindResource("icons/none.svg").IsEmpty());
     EXPECT_EQ(KivTextCatalogue::KnownLanguages(), (std::set<std::string>{"Deutsch", "English", "Pseudo"}));
+}
+
+TEST_F(TextCatalogues, TakeValuesInAnyOrderAndSettingsSpeakThem)
+{
+    box.Write(box.root / "Module/texts/Deutsch/KivFramework.texts",
+              "Swap = \"%2 vor %1 zu 100%\"\nSettingLockedHereAt = \"%2 (%1)\"\nSettingPlace = \"%2, %1\"\n");
+    KivTextCatalogue::SetLanguage("Deutsch");
+    EXPECT_EQ(KivTextCatalogue::FrameworkText("Swap", {"%2", "b"}), "b vor %2 zu 100%");
+    EXPECT_EQ(KivTextCatalogue::FrameworkText("Missing", {"a", "b"}), "Missing a b");
+    KivSettingInfo info;
+    info.origin = KivSettingInfo::Origin::Administrator;
+    info.lockedHere = true;
+    info.value = "5";
+    info.lockLayer = "site";
+    info.lockFile = "/x";
+    EXPECT_EQ(info.Words(), "5 (/x, site)");
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "Dialog/KivTextCatalogue.h"
+#include "Base/KivTextCatalogue.h"
 
 #include "Base/KivDiagnostic.h"
 #include "Base/KivEnvironment.h"
@@ -82,6 +82,24 @@ KivUnicodeString Lengthened(const KivUnicodeString& text)
     return KivUnicodeString(longer + "]");
 }
 
+// In one pass: a value may hold what looks like a place.
+KivUnicodeString Filled(const KivUnicodeString& text, const std::vector<KivUnicodeString>& values)
+{
+    std::string filled;
+    const std::string_view all = text.View();
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const char digit = all[i] == '%' && i + 1 < all.size() ? all[i + 1] : '0';
+        const auto place = static_cast<std::size_t>(digit - '1');
+        if (digit < '1' || digit > '9' || place >= values.size()) {
+            filled += all[i];
+            continue;
+        }
+        filled += values[place].View();
+        ++i;
+    }
+    return KivUnicodeString(std::move(filled));
+}
+
 } // namespace
 
 const KivTextCatalogue& KivTextCatalogue::Open(const KivString& name)
@@ -104,10 +122,14 @@ const KivTextCatalogue& KivTextCatalogue::Open(const KivString& name)
     return place->second;
 }
 
-KivUnicodeString KivTextCatalogue::FrameworkText(const char* key)
+KivUnicodeString KivTextCatalogue::FrameworkText(const char* key,
+                                                 std::initializer_list<KivUnicodeString> values)
 {
     const KivUnicodeString text = Open(kFramework).Find(key);
-    return text.IsEmpty() ? KivUnicodeString(key) : text;
+    if (!text.IsEmpty()) return Filled(text, values);
+    KivUnicodeString bare(key);
+    for (const KivUnicodeString& value : values) bare.Append(" ").Append(value);
+    return bare;
 }
 
 void KivTextCatalogue::SetLanguage(const KivString& language)

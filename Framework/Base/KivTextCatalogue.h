@@ -3,6 +3,7 @@
 #include "Base/KivString.h"
 #include "Base/KivUnicodeString.h"
 
+#include <initializer_list>
 #include <set>
 #include <string>
 #include <unordered_map>
@@ -17,9 +18,11 @@ class KivTextCatalogue {
 public:
     static const KivTextCatalogue& Open(const KivString& name);
 
-    // The framework's own catalogue, and a text of it; the key itself when it is missing.
+    // The framework's own catalogue, and a text of it with the values in the places of its %1 to %9. When the
+    // text is missing: its key and the values, so that nothing of what there is to say is lost.
     static constexpr const char* kFramework = "KivFramework";
-    static KivUnicodeString FrameworkText(const char* key);
+    static KivUnicodeString FrameworkText(const char* key,
+                                          std::initializer_list<KivUnicodeString> values = {});
 
     // Not a language: the English texts, marked at both ends and longer by 40 %, as a translation may make
     // them. Shows at a glance what is cut off and what no catalogue holds.
