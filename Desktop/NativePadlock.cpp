@@ -40,7 +40,7 @@ void DrawPadlock(QPainter& painter, Look look, QColor ink)
     painter.setPen(QPen(ink, locked ? 1.6 : 1.2, Qt::SolidLine, Qt::FlatCap));
     painter.drawPath(shackle);
     if (look != Look::Closed) painter.drawRoundedRect(body, 1.0, 1.0);
-    if (look == Look::Partly) painter.fillRect(QRectF(2.5, 11.0, 11.0, 3.5), ink);
+    if (look == Look::Partly) painter.fillRect(QRectF(2.5, 7.5, 5.5, 7.0), ink);
     if (look != Look::Closed) return;
     painter.setPen(Qt::NoPen);
     painter.setBrush(ink);

@@ -15,11 +15,11 @@ public:
     // Another record of the same setting, after the administrator has changed its lock.
     void SetInfo(const KivSettingInfo& info);
     bool IsLocked() const { return _info.locked; }
-    // Whether it looks closed: locked, or closed by the administrator who edits the layer; in part, when that
-    // is so for some of what it stands for, such as one component of a color. Whether the controls are
-    // disabled is up to the setting itself, not to its companions.
-    bool IsClosed() const { return _info.IsClosed() && !_info.IsPartlyClosed(); }
-    bool IsPartlyClosed() const { return _info.IsPartlyClosed(); }
+    // Whether it looks closed: locked, or closed by the administrator who edits the layer. The setting's own
+    // lock disables the controls, so it looks closed then; else it is closed in part when only some of what
+    // it stands for is, such as one component of a color.
+    bool IsClosed() const { return IsLocked() || (_info.lockedHere && !_info.IsPartlyClosed()); }
+    bool IsPartlyClosed() const { return !IsLocked() && _info.IsPartlyClosed(); }
     // An administrator's, who locks and unlocks the setting for the users of the layer that he edits.
     bool IsSwitch() const { return _info.canLock; }
     // Whether pressing the switch opens it: as soon as the edited layer locks some part.
@@ -37,7 +37,7 @@ public:
     // The setting, the reason and the keys, for a person to pass on.
     KivUnicodeString GetReport() const;
     // Whether its words change with what the control shows.
-    bool SpeaksOfValue() const { return _info.IsClosed() || IsPartlyClosed(); }
+    bool SpeaksOfValue() const { return IsClosed() || IsPartlyClosed(); }
 
     // From now on that object is disabled while the setting is locked.
     void AddAssociatedDialog(KivDialog* dialog);

@@ -89,7 +89,9 @@ TEST_F(AdministratorMode, CancelTakesLocksBackAndPadlocksShowIt)
 // Each with the setting's title and the value that the row shows, by which it is in force.
 TEST_F(AdministratorMode, PadlocksNameTheirSettingAndTheValueInForce)
 {
-    box.Write(file, "lock double Drw_settings_GridPrimarySpacing = 25\nlock int RotSnapAngle = 30\n"
+    // What the company gives is of a type that nobody reads.
+    box.Write(box.File("company"), "lock int Ruler = 1\nint RotSnapAngle = 30\n");
+    box.Write(file, "lock double Drw_settings_GridPrimarySpacing = 25\nlock RotSnapAngle\n"
                     "lock float BackgroundColorRed = 0\nlock float BackgroundColorGreen = 1\n"
                     "lock float BackgroundColorBlue = 1\nlock int DrwAnnotSnapMod = 1\n"
                     "lock string DrwFrameAndTitleBlockPath = \"\"\n");
@@ -102,7 +104,8 @@ TEST_F(AdministratorMode, PadlocksNameTheirSettingAndTheValueInForce)
     const std::string by = "Locked by the administrator at ";
     starts(Lock("checkRuler").GetTip(), "Show ruler: " + by + "On in layer \"company\" (");
     starts(Lock("editorGridSpacing").GetReason(), by + "25 mm in ");
-    starts(Lock("spinnerRotSnapAngle").GetReason(), by + "15° in ");
+    EXPECT_EQ(Lock("spinnerRotSnapAngle").GetReason(),
+              (by + "15° in layer \"site\" (" + file.string() + ", line 2).").c_str());
     starts(Lock("comboBackgroundColor").GetReason(), by + "Cyan in ");
     starts(Lock("editorTitleBlockPath").GetReason(), by + "an empty text in ");
     EXPECT_EQ(Lock("spinnerRotSnapAngle").GetReport(),
@@ -116,9 +119,14 @@ TEST_F(AdministratorMode, PadlocksNameTheirSettingAndTheValueInForce)
 // The red key's lock governs a color, but nobody is left without a word on the other two.
 TEST_F(AdministratorMode, APartlyLockedColorSaysWhichPartAndIsOpenedAtOnce)
 {
-    box.Write(file, "lock float BackgroundColorGreen = 1\n");
+    box.Write(file, "lock float BackgroundColorGreen = 1\nlock BackgroundColorRedDitto\n");
     Open();
     EXPECT_TRUE(IsEnabled("comboBackgroundColor"));
+    EXPECT_TRUE(Lock("comboBackgroundColorDD").IsClosed() && !IsEnabled("comboBackgroundColorDD"));
+    const std::string two(Lock("comboBackgroundColorDD").GetReason().View());
+    EXPECT_LT(two.find("Red is fixed at 255 by the administrator in layer \"site\""),
+              two.find("Green is fixed"));
+    EXPECT_NE(two.find("company"), std::string::npos) << two;
     const std::string fixed =
         "Green is fixed at 255 by the administrator in layer \"site\" (" + file.string() + ", line 1).";
     for (const KivUnicodeString& said :
