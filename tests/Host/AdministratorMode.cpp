@@ -113,7 +113,7 @@ TEST_F(AdministratorMode, PadlocksNameTheirSettingAndTheValueInForce)
     EXPECT_EQ(Control("editorGridSpacing").GetTip(), Lock("editorGridSpacing").GetReason());
     ASSERT_TRUE(Press("pushAnnotActiveSnap"));
     EXPECT_EQ(Node<KivDialog>("frameRadioAnnotActivSnaplocked").GetShownValue(),
-              "The orientation of their reference");
+              "Orientation of their reference");
 }
 
 // The red key's lock governs a color, but nobody is left without a word on the other two.
