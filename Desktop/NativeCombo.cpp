@@ -34,12 +34,6 @@ void NativeCombo::ShowNode()
     if (height > 0) setMaxVisibleItems(height);
     if (accessibleDescription().isEmpty())
         setAccessibleDescription(WindowText("ComboHelp").arg(TreeNode()->GetLineCount()));
-    // An empty field would not tell a stored value that has no line from one that is not there.
-    if (!lines.isEmpty() && TreeNode()->GetSelect() < 0) {
-        const QString why = WindowText("NotAmongTheChoices");
-        setToolTip(why);
-        setAccessibleDescription(why + u' ' + accessibleDescription());
-    }
 }
 
 QStringList NativeCombo::Lines() const

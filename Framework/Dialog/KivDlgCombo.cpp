@@ -1,5 +1,6 @@
 #include "Dialog/KivDlgCombo.h"
 
+#include "Base/KivTextCatalogue.h"
 #include "Parameter/KivNumberFormat.h"
 
 #include <utility>
@@ -48,6 +49,14 @@ KivUnicodeString KivDlgCombo::GetShownValue() const
     KivUnicodeString chosen;
     GetLine(chosen, _selected);
     return chosen;
+}
+
+KivUnicodeString KivDlgCombo::GetTip() const
+{
+    const KivUnicodeString tip = KivDlgControl::GetTip();
+    if (_lines.empty() || _selected >= 0) return tip;
+    const KivUnicodeString why = KivTextCatalogue::FrameworkText("NotAmongTheChoices");
+    return tip.IsEmpty() ? why : why + "\n" + tip;
 }
 
 void KivDlgCombo::ClearLine()

@@ -27,6 +27,8 @@ public:
     int GetSelect() const { return _selected; }
     // The chosen line.
     KivUnicodeString GetShownValue() const override;
+    // Begins with what an empty field cannot tell: that there is a value, which no line stands for.
+    KivUnicodeString GetTip() const override;
     // The first line with that text; nothing is chosen when there is none.
     void SetSelect(const KivUnicodeString& line, int notify = 0);
     // What a user chose from the list.

@@ -81,7 +81,9 @@ KivUnicodeString KivDlgLock::GetSpokenName() const
 KivUnicodeString KivDlgLock::GetReason() const
 {
     const KivDialog* control = GetAssociatedDialog();
-    return control ? _info.Words(control->GetShownValue()) : _info.Words();
+    const KivUnicodeString shown = control ? control->GetShownValue() : KivUnicodeString();
+    // What the control cannot show is said as it is stored.
+    return shown.IsEmpty() ? _info.Words() : _info.Words(shown);
 }
 
 KivUnicodeString KivDlgLock::GetTip() const

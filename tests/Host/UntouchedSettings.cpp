@@ -78,6 +78,7 @@ TEST_F(UntouchedSettings, ThatNoControlCanShowStayUntilAnotherIsChosen)
     auto& symbols = Node<KivDlgCombo>("comboSymbol");
     for (KivDlgCombo* combo : {&Combo("comboSkinLinetype"), &Combo("comboSkinThickness"), &symbols}) {
         EXPECT_EQ(combo->GetSelect(), -1);
+        EXPECT_NE(combo->GetTip().View().find("not among the choices"), std::string_view::npos);
         EXPECT_TRUE(KivUserHand::Choose(*combo, 0));
     }
     // Who turns to the inherited symbol and back has a symbol to choose.
