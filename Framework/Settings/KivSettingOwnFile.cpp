@@ -140,7 +140,7 @@ bool KivSettingOwnFile::Write(const KivUnicodeString& target, std::string text, 
     return true;
 }
 
-KivSettingOwnFile::Outcome KivSettingOwnFile::Save(const std::vector<KivSettingChange>& changes)
+KivSettingOwnFile::Outcome KivSettingOwnFile::Save(const std::function<Changes(bool)>& merge)
 {
     if (_path.IsEmpty()) {
         Refuse("there is no home directory, and KivUserSettingsPath names none");
@@ -157,12 +157,14 @@ KivSettingOwnFile::Outcome KivSettingOwnFile::Save(const std::vector<KivSettingC
         Refuse(lock.Reason());
         return Outcome::Refused;
     }
-    Read();
-    bool isDurable = false;
+    const bool wasRead = Read();
     if (IsProtected()) {
         Refuse(_content.reason);
         return Outcome::Refused;
     }
+    const Changes changes = merge(wasRead);
+    if (changes.empty()) return Outcome::Nothing;
+    bool isDurable = false;
     if (_file.IsDamaged() && !SetAside(target)) return Outcome::Refused;
     if (!Write(target, _file.With(changes), isDurable)) return Outcome::Refused;
     return isDurable ? Outcome::Durable : Outcome::Visible;

@@ -3,12 +3,14 @@
 #include "Settings/KivFileContent.h"
 #include "Settings/KivSettingFile.h"
 
+#include <functional>
 #include <vector>
 
 // The one file that a repository writes: the user's, or that of the administrator layer being edited.
 class KivSettingOwnFile {
 public:
-    enum class Outcome { Durable, Visible, Refused };
+    enum class Outcome { Nothing, Durable, Visible, Refused };
+    using Changes = std::vector<KivSettingChange>;
 
     // The path is empty when there is no place for the file.
     KivSettingOwnFile(const KivUnicodeString& path, bool isAdministrators);
@@ -22,9 +24,10 @@ public:
     // The file is there but cannot be read.
     bool IsProtected() const { return _content.state == KivFileContent::State::Unreadable; }
 
-    // Puts the changes on top of what is on disk now, which another process may have changed: it is read
-    // first, under the lock. Refused says why and leaves the disk as it was.
-    Outcome Save(const std::vector<KivSettingChange>& changes);
+    // Puts changes on top of what is on disk now, which another process may have changed: it is read first,
+    // under the lock. Only then merge is asked for the changes, and told whether the file was read; it is not
+    // asked when the file cannot be written. Refused says why and leaves the disk as it was.
+    Outcome Save(const std::function<Changes(bool wasRead)>& merge);
 
 private:
     bool IsAsItWas() const;

@@ -32,9 +32,11 @@ void TakeLine(const KivSettingLine& line, bool isAdministrators, KivSettingEntry
 
 KivSettingStore::KivSettingStore(std::string_view name, const KivUnicodeString& editedLayer)
     : _name(name), _isAdministrator(!editedLayer.IsEmpty()),
-      _ownLayer(_isAdministrator ? KivSettingLayers::NameOf(editedLayer) : "user"),
       _layerDirectories(KivSettingLayers::Outside(editedLayer)),
-      _own(OwnPath(_isAdministrator ? editedLayer : KivSettingLayers::User(), name), _isAdministrator)
+      _own(OwnPath(_isAdministrator ? editedLayer : KivSettingLayers::User(), name), _isAdministrator),
+      _places{.ownName = _isAdministrator ? KivSettingLayers::NameOf(editedLayer) : "user",
+              .ownPath = _own.Path(),
+              .layers = {}}
 {
     ReadFiles();
 }
@@ -52,7 +54,7 @@ void KivSettingStore::ReadFiles()
 std::vector<KivUnicodeString> KivSettingStore::Files() const
 {
     std::vector<KivUnicodeString> files;
-    for (const KivSettingLayer& layer : _layers) files.push_back(layer.path);
+    for (const KivSettingLayer& layer : _places.layers) files.push_back(layer.path);
     if (!_own.Path().IsEmpty()) files.push_back(_own.Path());
     return files;
 }
@@ -128,11 +130,11 @@ void KivSettingStore::AimAll()
 
 void KivSettingStore::ReadLayers()
 {
-    _layers =
+    _places.layers =
         KivReadAdministratorLayers(_layerDirectories, KivSettingLayers::FileIn({}, _name.View()).View());
     _prefixLocks.Clear();
-    for (int layer = 0; layer < static_cast<int>(_layers.size()); ++layer) {
-        const KivSettingFile& file = _layers[static_cast<std::size_t>(layer)].file;
+    for (int layer = 0; layer < static_cast<int>(_places.layers.size()); ++layer) {
+        const KivSettingFile& file = _places.layers[static_cast<std::size_t>(layer)].file;
         if (!file.HasPatterns()) continue;
         for (const KivSettingLine& line : file.Lines()) {
             if (line.isPattern) _prefixLocks.Add(line.key, layer, line.number);
@@ -143,8 +145,8 @@ void KivSettingStore::ReadLayers()
         attribute.givenLayer = -1;
         Govern(attribute);
     }
-    for (int layer = 0; layer < static_cast<int>(_layers.size()); ++layer) {
-        for (const KivSettingLine& line : _layers[static_cast<std::size_t>(layer)].file.Lines()) {
+    for (int layer = 0; layer < static_cast<int>(_places.layers.size()); ++layer) {
+        for (const KivSettingLine& line : _places.layers[static_cast<std::size_t>(layer)].file.Lines()) {
             if (line.isPattern || line.key.empty()) continue;
             if (!line.lock && !KivHasValue(line.value)) continue; // damaged
             KivSettingAttribute& attribute = _table[Meet(line.key, line.hash)];
@@ -164,7 +166,8 @@ void KivSettingStore::ReadLayers()
     AimAll();
 }
 
-// Takes what the own file says; what has not been saved stays on top of it.
+// Takes what the own file says. What has not been saved stays on top of it, but for values of a first start:
+// nobody chose them, so that one gives way to what the file has come to say since.
 void KivSettingStore::TakeOwnFile()
 {
     std::unordered_map<std::size_t, KivSettingEntry> working, saved;
@@ -179,13 +182,20 @@ void KivSettingStore::TakeOwnFile()
         if (line.isPattern && !_isAdministrator) continue; // nobody is inside of the user's file
         TakeLine(line, _isAdministrator, _table[Meet(line.key, line.hash)].own);
     }
+    const auto yields = [&](std::size_t index, const KivSettingEntry& entry) {
+        const KivSettingEntry& now = _table[index].own;
+        return entry.initial && KivHasValue(now.value) && !now.Says(saved.at(index));
+    };
     for (auto& [index, before] : _unsaved) before = _table[index].own;
     for (auto& [index, before] : _uncommitted) {
         // What was the saved state at the commit follows the disk; what was committed unsaved stays.
         const auto old = saved.find(index);
-        if (old == saved.end() || old->second.Says(before)) before = _table[index].own;
+        if (old == saved.end() || old->second.Says(before) || yields(index, before))
+            before = _table[index].own;
     }
-    for (const auto& [index, entry] : working) _table[index].own = entry;
+    for (const auto& [index, entry] : working) {
+        if (!yields(index, entry)) _table[index].own = entry;
+    }
     GovernAllOwn();
     for (KivSettingAttribute& attribute : _table) attribute.Resolve();
     AimAll();
@@ -314,66 +324,48 @@ KivSettingStore::Keys KivSettingStore::Refresh()
     return ChangedSince(shown);
 }
 
-KivSettingStore::Keys KivSettingStore::Save(Receipt& result)
+std::vector<KivSettingChange> KivSettingStore::Unsaved() const
 {
     std::vector<KivSettingChange> changes;
     for (const auto& [index, saved] : _unsaved) {
         if (IsDirty(index, saved)) changes.push_back({KivString(_table[index].key), _table[index].own});
     }
-    if (changes.empty()) {
+    return changes;
+}
+
+KivSettingStore::Keys KivSettingStore::Save(Receipt& result)
+{
+    using Outcome = KivSettingOwnFile::Outcome;
+    if (Unsaved().empty()) {
         ForgetUnsaved();
         result = Receipt::Nothing;
         return Commit();
     }
-    const AllShown shown = ShownAtCommit();
-    const KivSettingOwnFile::Outcome outcome = _own.Save(changes);
-    if (outcome == KivSettingOwnFile::Outcome::Refused) {
+    const AllShown committed = ShownAtCommit(), working = ShownNow();
+    const Outcome outcome = _own.Save([this](bool wasRead) {
+        if (wasRead) TakeOwnFile();
+        return Unsaved();
+    });
+    if (outcome == Outcome::Refused) {
         // No point to return to: whoever is told that his changes are not safe may still take them back.
         result = Receipt::Refused;
-        return {};
+        return ChangedSince(working);
     }
-    result = outcome == KivSettingOwnFile::Outcome::Durable ? Receipt::Durable : Receipt::Visible;
+    result = outcome == Outcome::Nothing   ? Receipt::Nothing
+             : outcome == Outcome::Durable ? Receipt::Durable
+                                           : Receipt::Visible;
     ForgetUnsaved();
     ForgetUncommitted();
     TakeOwnFile();
-    return ChangedSince(shown);
+    return ChangedSince(committed);
 }
 
 void KivSettingStore::Trace(const KivSettingAttribute& attribute, KivSettingProvenance& place) const
 {
-    using Origin = KivSettingInfo::Origin;
-    place = {};
-    place.origin = attribute.origin;
-    if (attribute.origin == Origin::User) {
-        if (_isAdministrator) place.origin = Origin::Administrator;
-        place.initial = attribute.own.initial;
-        place.layer = &_ownLayer;
-        place.file = &_own.Path();
-        place.line = attribute.own.line;
-    } else if (attribute.origin == Origin::Administrator) {
-        const KivSettingLayer& layer = _layers[static_cast<std::size_t>(attribute.givenLayer)];
-        place.layer = &layer.name;
-        place.file = &layer.path;
-        place.line = attribute.givenLine;
-    }
-    switch (attribute.LockWith(attribute.own)) {
-    case KivSettingAttribute::Lock::Open:
-        break;
-    case KivSettingAttribute::Lock::Here:
-        place.lockedHere = true;
-        place.lockLayer = &_ownLayer;
-        place.lockFile = &_own.Path();
-        place.lockLine = attribute.own.lock ? attribute.own.lockLine : attribute.ownPrefixLine;
-        break;
-    case KivSettingAttribute::Lock::Outside:
-        const KivSettingLayer& layer = _layers[static_cast<std::size_t>(attribute.lockLayer)];
-        place.locked = true;
-        place.lockLayer = &layer.name;
-        place.lockFile = &layer.path;
-        place.lockLine = attribute.lockLine;
-        break;
-    }
-    place.canLock = _isAdministrator && !place.locked && !attribute.isUnderOwnPrefix;
+    _places.Trace(attribute, place);
+    if (!_isAdministrator) return;
+    if (place.origin == KivSettingInfo::Origin::User) place.origin = KivSettingInfo::Origin::Administrator;
+    place.canLock = !place.locked && !attribute.isUnderOwnPrefix;
 }
 
 void KivSettingStore::Describe(const KivSettingAttribute& attribute, KivSettingInfo& info) const

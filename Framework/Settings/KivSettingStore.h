@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Settings/KivSettingLayer.h"
 #include "Settings/KivSettingListeners.h"
 #include "Settings/KivSettingNews.h"
 #include "Settings/KivSettingOwnFile.h"
+#include "Settings/KivSettingPlaces.h"
 #include "Settings/KivSettingPrefixLocks.h"
 #include "Settings/KivSettingTable.h"
 
@@ -90,6 +90,7 @@ private:
     void ReadFiles();
     void ReadLayers();
     void TakeOwnFile();
+    std::vector<KivSettingChange> Unsaved() const;
     void Change(std::size_t index, const KivSettingEntry& says);
     bool IsDirty(std::size_t index, const KivSettingEntry& saved) const
     {
@@ -103,10 +104,9 @@ private:
 
     KivString _name;
     bool _isAdministrator;
-    KivUnicodeString _ownLayer;                      // what a person calls the layer that is written
     std::vector<KivUnicodeString> _layerDirectories; // outside of the own file, outermost first
-    std::vector<KivSettingLayer> _layers;
     KivSettingOwnFile _own;
+    KivSettingPlaces _places;
     KivSettingTable _table;
     KivSettingPrefixLocks _prefixLocks;              // of the layers outside
     KivSettingPrefixLocks _ownPrefixLocks;           // of the layer that is written

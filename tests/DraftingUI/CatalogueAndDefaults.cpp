@@ -131,6 +131,38 @@ TEST_F(FirstStart, KeepsWhatThereIsAndGathersWithoutWriting)
     EXPECT_EQ(ResetAndWriteSettings(1), 0);
 }
 
+// Another program may store something at any moment before the defaults are on disk.
+TEST_F(FirstStart, NeverWinsOverWhatAnotherProgramStored)
+{
+    // Since the repository was read.
+    EXPECT_EQ(Attributes(), 0);
+    box.Write(file, "int Ruler = 1\n");
+    KivDrwOptionsServices::InitOptionsOnDisk();
+    EXPECT_EQ(KivDrwRead(KivDrwRepository(), KivDrwKeys::Ruler), 1);
+    EXPECT_EQ(box.Bytes(file), "int Ruler = 1\n");
+
+    // After it was found empty: a user's value, and a first start of its own. What was reset here stays so.
+    const std::string mine = "int RotSnapAuto = 1\n";
+    const std::string theirs = "int Ruler = 1\ninitial int DrwHideDim = 7\ninitial int ViewFrame = 0\n";
+    box.Write(file, mine);
+    KivSettingRepository::ForgetAll();
+    const char* const key = "RotSnapAuto";
+    KivDrwRepository()->ResetToAdminValues(&key, 1);
+    bool isBetween = true;
+    KivDrwRepository()->AddListener([&](const auto& keys) {
+        if (!std::exchange(isBetween, false)) return;
+        EXPECT_EQ(keys.size(), 218U) << "the commit";
+        box.Write(file, mine + theirs);
+    });
+    KivDrwOptionsServices::InitOptionsOnDisk();
+    EXPECT_FALSE(isBetween);
+    EXPECT_EQ(KivDrwRead(KivDrwRepository(), KivDrwKeys::Ruler), 1);
+    EXPECT_EQ(Attributes(), 219);
+    const std::string bytes = box.Bytes(file);
+    EXPECT_TRUE(bytes.starts_with("initial int RotSnapAuto = 0\n" + theirs)) << bytes;
+    EXPECT_NE(bytes.find("initial int ViewName = 1\n"), std::string::npos);
+}
+
 TEST_F(FirstStart, WritesNothingOverAFileThatCannotBeRead)
 {
     std::filesystem::create_directories(file);
@@ -138,6 +170,24 @@ TEST_F(FirstStart, WritesNothingOverAFileThatCannotBeRead)
     EXPECT_TRUE(std::filesystem::is_directory(file));
     EXPECT_EQ(KivDrwRead(KivDrwRepository(), KivDrwKeys::Drw_settings_GridSecondaryStep), 10);
     EXPECT_FALSE(box.diagnostics.empty());
+
+    // Not readable between the look and the save, and back later with what the user has chosen.
+    std::filesystem::remove(file);
+    KivSettingRepository::ForgetAll();
+    bool isBetween = true;
+    KivDrwRepository()->AddListener([&](const auto&) {
+        if (std::exchange(isBetween, false)) std::filesystem::create_directories(file);
+    });
+    KivDrwOptionsServices::InitOptionsOnDisk();
+    EXPECT_TRUE(std::filesystem::is_directory(file));
+    const int frame = 2;
+    KivDrwRepository()->WriteSetting("ViewFrame", &frame, 1, 0);
+    std::filesystem::remove(file);
+    box.Write(file, "int Ruler = 1\nint ViewFrame = 0\n");
+    KivDrwRepository()->Refresh();
+    EXPECT_EQ(KivDrwRead(KivDrwRepository(), KivDrwKeys::Ruler), 1);
+    KivDrwRepository()->Rollback();
+    EXPECT_EQ(KivDrwRead(KivDrwRepository(), KivDrwKeys::ViewFrame), 0);
 }
 
 TEST(ComputedDefaults, TitleBlocksComeFromTheFirstInstallationThatHasThem)

@@ -283,8 +283,13 @@ TEST_F(Saving, ARefusedSaveKeepsEverythingForTheNextOne)
     box.Write(file, "int A = 1\n");
     KivSettingRepository& repository = box.Reopen();
     Put(repository, "A", 2);
+    std::string told;
+    repository.AddListener([&](const KivSettingRepository::Keys& keys) {
+        for (const KivString& key : keys) told += key.View();
+    });
 
-    // The disk is full.
+    // The disk is full; what another program stored before that is taken all the same.
+    box.Write(file, "int A = 1\nint B = 1\n");
     rlimit before{};
     getrlimit(RLIMIT_FSIZE, &before);
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
@@ -295,7 +300,8 @@ TEST_F(Saving, ARefusedSaveKeepsEverythingForTheNextOne)
     std::signal(SIGXFSZ, handler);
     EXPECT_EQ(box.Said("the settings were not saved: the file cannot be written"), 1);
     EXPECT_EQ(box.Names("user").size(), 1U);
-    EXPECT_EQ(box.Bytes(file), "int A = 1\n");
+    EXPECT_EQ(box.Bytes(file), "int A = 1\nint B = 1\n");
+    EXPECT_EQ(told, "B");
 
     // The directory is gone and something else stands there.
     std::filesystem::rename(box.root / "user", box.root / "aside");
@@ -309,7 +315,7 @@ TEST_F(Saving, ARefusedSaveKeepsEverythingForTheNextOne)
     EXPECT_EQ(box.Read(repository, "A", 0), 1);
     Put(repository, "A", 2);
     EXPECT_EQ(Save(repository), Receipt::Durable);
-    EXPECT_EQ(box.Bytes(file), "int A = 2\n");
+    EXPECT_EQ(box.Bytes(file), "int A = 2\nint B = 1\n");
 
     // Another program is stopped while it saves.
     const int held = open((box.root / "user").c_str(), O_RDONLY | O_DIRECTORY);
