@@ -88,7 +88,7 @@ template <class T> void AddRead(const std::string& name, const KivDrwKey<T>& key
 template <class T> void AddReadByKey(const std::string& name, const KivDrwKey<T>& key)
 {
     KivRatio::Add(name, 3.0, FromRepository<T>([&key](const KivSettingRepository& repository, T& value) {
-                      return repository.ReadBound(key.place, &value);
+                      return repository.ReadBound(kKivDrwKeyNames, key.place, &value);
                   }),
                   FromContainer<T>(
                       &BareValues, key.place,

@@ -13,15 +13,16 @@ template <class Value, class Stored>
 concept KivDrwStoredAs = std::same_as<Value, Stored> ||
     (std::same_as<Value, unsigned char>&& std::same_as<Stored, int>);
 
-// The value in force: what the repository holds, else the default. A repository whose keys have been bound is
-// read by the key's place, any other one by its name.
+// The value in force: what the repository holds, else the default. A repository to which the catalogue's keys
+// are bound is read by the key's place, any other one by its name.
 template <class Stored>
 Stored KivDrwRead(const KivSettingRepository* repository, const KivDrwKey<Stored>& key)
 {
     Stored value{};
-    if (repository && repository->ReadBound(key.place, &value) == S_OK) return value;
+    if (repository && repository->ReadBound(kKivDrwKeyNames, key.place, &value) == S_OK) return value;
     value = key.makeDefault();
-    if (repository && !repository->IsBound(key.place)) repository->ReadSetting(key.name, &value, 1);
+    if (repository && !repository->IsBound(kKivDrwKeyNames, key.place))
+        repository->ReadSetting(key.name, &value, 1);
     return value;
 }
 

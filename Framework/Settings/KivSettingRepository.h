@@ -65,20 +65,26 @@ public:
     // The same in short, by one look-up that copies nothing. E_FAIL for a key that no layer knows.
     HRESULT GetProvenance(const char* key, KivSettingProvenance& place) const;
 
-    // Makes an ordered list of keys known, whose text has to outlive the repository: from now on the key at
-    // each place is read by that place, without a look-up. Binding the same list again costs nothing; another
-    // one takes its place.
+    // Makes an ordered list of keys known: from now on the key at each place is read by that place, without a
+    // look-up. Binding the same list again costs nothing; another one takes its place. A list is told by
+    // where it stands: it has to outlive the repository, with its texts.
     void BindKeys(std::span<const char* const> keys);
 
-    // Reads the bound key at a place like ReadSetting; E_FAIL too when no key is bound there.
-    template <class T> HRESULT ReadBound(std::size_t place, T* value) const
+    // Whether a place is one of the list that begins there, and that list is the bound one.
+    bool IsBound(const char* const* keys, std::size_t place) const
     {
-        const T* const shown = place < _shown.size() ? std::get_if<T>(_shown[place]) : nullptr;
-        if (!shown || !value) return ReadUnusual(place, value);
+        return keys == _boundKeys.data() && place < _boundKeys.size();
+    }
+    // Reads the key at a place of a list like ReadSetting; E_FAIL too when it is not bound, as after somebody
+    // else has bound a list of his own.
+    template <class T> HRESULT ReadBound(const char* const* keys, std::size_t place, T* value) const
+    {
+        const bool isThere = keys == _boundKeys.data() && place < _shown.size();
+        const T* const shown = isThere ? std::get_if<T>(_shown[place]) : nullptr;
+        if (!shown || !value) return IsBound(keys, place) ? ReadUnusual(place, value) : E_FAIL;
         *value = *shown;
         return S_OK;
     }
-    bool IsBound(std::size_t place) const { return place < _boundKeys.size(); }
 
     // Delivers the attributes of all layers one by one, in the order of the files, outermost first. Not zero
     // when there is none (left). name and type: buffers of at least 256 characters; count: receives 1;

@@ -31,7 +31,7 @@ TEST(Reads, AllocateNothing)
         repository.ReadSetting("Ruler", &real, 1),
         repository.ReadSetting("NeverHeardOf_AndLongerThanAnyShortString", &whole, 1),
         repository.ReadSetting("DrwGVSXmlTrel", &text, 1),
-        repository.ReadBound(KivDrwPlaces::DrwGVSXmlTrel, &text),
+        repository.ReadBound(kKivDrwKeyNames, KivDrwPlaces::DrwGVSXmlTrel, &text),
         repository.GetProvenance("Ruler", place),
     };
     real = KivDrwRead(&repository, KivDrwKeys::RotSnapAngle) +
@@ -59,11 +59,11 @@ TEST(Reads, PlacesNameTheirKeys)
         for (std::size_t i = 0; i < std::size(kKivDrwKeyNames); ++i) {
             int byName = -1, byPlace = -1;
             EXPECT_EQ(repository.ReadSetting(kKivDrwKeyNames[i], &byName, 1),
-                      repository.ReadBound(i, &byPlace));
+                      repository.ReadBound(kKivDrwKeyNames, i, &byPlace));
             EXPECT_EQ(byName, byPlace) << kKivDrwKeyNames[i];
         }
         int value = -1;
-        EXPECT_EQ(repository.ReadBound(std::size(kKivDrwKeyNames), &value), E_FAIL);
+        EXPECT_EQ(repository.ReadBound(kKivDrwKeyNames, std::size(kKivDrwKeyNames), &value), E_FAIL);
     };
     check();
     box.Write(box.File("user"), bytes);
@@ -73,6 +73,18 @@ TEST(Reads, PlacesNameTheirKeys)
         KivDrwRepository()->WriteSetting(("K" + std::to_string(i)).c_str(), &i, 1, 0);
     check();
     KivSettingRepository::ForgetAll();
+    check();
+
+    // Another part of the program binds keys of its own: places of the catalogue name none of them.
+    static const char* const theirs[] = {"K0", "K1", "K2", "K3", "GraduatedColorDitto"};
+    KivSettingRepository& repository = *KivDrwRepository();
+    repository.BindKeys(theirs);
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_EQ(KivDrwRead(&repository, KivDrwKeys::GraduatedColor), 4);
+        int value = -1;
+        EXPECT_EQ(repository.ReadBound(kKivDrwKeyNames, 4, &value), E_FAIL);
+        EXPECT_EQ(repository.ReadBound(theirs, 4, &value), repository.ReadSetting(theirs[4], &value, 1));
+    }
     check();
 }
 
