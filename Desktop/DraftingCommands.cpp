@@ -22,7 +22,7 @@ constexpr struct {
 } kStyles[] = {
     {SheetLine::Standard, "StyleStandard"}, {SheetLine::Thin, "StyleThin"}, {SheetLine::Thick, "StyleThick"}};
 
-// Later only the Administration tab switches commands, when it commits.
+// Later only the Administration tab switches commands, with each OK, Cancel and Reset.
 void ApplySettings()
 {
     const auto attributes = KivDrwSettingController<KivIDrwDraftingSettingAtt>();

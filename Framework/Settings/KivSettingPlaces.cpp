@@ -2,6 +2,14 @@
 
 #include "Settings/KivSettingTable.h"
 
+std::vector<KivUnicodeString> KivSettingPlaces::Files() const
+{
+    std::vector<KivUnicodeString> files;
+    for (const KivSettingLayer& layer : layers) files.push_back(layer.path);
+    if (!ownPath.IsEmpty()) files.push_back(ownPath);
+    return files;
+}
+
 void KivSettingPlaces::Trace(const KivSettingAttribute& attribute, KivSettingProvenance& place) const
 {
     using Origin = KivSettingInfo::Origin;

@@ -13,6 +13,10 @@ struct KivSettingPlaces {
     KivUnicodeString ownPath;
     std::vector<KivSettingLayer> layers; // outermost first
 
+    // Their files, whether they are there or not, outermost first; the own one last, if there is a place for
+    // it.
+    std::vector<KivUnicodeString> Files() const;
+
     // Where the value and the lock of an attribute of the repository stand, as a user sees it: who writes a
     // layer is its administrator.
     void Trace(const KivSettingAttribute& attribute, KivSettingProvenance& place) const;

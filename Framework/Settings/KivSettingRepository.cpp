@@ -233,11 +233,29 @@ HRESULT KivSettingRepository::SaveRepository(const char* path)
         Store().receipt = Receipt::Refused;
         return E_FAIL;
     }
+    return Save({});
+}
+
+HRESULT KivSettingRepository::Save(std::span<const char* const> only)
+{
     Receipt receipt = Receipt::Nothing;
-    const Keys changed = Store().Save(receipt);
+    const Keys changed = Store().Save(receipt, only);
     Store().receipt = receipt;
     Store().listeners.Tell(changed);
     return receipt == Receipt::Refused ? E_FAIL : S_OK;
+}
+
+HRESULT KivSettingRepository::SaveKeys(const char* const* keys, int count)
+{
+    if (!keys || count <= 0) return count == 0 ? S_OK : E_FAIL;
+    return Save({keys, static_cast<std::size_t>(count)});
+}
+
+HRESULT KivSettingRepository::RollbackKeys(const char* const* keys, int count)
+{
+    if (!keys || count <= 0) return count == 0 ? S_OK : E_FAIL;
+    Store().listeners.Tell(Store().Rollback({keys, static_cast<std::size_t>(count)}));
+    return S_OK;
 }
 
 KivSettingRepository::Receipt KivSettingRepository::LastReceipt() const

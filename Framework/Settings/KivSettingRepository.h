@@ -106,6 +106,11 @@ public:
     HRESULT SaveRepository(const char* path);
     Receipt LastReceipt() const;
 
+    // The two for some keys alone: what else has changed is neither saved nor taken back. Nothing happens
+    // without a key.
+    HRESULT SaveKeys(const char* const* keys, int count);
+    HRESULT RollbackKeys(const char* const* keys, int count);
+
     // Drops the user's value of each key, so that the administrator's shows, else the reader's default. Part
     // of the working state. Keys that are not there are passed over.
     HRESULT ResetToAdminValues(const char* const* keys, int count);
@@ -173,6 +178,8 @@ private:
     template <class T> HRESULT ReadUnusual(std::size_t place, T* value) const;
     template <class T> HRESULT Take(const KivSettingAttribute& attribute, T& value) const;
     template <class T> HRESULT Write(const char* key, const T* value, long count, int reserved);
+
+    HRESULT Save(std::span<const char* const> only);
 
     KivSettingStore& Store() const;
 

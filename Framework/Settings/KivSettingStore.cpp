@@ -51,14 +51,6 @@ void KivSettingStore::ReadFiles()
     });
 }
 
-std::vector<KivUnicodeString> KivSettingStore::Files() const
-{
-    std::vector<KivUnicodeString> files;
-    for (const KivSettingLayer& layer : _places.layers) files.push_back(layer.path);
-    if (!_own.Path().IsEmpty()) files.push_back(_own.Path());
-    return files;
-}
-
 // The attribute of a key, which a lock on a prefix may govern before anybody has said anything of it.
 std::size_t KivSettingStore::Meet(std::string_view key, std::size_t hash)
 {
@@ -262,11 +254,19 @@ KivSettingStore::AllShown KivSettingStore::ShownNow() const
     return shown;
 }
 
-KivSettingStore::AllShown KivSettingStore::ShownAtCommit() const
+bool KivSettingStore::Concerns(std::size_t index, Only only) const
+{
+    const auto isIt = [&](const char* key) { return _table[index].key == key; };
+    return only.empty() || std::any_of(only.begin(), only.end(), isIt);
+}
+
+KivSettingStore::AllShown KivSettingStore::ShownAtCommit(Only only) const
 {
     AllShown shown = ShownNow();
-    for (const auto& [index, before] : _uncommitted)
-        shown[index] = {_table[index].ShownWith(before), _table[index].LockWith(before)};
+    for (const auto& [index, before] : _uncommitted) {
+        if (Concerns(index, only))
+            shown[index] = {_table[index].ShownWith(before), _table[index].LockWith(before)};
+    }
     return shown;
 }
 
@@ -283,36 +283,33 @@ KivSettingStore::Keys KivSettingStore::ChangedSince(const AllShown& shown) const
     return changed;
 }
 
-void KivSettingStore::ForgetUncommitted()
+void KivSettingStore::Forget(Journal& journal, bool KivSettingAttribute::*standsInIt, Only only)
 {
-    for (const auto& [index, before] : _uncommitted) _table[index].isUncommitted = false;
-    _uncommitted.clear();
+    for (const auto& [index, before] : journal) {
+        if (Concerns(index, only)) _table[index].*standsInIt = false;
+    }
+    std::erase_if(journal, [&](const auto& entry) { return !(_table[entry.first].*standsInIt); });
 }
 
-void KivSettingStore::ForgetUnsaved()
-{
-    for (const auto& [index, before] : _unsaved) _table[index].isUnsaved = false;
-    _unsaved.clear();
-}
-
-KivSettingStore::Keys KivSettingStore::Commit()
+KivSettingStore::Keys KivSettingStore::Commit(Only only)
 {
     if (_uncommitted.empty()) return {};
-    const AllShown shown = ShownAtCommit();
-    ForgetUncommitted();
+    const AllShown shown = ShownAtCommit(only);
+    Forget(_uncommitted, &KivSettingAttribute::isUncommitted, only);
     return ChangedSince(shown);
 }
 
-KivSettingStore::Keys KivSettingStore::Rollback()
+KivSettingStore::Keys KivSettingStore::Rollback(Only only)
 {
     if (_uncommitted.empty()) return {};
     const AllShown shown = ShownNow();
     for (const auto& [index, before] : _uncommitted) {
+        if (!Concerns(index, only)) continue;
         _table[index].own = before;
         _table[index].Resolve();
         Aim(_table[index]);
     }
-    ForgetUncommitted();
+    Forget(_uncommitted, &KivSettingAttribute::isUncommitted, only);
     GovernAllOwn();
     return ChangedSince(shown);
 }
@@ -324,27 +321,28 @@ KivSettingStore::Keys KivSettingStore::Refresh()
     return ChangedSince(shown);
 }
 
-std::vector<KivSettingChange> KivSettingStore::Unsaved() const
+std::vector<KivSettingChange> KivSettingStore::Unsaved(Only only) const
 {
     std::vector<KivSettingChange> changes;
     for (const auto& [index, saved] : _unsaved) {
-        if (IsDirty(index, saved)) changes.push_back({KivString(_table[index].key), _table[index].own});
+        if (IsDirty(index, saved) && Concerns(index, only))
+            changes.push_back({KivString(_table[index].key), _table[index].own});
     }
     return changes;
 }
 
-KivSettingStore::Keys KivSettingStore::Save(Receipt& result)
+KivSettingStore::Keys KivSettingStore::Save(Receipt& result, Only only)
 {
     using Outcome = KivSettingOwnFile::Outcome;
-    if (Unsaved().empty()) {
-        ForgetUnsaved();
+    if (Unsaved(only).empty()) {
+        Forget(_unsaved, &KivSettingAttribute::isUnsaved, only);
         result = Receipt::Nothing;
-        return Commit();
+        return Commit(only);
     }
-    const AllShown committed = ShownAtCommit(), working = ShownNow();
-    const Outcome outcome = _own.Save([this](bool wasRead) {
+    const AllShown committed = ShownAtCommit(only), working = ShownNow();
+    const Outcome outcome = _own.Save([&](bool wasRead) {
         if (wasRead) TakeOwnFile();
-        return Unsaved();
+        return Unsaved(only);
     });
     if (outcome == Outcome::Refused) {
         // No point to return to: whoever is told that his changes are not safe may still take them back.
@@ -354,8 +352,8 @@ KivSettingStore::Keys KivSettingStore::Save(Receipt& result)
     result = outcome == Outcome::Nothing   ? Receipt::Nothing
              : outcome == Outcome::Durable ? Receipt::Durable
                                            : Receipt::Visible;
-    ForgetUnsaved();
-    ForgetUncommitted();
+    Forget(_unsaved, &KivSettingAttribute::isUnsaved, only);
+    Forget(_uncommitted, &KivSettingAttribute::isUncommitted, only);
     TakeOwnFile();
     return ChangedSince(committed);
 }

@@ -46,11 +46,13 @@ public:
     bool SetLock(std::string_view key, bool locked);
     void DropOwn(std::string_view key);
 
-    // The keys answered by these show another value than before.
-    Keys Commit();
-    Keys Rollback();
+    // The keys answered by these show another value than before. Where keys are named, it concerns those
+    // alone; what else has changed is left as it is.
+    using Only = std::span<const char* const>;
+    Keys Commit(Only only = {});
+    Keys Rollback(Only only = {});
     Keys Refresh();
-    Keys Save(Receipt& receipt);
+    Keys Save(Receipt& receipt, Only only = {});
 
     void Trace(const KivSettingAttribute& attribute, KivSettingProvenance& place) const;
     void Describe(const KivSettingAttribute& attribute, KivSettingInfo& info) const;
@@ -59,7 +61,7 @@ public:
 
     bool IsAdministrator() const { return _isAdministrator; }
     bool IsProtected() const { return _own.IsProtected(); }
-    std::vector<KivUnicodeString> Files() const;
+    std::vector<KivUnicodeString> Files() const { return _places.Files(); }
 
     KivSettingListeners listeners;
     bool isInitial = false; // writes bear the mark "initial"
@@ -90,17 +92,17 @@ private:
     void ReadFiles();
     void ReadLayers();
     void TakeOwnFile();
-    std::vector<KivSettingChange> Unsaved() const;
+    std::vector<KivSettingChange> Unsaved(Only only) const;
+    bool Concerns(std::size_t index, Only only) const;
     void Change(std::size_t index, const KivSettingEntry& says);
     bool IsDirty(std::size_t index, const KivSettingEntry& saved) const
     {
         return !_table[index].own.Says(saved);
     }
     AllShown ShownNow() const;
-    AllShown ShownAtCommit() const;
+    AllShown ShownAtCommit(Only only) const;
     Keys ChangedSince(const AllShown& shown) const;
-    void ForgetUncommitted();
-    void ForgetUnsaved();
+    void Forget(Journal& journal, bool KivSettingAttribute::*standsInIt, Only only);
 
     KivString _name;
     bool _isAdministrator;

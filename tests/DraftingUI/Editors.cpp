@@ -117,6 +117,9 @@ TEST_F(Editors, AdministrationSaysThatItsControllerIsMissing)
     const char* const file = "[File: DraftingUI/KivDuiSettings.m/src/KivDrwOptAdminFrm:";
     EXPECT_EQ(box.Said(std::string(">> ASSERTION FAILED ON POINTER:  ") + file), 1);
     EXPECT_EQ(box.Said(std::string(">> ASSERTION FAILED ON POINTER: KivDrwOptAdminFrm ") + file), 1);
+    int style = 9;
+    frame->GetCreateNewSheetFrom(style);
+    EXPECT_EQ(style, 0);
     EXPECT_EQ(frame->GetResourceFile(-1), "KivDrwOptAdmin");
     EXPECT_EQ(frame->GetResourceFile(1), frame->KivDialog::GetResourceFile(0));
 }

@@ -266,8 +266,11 @@ TEST_P(PageFamily, OkCancelAndResetMeanWhatTheySay)
 
 TEST_P(PageFamily, WorksOnDefaultsWithoutAnyRepository)
 {
+    OpenAll();
+    const std::string defaults = Shown();
     KivSettingRepository::Withhold(true);
     OpenAll();
+    EXPECT_EQ(Shown(), defaults);
     for (const TableRow& row : table.rows) Drive(Control(row.control));
     session->Reset(Page(table.page));
     EXPECT_TRUE(session->Commit().empty());

@@ -36,7 +36,7 @@ TEST_F(PageRules, AnySheetSourceButTheCurrentSheetIsTheStyle)
     EXPECT_EQ(Stored("KivDrwSheetFromStyle", 9), 1);
 }
 
-TEST_F(PageRules, AdministrationGraysItsCommandsOnOkAndBringsThemBack)
+TEST_F(PageRules, AdministrationGraysItsCommandsAsTheSettingsInForceSay)
 {
     const struct {
         const char* row;
@@ -71,9 +71,61 @@ TEST_F(PageRules, AdministrationGraysItsCommandsOnOkAndBringsThemBack)
         EXPECT_EQ(available(), left);
         EXPECT_TRUE(IsChecked(row));
         EXPECT_TRUE(KivUserHand::Tick(Check(row)));
+        session->Reset(Page("Administration"));
+        EXPECT_EQ(available(), all);
+        session->Cancel();
+        EXPECT_EQ(available(), left);
+        EXPECT_TRUE(KivUserHand::Tick(Check(row)));
         EXPECT_TRUE(session->Commit().empty());
         EXPECT_EQ(available(), all);
+
+        EXPECT_TRUE(KivUserHand::Tick(Check(row)));
+        std::filesystem::rename(file, box.root / "aside");
+        std::filesystem::create_directory(file);
+        EXPECT_FALSE(session->Commit().empty()) << "it cannot be saved";
+        EXPECT_EQ(available(), left);
+        session->Cancel();
+        EXPECT_EQ(available(), all);
+        std::filesystem::remove(file);
+        std::filesystem::rename(box.root / "aside", file);
     }
+}
+
+TEST_F(PageRules, AdministrationSavesAndTakesBackItsOwnKeysAlone)
+{
+    OpenOn("");
+    KivIUserSettings& administration = *Page("Administration").settings.Get();
+    const auto change = [&] {
+        EXPECT_TRUE(KivUserHand::Tick(Check("checkRuler")));
+        EXPECT_TRUE(KivUserHand::Tick(Check("checkOnlyUserDefault")));
+    };
+    std::string told;
+    Repository().AddListener([&](const KivSettingRepository::Keys& keys) {
+        for (const KivString& key : keys) told += std::string(key.View()) + " ";
+    });
+    change();
+    administration.CancelModification(nullptr);
+    EXPECT_EQ(std::exchange(told, {}), "DrwOnlyUserDefault ");
+    EXPECT_EQ(Stored("Ruler", 0) * 10 + Stored("DrwOnlyUserDefault", 0), 10);
+    session->Refill();
+    EXPECT_TRUE(KivUserHand::Tick(Check("checkOnlyUserDefault")));
+    // What another program has stored comes in with the save.
+    KivCommandHeader* const background = KivCommandHeader::Declare("KivDrwEditFrame");
+    box.Write(file, "int DrwLockBackgroundView = 1\n");
+    administration.CommitModification(nullptr);
+    EXPECT_FALSE(background->IsAvailable());
+    background->BecomeAvailable();
+    EXPECT_EQ(std::exchange(told, {}), "DrwOnlyUserDefault DrwLockBackgroundView ");
+    EXPECT_EQ(box.Bytes(file), "int DrwLockBackgroundView = 1\nint DrwOnlyUserDefault = 1\n");
+
+    // The rest is neither lost nor beyond recall, and what is saved is not taken back.
+    EXPECT_TRUE(KivUserHand::Tick(Check("checkOnlyUserDefault")));
+    session->Cancel();
+    EXPECT_EQ(std::exchange(told, {}), "Ruler DrwOnlyUserDefault ");
+    EXPECT_EQ(Stored("Ruler", 0) * 10 + Stored("DrwOnlyUserDefault", 0), 1);
+    change();
+    EXPECT_TRUE(session->Commit().empty());
+    EXPECT_EQ(box.Bytes(file), "int DrwLockBackgroundView = 1\nint DrwOnlyUserDefault = 0\nint Ruler = 1\n");
 }
 
 TEST_F(PageRules, EachPressOpensAnotherSnapWindowAndAllShowTheSame)

@@ -3,6 +3,7 @@
 #include "KivIDrwDraftingSettingAtt.h"
 #include "Settings/KivIASettingController.h"
 
+#include <iterator>
 #include <vector>
 
 namespace {
@@ -15,16 +16,22 @@ constexpr struct {
 #include "KivDrwDraftingAttributes.def"
 };
 
+constexpr const char* kKeys[] = {
+#define KIV_ATTRIBUTE(T, attribute, Set, Get, GetInfo, settingKey) KivDrwKeys::settingKey.name,
+#include "KivDrwDraftingAttributes.def"
+};
+constexpr int kKeyCount = static_cast<int>(std::size(kKeys));
+
 } // namespace
 
 HRESULT KivDrwDraftingSettingCtrl::SaveRepository()
 {
-    return _repository ? _repository->SaveRepository(nullptr) : E_FAIL;
+    return _repository ? _repository->SaveKeys(kKeys, kKeyCount) : E_FAIL;
 }
 
 HRESULT KivDrwDraftingSettingCtrl::Rollback()
 {
-    return _repository ? _repository->Rollback() : E_FAIL;
+    return _repository ? _repository->RollbackKeys(kKeys, kKeyCount) : E_FAIL;
 }
 
 HRESULT KivDrwDraftingSettingCtrl::ResetToAdminValuesByName(const KivVariant& names)

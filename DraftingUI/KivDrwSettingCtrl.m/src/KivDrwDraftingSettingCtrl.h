@@ -7,7 +7,8 @@
 
 // The component "KivDrwDraftingSettingCtrl": shows eleven keys of the drafting settings as attributes
 // (KivIDrwDraftingSettingAtt), and saves them, takes them back and resets them by name
-// (KivIASettingController). Without a repository every operation fails.
+// (KivIASettingController); the other keys of the repository are none of its business. Without a repository
+// every operation fails.
 class KivDrwDraftingSettingCtrl final : public KivClass<KivDrwDraftingSettingCtrl, KivBaseUnknown> {
 public:
     static constexpr const char* Name = "KivDrwDraftingSettingCtrl";

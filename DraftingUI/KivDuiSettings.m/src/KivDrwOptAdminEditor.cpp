@@ -9,6 +9,17 @@
 #include <iterator>
 #include <new>
 
+namespace {
+
+// Whatever was decided, the commands are as the settings in force say.
+void SwitchCommands()
+{
+    if (const auto attributes = KivDrwSettingController<KivIDrwDraftingSettingAtt>())
+        KivDrwCommandAvailability::Apply(*attributes.Get());
+}
+
+} // namespace
+
 KivDrwOptAdminEditor::KivDrwOptAdminEditor() : _controller(KivDrwSettingController<KivIASettingController>())
 {}
 
@@ -33,11 +44,14 @@ void KivDrwOptAdminEditor::CommitModification(KivSettingRepository*)
     if (!attributes) return;
     KivDrwCommandAvailability::Apply(*attributes.Get());
     if (_controller) _controller->SaveRepository();
+    SwitchCommands(); // the save takes what other programs have stored
 }
 
 void KivDrwOptAdminEditor::CancelModification(KivSettingRepository*)
 {
-    if (_controller) _controller->Rollback();
+    if (!_controller) return;
+    _controller->Rollback();
+    SwitchCommands();
 }
 
 void KivDrwOptAdminEditor::ResetUserSettingsValue()
@@ -51,6 +65,7 @@ void KivDrwOptAdminEditor::ResetUserSettingsValue()
     if (!variant) return;
     _controller->ResetToAdminValuesByName(*variant);
     FreeVariantSafeArray(variant);
+    SwitchCommands();
 }
 
 KIV_IMPLEMENT_TIE(TIEKivIUserSettingsKivDrwOptAdminEditor, CreateTIEKivIUserSettingsKivDrwOptAdminEditor,

@@ -7,7 +7,7 @@
 #include "Settings/KivIASettingController.h"
 
 // The editor of the Administration tab. Unlike the others it works through the controller of the drafting
-// settings, and its commit grays out or restores commands of the running application.
+// settings, and grays out or restores commands of the running application as they then say.
 class KivDrwOptAdminEditor final : public KivClass<KivDrwOptAdminEditor, KivEditor> {
 public:
     static constexpr const char* Name = "KivDrwOptAdminEditor";

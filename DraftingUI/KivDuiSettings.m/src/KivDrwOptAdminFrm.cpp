@@ -21,6 +21,7 @@ int KivDrwOptAdminFrm::SetCreateNewSheetFrom(const int& source)
 
 int KivDrwOptAdminFrm::GetCreateNewSheetFrom(int& source)
 {
+    source = KivDrwAttributeDefault<&KivIDrwDraftingSettingAtt::GetCreateNewSheetFrom>::Make();
     if (!_attributes) {
         KivReportFailedAssertion("ON POINTER", Name, kFile, __LINE__);
         return S_OK;

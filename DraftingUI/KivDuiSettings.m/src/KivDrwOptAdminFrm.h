@@ -6,7 +6,7 @@
 #include "KivIDrwDraftingSettingAtt.h"
 
 // The Administration page of the drafting workbench. It goes through the attributes of the settings'
-// controller, not to the repository; without them it shows zeros, stores nothing and says so.
+// controller, not to the repository; without them it shows defaults, stores nothing and says so.
 class KivDrwOptAdminFrm final : public KivClass<KivDrwOptAdminFrm, Kiv2DBaseOptAdminFrm> {
     using Base = Kiv2DBaseOptAdminFrm;
 

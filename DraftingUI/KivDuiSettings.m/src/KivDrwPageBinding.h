@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KivDrwAttributeDefault.h"
 #include "KivDrwBackgroundColor.h"
 #include "KivDrwPageWrite.h"
 #include "KivDrwStoredColor.h"
@@ -51,7 +52,7 @@ template <auto accessor> using KivValueOf = typename KivAccessorValue<decltype(a
     }
 
 // The accessor triple of an attribute of the drafting settings' controller, which may be missing in
-// _attributes.
+// _attributes. What cannot be read is its default.
 #define KIV_BIND_ATTRIBUTE(SetAccessor, GetAccessor, GetInfoAccessor, Set, Get, GetInfo)                     \
     int SetAccessor(const KivValueOf<&Base::SetAccessor>& value) override                                    \
     {                                                                                                        \
@@ -60,6 +61,7 @@ template <auto accessor> using KivValueOf = typename KivAccessorValue<decltype(a
     }                                                                                                        \
     int GetAccessor(KivValueOf<&Base::SetAccessor>& value) override                                          \
     {                                                                                                        \
+        value = KivDrwAttributeDefault<&KivIDrwDraftingSettingAtt::Get>::Make();                             \
         if (_attributes) _attributes->Get(value);                                                            \
         return S_OK;                                                                                         \
     }                                                                                                        \
