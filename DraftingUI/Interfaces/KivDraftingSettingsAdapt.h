@@ -18,7 +18,7 @@ public:
     HRESULT GetPrimarySpaceV(double& spacing) override;
     HRESULT GetGraduationH(int& parts) override;
     HRESULT GetGraduationV(int& parts) override;
-    // Only a stored component of 1.0 is delivered as 255, all below as 0.
+    // A component is the whole part of the stored one, times 255: 255 for 1.0, 0 for all between 0.0 and 1.0.
     HRESULT GetSheetColor(int& red, int& green, int& blue) override;
     HRESULT GetSheetColorGraduated(unsigned char& graduated) override;
     HRESULT GetDetailColor(int& red, int& green, int& blue) override;

@@ -21,6 +21,14 @@ using KivHandReach::See;
 
 namespace {
 
+// Nobody can type all digits of a limit: what the field prints for it is meant as the limit. What merely
+// prints alike is not: "-1 mm" is no 0 km.
+bool IsMeantAs(double limit, double value, const KivDlgSpinner& spinner)
+{
+    double printed = limit;
+    return spinner.Read(spinner.Print(limit), printed) && value == printed;
+}
+
 KivHandAnswer Enter(KivDlgSpinner& spinner, double value)
 {
     if (value != spinner.GetValue()) spinner.SetValue(value, 1);
@@ -115,9 +123,8 @@ KivHandAnswer KivUserHand::Type(KivDlgSpinner& spinner, const KivUnicodeString& 
         return Refused(KivTextCatalogue::FrameworkText("HandMeansNothing", {text}));
     double minimum = 0.0, maximum = 0.0, step = 0.0;
     spinner.GetMinMaxStep(minimum, maximum, step);
-    // What shows like a limit is meant as that limit: nobody can type all its digits.
-    if (value < minimum && spinner.Print(value) == spinner.Print(minimum)) value = minimum;
-    if (value > maximum && spinner.Print(value) == spinner.Print(maximum)) value = maximum;
+    if (value < minimum && IsMeantAs(minimum, value, spinner)) value = minimum;
+    if (value > maximum && IsMeantAs(maximum, value, spinner)) value = maximum;
     if (value < minimum || value > maximum)
         return Refused(KivTextCatalogue::FrameworkText("HandOutOfRange",
                                                        {spinner.Print(minimum), spinner.Print(maximum)}));

@@ -3,7 +3,8 @@
 #include "Base/KivResult.h"
 
 // The general settings of a drafting application, as other applications read them. Switches are 0 or 1,
-// lengths millimeters, angles degrees, color components 0 to 255. Every accessor answers S_OK.
+// whatever is stored. Lengths are millimeters, angles degrees, color components usually 0 to 255: these and
+// the numbers of parts are what is stored, be it fit or not. Every accessor answers S_OK.
 class KivDraftingSettings {
 public:
     virtual ~KivDraftingSettings() = default;

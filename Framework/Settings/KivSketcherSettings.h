@@ -3,9 +3,11 @@
 #include "Base/KivResult.h"
 #include "Command/KivCallbackManager.h"
 
-// The settings of a sketcher, which it reads and writes and whose changes it is told. Switches are 0 or 1,
-// lengths millimeters, color components 0 to 255. A setter stores a value that is fit and, when notify is
-// not zero, tells the listeners of its kind of event.
+// The settings of a sketcher, which it reads and writes and whose changes it is told. A getter answers what
+// is stored, also what no setter would store: a switch is off at 0 and on at any other number; a length, in
+// millimeters, and a number of parts may be 0 or negative, a drag mode any number. Color components are 0 to
+// 255; those of a color that the sketcher has not are left as they are. A setter stores a value that is fit
+// (a switch as 0 or 1) and, when notify is not zero, tells the listeners of its kind of event.
 class KivSketcherSettings {
 public:
     virtual ~KivSketcherSettings() = default;

@@ -15,9 +15,14 @@ void KivDrwButtonDialog::Open()
     SetVisibility(KivDlgShown);
 }
 
-void KivDrwButtonDialog::Init()
+void KivDrwButtonDialog::InitValues()
 {
     for (KivDrwPresetValue* value : _presets) value->Preset();
+}
+
+void KivDrwButtonDialog::Init()
+{
+    InitValues();
     for (KivBoundValue* value : _values) value->Load();
     _form.ShowLocks();
     ShowValues();

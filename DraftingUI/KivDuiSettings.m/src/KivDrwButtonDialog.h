@@ -14,6 +14,8 @@ public:
     static constexpr const char* Name = "KivDrwButtonDialog";
     static constexpr const char* Framework = "DraftingUI";
 
+    // Takes the defaults of all values, in the order in which they are read; shows nothing.
+    void InitValues();
     // Takes the values in force, and shows them and their locks; what was chosen since is given up.
     void Init();
     // A control has changed: takes its value, and stores nothing.

@@ -85,6 +85,20 @@ TEST_F(UserHand, TypesInAnyUnitAndIsToldWhatIsWrong)
     for (const char* outside : {"0.99", "355.01", "-90"})
         EXPECT_FALSE(KivUserHand::Type(*spinner, outside)) << outside;
     EXPECT_EQ(listener.heard, 7);
+
+    // A limit is what is printed for it, in any unit, and nothing that only prints alike.
+    spinner->SetUnit(KivDlgUnitRadian);
+    const std::string least(spinner->Print(0.017453292519943393).View());
+    EXPECT_EQ(least, "0.017 rad") << "below the limit";
+    EXPECT_TRUE(KivUserHand::Type(*spinner, KivUnicodeString(least)));
+    EXPECT_EQ(spinner->GetValue(), 0.017453292519943393);
+    EXPECT_FALSE(KivUserHand::Type(*spinner, "0.0171 rad"));
+    spinner->SetUnit(KivDlgUnitKilometer);
+    spinner->SetMinMaxStep(0.0, 0.3048, 0.005, 1);
+    EXPECT_FALSE(KivUserHand::Type(*spinner, "-1 mm"));
+    EXPECT_FALSE(KivUserHand::Type(*spinner, "305 mm"));
+    for (const char* limit : {"1 ft", "12 in", "30,48 cm", "0"})
+        EXPECT_TRUE(KivUserHand::Type(*spinner, limit)) << limit;
 }
 
 TEST_F(UserHand, ChoosesAnyColorAndNamesIt)
