@@ -44,7 +44,7 @@ std::span<const KivDrwGroup> Groups();
 // further ones that belong to it.
 std::vector<const char*> ResetKeys(KivDrwGroup group);
 
-// The group's own name.
+// The group's name: what its tab is called in English.
 const char* NameOf(KivDrwGroup group);
 // The row of a key, or null for a key that is none of the catalogue's.
 const KivDrwRow* Find(std::string_view key);

@@ -83,6 +83,8 @@ std::optional<std::vector<std::string>> KeySelection::Named(const Settings& sett
 
 std::optional<KivDrwGroup> KeySelection::Page(std::string_view name, Console& console)
 {
+    // As the Compatibility page was called before.
+    if (strcasecmp("Trel", std::string(name).c_str()) == 0) return KivDrwGroup::Trel;
     std::vector<std::string_view> known;
     for (const KivDrwGroup group : KivDrwCatalogue::Groups()) {
         const char* const page = KivDrwCatalogue::NameOf(group);

@@ -33,7 +33,8 @@ constexpr Command kResetCommand{
     .summary = "drop the own values of whole options pages",
     .description = "Drops the user's value of everything that an options page shows, so that the\n"
                    "administrator's values apply, else the defaults. The pages are General, Layout, View,\n"
-                   "Generation, Geometry, Dimension, Manipulators, Annotation, Trel and Administration.",
+                   "Generation, Geometry, Dimension, Manipulators, Annotation, Compatibility and\n"
+                   "Administration.",
     .options = {},
     .examples = kExamples,
     .needsLayer = false,

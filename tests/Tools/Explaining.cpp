@@ -1,7 +1,5 @@
 #include "ToolFixture.h"
 
-#include "KivDrwValueKind.h"
-
 #include <set>
 
 namespace {
@@ -71,6 +69,7 @@ TEST_F(Explained, HelpManualAndCompletionNameTheSameCommandsAndOptions)
     EXPECT_EQ(Completed("set Rul"), " Ruler= \n");
     EXPECT_EQ(Completed("reset D"), " Dimension \n");
     EXPECT_EQ(Completed("list --page Ge"), " General Generation Geometry \n");
+    EXPECT_EQ(Run("list --page trel").out, Run("list --page Compatibility").out) << "its name before";
 }
 
 TEST_F(Explained, MisuseIsExplainedAndChangesNothing)
@@ -95,18 +94,6 @@ TEST_F(Explained, MisuseIsExplainedAndChangesNothing)
     EXPECT_TRUE(box.Names("user").empty());
     Expect("--system-layers $root/none list", 3, "", "no such file");
     EXPECT_EQ(Run("--version").out.substr(0, 12), "kivsettings ");
-}
-
-TEST(ValueKinds, HoldEveryDefaultAndKnowTheColors)
-{
-    int components = 0;
-    for (const KivDrwRow& row : KivDrwCatalogue::Rows()) {
-        const KivDrwValueKind& kind = KivDrwCatalogue::KindOf(row);
-        EXPECT_TRUE(kind.Holds(row.makeDefault())) << row.key;
-        EXPECT_EQ(kind.HasRange(), !std::holds_alternative<KivUnicodeString>(row.makeDefault())) << row.key;
-        components += kind.maximum == 255.0;
-    }
-    EXPECT_EQ(components, 33);
 }
 
 } // namespace

@@ -24,9 +24,9 @@ constexpr KivDrwRow kRows[] = {
 
 constexpr KivDrwGroup kGroups[] = {General,   Layout,       View,       Generation, Geometry,
                                    Dimension, Manipulators, Annotation, Trel,       Administration};
-constexpr const char* kGroupNames[] = {"General",  "Layout",        "View",         "Generation",
-                                       "Geometry", "Dimension",     "Manipulators", "Annotation",
-                                       "Trel",     "Administration"};
+constexpr const char* kGroupNames[] = {"General",       "Layout",        "View",         "Generation",
+                                       "Geometry",      "Dimension",     "Manipulators", "Annotation",
+                                       "Compatibility", "Administration"};
 
 } // namespace
 

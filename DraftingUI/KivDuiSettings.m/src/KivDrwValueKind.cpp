@@ -11,7 +11,7 @@ constexpr Kind kOfType[] = {
     {"switch", 0.0, 1.0},
     {"line type", 0.0, 7.0},
     {"color component", 0.0, 1.0},
-    {"length in millimeters", 0.0, 1.0e12},
+    {"length in millimeters", 0.0, 1.0e15},
     {"text", 0.0, 0.0},
 };
 
@@ -51,6 +51,7 @@ constexpr Exception kExceptions[] = {
     {KivDrwKeys::KivDrwHRVLOD.name, {"level of detail", 1.0, 15.0}},
     // A switch on its page, but a first start stores the level of detail here.
     {KivDrwKeys::KivDrwQmtAnnotLay.name, {"switch or level of detail", 0.0, 15.0}},
+    {KivDrwKeys::DrwGenerationForBoxTol.name, {"length in meters", 0.0, 1.0e12}},
     {KivDrwKeys::GenDimSemiAutoTimeOut.name, {"time-out", 1.0, 300.0}},
     {KivDrwKeys::Drw_settings_DragModeR14.name, {"choice", 0.0, 2.0}},
     {KivDrwKeys::Drw_settings_ColorDiagOverDefinedElts.name, kPackedColor},
