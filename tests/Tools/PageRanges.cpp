@@ -7,8 +7,8 @@ namespace {
 // The tool takes what the pages offer, and names it alike.
 class PageRanges : public OptionsPages {
 protected:
-    // How many things a control offers to be driven to: each line of a list, else the two ends of a range; the
-    // other buttons of a choice are rows of their own.
+    // How many things a control offers to be driven to: each line of a list, else the two ends of a range;
+    // the other buttons of a choice are rows of their own.
     static int Offers(const KivDialog& control)
     {
         const bool isList = control.IsAKindOf(KivDlgCombo::Name) && !control.IsAKindOf(KivComboColor::Name);
