@@ -28,6 +28,13 @@ KivMetaClass* KivMetaClass::Find(const char* name)
     return found == Classes().end() ? nullptr : found->second;
 }
 
+KivMetaClass* KivMetaClass::Find(const IID& id)
+{
+    const auto found = std::find_if(Classes().begin(), Classes().end(),
+                                    [&](const auto& known) { return known.second->Id() == id; });
+    return found == Classes().end() ? nullptr : found->second;
+}
+
 int KivMetaClass::IsAKindOf(const char* name) const
 {
     for (const KivMetaClass* meta = this; meta; meta = meta->Base()) {

@@ -27,7 +27,9 @@ class KivMetaClass {
 public:
     // The meta-object of that name, made from these facts if there is none yet.
     static KivMetaClass* Retrieve(const KivClassFacts& facts);
+    // The meta-object of a class or an interface by its name or its identifier; null when nobody has made it.
     static KivMetaClass* Find(const char* name);
+    static KivMetaClass* Find(const IID& id);
 
     const IID& Id() const { return _id; }
     const char* Name() const { return _facts.name; }

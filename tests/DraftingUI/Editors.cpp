@@ -1,9 +1,6 @@
 #include "KivDrwCommitSettingEditor.h"
-#include "KivDrwOptAdminEditor.h"
-#include "KivDrwOptGalEditor.h"
-#include "KivDrwOptGeoEditor.h"
-#include "KivDrwOptViewEditor.h"
 #include "KivDrwRepository.h"
+#include "KivDrwTabs.h"
 #include "Options/KivOptionsSession.h"
 #include "SketcherTest.h"
 

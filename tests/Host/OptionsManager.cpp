@@ -27,7 +27,12 @@ TEST_F(OptionsManager, FindsTheTenFactoriesThroughTheDictionary)
             EXPECT_STREQ(meta->LateType(), "KivEditorManager2");
             EXPECT_STREQ(meta->Framework(), "DraftingUI");
             EXPECT_TRUE(meta->IsAKindOf("KivExtensionAdapter"));
-            EXPECT_TRUE(factory->IsAKindOf(("KivI" + factoryName.substr(3)).c_str()));
+            const std::string interfaceName = "KivI" + factoryName.substr(3);
+            EXPECT_TRUE(factory->IsAKindOf(interfaceName.c_str()));
+            const KivMetaClass* interface = KivMetaClass::Find(KivMakeIID(interfaceName));
+            ASSERT_NE(interface, nullptr);
+            EXPECT_EQ(interface, KivMetaClass::Find(interfaceName.c_str()));
+            EXPECT_EQ(interface->Kind(), KivClassKind::Interface);
             const auto first = KivVar<KivBaseUnknown>::Adopt(factory->Create("KivIUserSettings"));
             const auto second = KivVar<KivBaseUnknown>::Adopt(factory->Create("KivIUserSettings"));
             ASSERT_TRUE(first && second);

@@ -4,7 +4,6 @@
 #include "KivDrwSettingController.h"
 #include "KivIDrwDraftingSettingAtt.h"
 #include "Options/KivEditorPage.h"
-#include "Options/KivIUserSettings.h"
 
 #include <iterator>
 #include <new>
@@ -67,6 +66,3 @@ void KivDrwOptAdminEditor::ResetUserSettingsValue()
     FreeVariantSafeArray(variant);
     SwitchCommands();
 }
-
-KIV_IMPLEMENT_TIE(TIEKivIUserSettingsKivDrwOptAdminEditor, CreateTIEKivIUserSettingsKivDrwOptAdminEditor,
-                  KivIUserSettings, KivDrwOptAdminEditor)

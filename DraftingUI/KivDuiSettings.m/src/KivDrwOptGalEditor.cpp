@@ -1,7 +1,6 @@
 #include "KivDrwOptGalEditor.h"
 
 #include "KivDrwSketcherSettings.h"
-#include "Options/KivIUserSettings.h"
 
 namespace {
 
@@ -24,6 +23,3 @@ void KivDrwOptGalEditor::AfterCancel()
 {
     TellSketcher();
 }
-
-KIV_IMPLEMENT_TIE(TIEKivIUserSettingsKivDrwOptGalEditor, CreateTIEKivIUserSettingsKivDrwOptGalEditor,
-                  KivIUserSettings, KivDrwOptGalEditor)

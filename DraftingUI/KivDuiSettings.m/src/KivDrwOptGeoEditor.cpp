@@ -1,7 +1,6 @@
 #include "KivDrwOptGeoEditor.h"
 
 #include "KivDrwSketcherSettings.h"
-#include "Options/KivIUserSettings.h"
 
 namespace {
 
@@ -25,6 +24,3 @@ void KivDrwOptGeoEditor::AfterReset()
 {
     TellSketcher();
 }
-
-KIV_IMPLEMENT_TIE(TIEKivIUserSettingsKivDrwOptGeoEditor, CreateTIEKivIUserSettingsKivDrwOptGeoEditor,
-                  KivIUserSettings, KivDrwOptGeoEditor)

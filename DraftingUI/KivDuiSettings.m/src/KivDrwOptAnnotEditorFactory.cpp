@@ -1,7 +1,0 @@
-#include "KivDrwOptAnnotEditorFactory.h"
-
-#include "KivIDrwOptAnnotEditorFactory.h"
-
-KIV_IMPLEMENT_TIE(TIEKivIDrwOptAnnotEditorFactoryKivDrwOptAnnotEditorFactory,
-                  CreateTIEKivIDrwOptAnnotEditorFactoryKivDrwOptAnnotEditorFactory,
-                  KivIDrwOptAnnotEditorFactory, KivDrwOptAnnotEditorFactory)

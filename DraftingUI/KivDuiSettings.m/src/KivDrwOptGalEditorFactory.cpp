@@ -1,7 +1,0 @@
-#include "KivDrwOptGalEditorFactory.h"
-
-#include "KivIDrwOptGalEditorFactory.h"
-
-KIV_IMPLEMENT_TIE(TIEKivIDrwOptGalEditorFactoryKivDrwOptGalEditorFactory,
-                  CreateTIEKivIDrwOptGalEditorFactoryKivDrwOptGalEditorFactory, KivIDrwOptGalEditorFactory,
-                  KivDrwOptGalEditorFactory)

@@ -1,7 +1,0 @@
-#include "KivDrwOptGenEditorFactory.h"
-
-#include "KivIDrwOptGenEditorFactory.h"
-
-KIV_IMPLEMENT_TIE(TIEKivIDrwOptGenEditorFactoryKivDrwOptGenEditorFactory,
-                  CreateTIEKivIDrwOptGenEditorFactoryKivDrwOptGenEditorFactory, KivIDrwOptGenEditorFactory,
-                  KivDrwOptGenEditorFactory)

@@ -1,7 +1,0 @@
-#include "KivDrwOptManipEditorFactory.h"
-
-#include "KivIDrwOptManipEditorFactory.h"
-
-KIV_IMPLEMENT_TIE(TIEKivIDrwOptManipEditorFactoryKivDrwOptManipEditorFactory,
-                  CreateTIEKivIDrwOptManipEditorFactoryKivDrwOptManipEditorFactory,
-                  KivIDrwOptManipEditorFactory, KivDrwOptManipEditorFactory)

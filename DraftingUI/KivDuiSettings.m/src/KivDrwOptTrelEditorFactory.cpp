@@ -1,7 +1,0 @@
-#include "KivDrwOptTrelEditorFactory.h"
-
-#include "KivIDrwOptTrelEditorFactory.h"
-
-KIV_IMPLEMENT_TIE(TIEKivIDrwOptTrelEditorFactoryKivDrwOptTrelEditorFactory,
-                  CreateTIEKivIDrwOptTrelEditorFactoryKivDrwOptTrelEditorFactory, KivIDrwOptTrelEditorFactory,
-                  KivDrwOptTrelEditorFactory)

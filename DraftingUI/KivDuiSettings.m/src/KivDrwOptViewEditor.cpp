@@ -1,6 +1,0 @@
-#include "KivDrwOptViewEditor.h"
-
-#include "Options/KivIUserSettings.h"
-
-KIV_IMPLEMENT_TIE(TIEKivIUserSettingsKivDrwOptViewEditor, CreateTIEKivIUserSettingsKivDrwOptViewEditor,
-                  KivIUserSettings, KivDrwOptViewEditor)
