@@ -2,18 +2,13 @@
 
 #include <cstdio>
 
-DraftingDiagnostics::DraftingDiagnostics(bool echoes) : _echoes(echoes)
-{
-    // Called at once in this thread; from another one in the next event.
-    _before = KivSetDiagnosticSink([this](const KivDiagnostic& diagnostic) {
-        QMetaObject::invokeMethod(this, [this, diagnostic] { Take(diagnostic); });
-    });
-}
-
-DraftingDiagnostics::~DraftingDiagnostics()
-{
-    KivSetDiagnosticSink(std::move(_before));
-}
+DraftingDiagnostics::DraftingDiagnostics(bool echoes)
+    : _echoes(echoes), _scope([this](const KivDiagnostic& diagnostic) {
+          // Called at once in this thread; from another one in the next event.
+          QMetaObject::invokeMethod(this, [this, diagnostic] { Take(diagnostic); });
+          return true;
+      })
+{}
 
 void DraftingDiagnostics::Take(const KivDiagnostic& diagnostic)
 {

@@ -1,21 +1,19 @@
 #pragma once
 
 #ifndef Q_MOC_RUN // moc cannot read the comparison header of the standard library behind it
-#include "Base/KivDiagnostic.h"
+#include "Base/KivDiagnosticScope.h"
 #endif
 
 #include <QObject>
 #include <vector>
 
-// Everything that the framework has to say to the person, from the making of this object to its end. It takes
-// the place of the framework's sink; the one before comes back.
+// Everything that the framework has to say to the person, from the making of this object to its end.
 class DraftingDiagnostics : public QObject {
     Q_OBJECT
 
 public:
     // Whether each diagnostic goes to standard error as well.
     explicit DraftingDiagnostics(bool echoes);
-    ~DraftingDiagnostics() override;
 
     const std::vector<KivDiagnostic>& All() const { return _all; }
 
@@ -31,5 +29,5 @@ private:
 
     std::vector<KivDiagnostic> _all;
     bool _echoes;
-    KivDiagnosticSink _before;
+    KivDiagnosticScope _scope;
 };

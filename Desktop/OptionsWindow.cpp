@@ -33,10 +33,10 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
                              QWidget* parent)
     : QDialog(parent), _session(std::move(session)), _memory(std::move(memory)), _list(new QListWidget(this)),
       _stack(new QStackedWidget(this)), _messages(new OptionsMessageStrip(this)),
-      _diagnostics([strip = QPointer<QWidget>(_messages)](const KivDiagnostic& diagnostic) {
+      _diagnostics([this](const KivDiagnostic& diagnostic) {
           // A note (an icon that nobody has drawn) is nothing that a user can mend.
-          if (strip && diagnostic.severity != KivDiagnostic::Severity::Note)
-              static_cast<OptionsMessageStrip*>(strip.data())->Add(ToQt(diagnostic.Words()));
+          if (diagnostic.severity != KivDiagnostic::Severity::Note) _messages->Add(ToQt(diagnostic.Words()));
+          return false;
       }),
       _windows(std::make_unique<OptionsSubWindows>(_session->Root(), _memory, *this))
 {

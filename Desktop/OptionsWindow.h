@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Base/KivDiagnosticScope.h"
 #include "Options/KivOptionsSession.h"
-#include "OptionsDiagnostics.h"
 #include "OptionsMemory.h"
 
 #include <QDialog>
@@ -68,7 +68,7 @@ private:
     QPushButton* _ok = nullptr;
     QPushButton* _cancel = nullptr;
     QPushButton* _reset = nullptr;
-    OptionsDiagnostics _diagnostics;
+    KivDiagnosticScope _diagnostics;
     std::unique_ptr<OptionsSubWindows> _windows; // null after the end
     bool _isRefillDue = false;
 };

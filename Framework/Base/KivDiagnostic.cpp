@@ -1,18 +1,6 @@
-#include "Base/KivDiagnostic.h"
+#include "Base/KivDiagnosticScope.h"
 
 #include <cstdio>
-#include <utility>
-
-namespace {
-
-// Never destroyed: a diagnostic may still come while the process ends.
-KivDiagnosticSink& Sink()
-{
-    static auto& sink = *new KivDiagnosticSink;
-    return sink;
-}
-
-} // namespace
 
 KivUnicodeString KivDiagnostic::Words() const
 {
@@ -28,14 +16,6 @@ KivUnicodeString KivDiagnostic::Words() const
 
 void KivReport(const KivDiagnostic& diagnostic)
 {
-    if (Sink()) {
-        Sink()(diagnostic);
-    } else {
+    if (!KivDiagnosticScope::Tell(diagnostic))
         std::fprintf(stderr, "%s\n", diagnostic.Words().ConvertToChar());
-    }
-}
-
-KivDiagnosticSink KivSetDiagnosticSink(KivDiagnosticSink sink)
-{
-    return std::exchange(Sink(), std::move(sink));
 }

@@ -3,8 +3,6 @@
 #include "Base/KivString.h"
 #include "Base/KivUnicodeString.h"
 
-#include <functional>
-
 // One thing that went wrong with what the program was given, said to a person.
 struct KivDiagnostic {
     enum class Severity { Note, Warning, Error };
@@ -19,10 +17,5 @@ struct KivDiagnostic {
     KivUnicodeString Words() const;
 };
 
-using KivDiagnosticSink = std::function<void(const KivDiagnostic&)>;
-
-// Says a diagnostic to the one sink of the process (standard error until another one is set).
+// Says a diagnostic to whoever listens (see KivDiagnosticScope), else on standard error.
 void KivReport(const KivDiagnostic& diagnostic);
-
-// Replaces the sink and answers the one it replaces; an empty one stands for standard error.
-KivDiagnosticSink KivSetDiagnosticSink(KivDiagnosticSink sink);

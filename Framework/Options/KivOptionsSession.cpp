@@ -1,5 +1,6 @@
 #include "Options/KivOptionsSession.h"
 
+#include "Base/KivDiagnosticScope.h"
 #include "Base/KivTextCatalogue.h"
 #include "Dialog/KivDlgDialog.h"
 #include "Dialog/KivUserHand.h"
@@ -98,18 +99,14 @@ bool KivOptionsSession::CloseWindows()
 std::vector<KivDiagnostic> KivOptionsSession::Commit()
 {
     if (!CloseWindows()) return {};
-    // The editors are silent by contract; what they meet reaches the framework's sink, where it is heard
-    // here.
+    // The editors are silent by contract: what they meet is overheard here.
     std::vector<KivDiagnostic> errors;
-    const KivDiagnosticSink before = KivSetDiagnosticSink({});
-    KivSetDiagnosticSink([&](const KivDiagnostic& diagnostic) {
-        if (diagnostic.severity == KivDiagnostic::Severity::Error)
-            errors.push_back(diagnostic);
-        else if (before)
-            before(diagnostic);
+    const KivDiagnosticScope scope([&errors](const KivDiagnostic& said) {
+        if (said.severity != KivDiagnostic::Severity::Error) return false;
+        errors.push_back(said);
+        return true;
     });
     for (const Page& page : _pages) page.settings->CommitModification(kNoRepository);
-    KivSetDiagnosticSink(before);
     return errors;
 }
 

@@ -35,7 +35,7 @@ public:
     // The texts of the damaged lines, in order.
     std::vector<std::string_view> DamagedLines() const;
 
-    // Says every line that costs something, and every key that stands twice, to the diagnostic sink.
+    // Says every line that costs something, and every key that stands twice (KivReport).
     void Report(const KivUnicodeString& path) const;
 
     // The text after changes. A changed key keeps the place of its last line; new keys come at the end, in

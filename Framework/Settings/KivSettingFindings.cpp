@@ -1,6 +1,6 @@
 #include "Settings/KivSettingFindings.h"
 
-#include "Base/KivDiagnostic.h"
+#include "Base/KivDiagnosticScope.h"
 #include "Settings/KivSettingLayer.h"
 #include "Settings/KivSettingLayers.h"
 #include "Settings/KivSettingOwnFile.h"
@@ -159,14 +159,14 @@ std::vector<KivSettingFinding> KivCheckSettings(std::string_view name, std::span
     KivSettingOwnFile own(
         ownDirectory.IsEmpty() ? ownDirectory : KivSettingLayers::FileIn(ownDirectory, name), !isUsers);
 
-    // What the readers say is what is wrong; its sink is put back at once.
+    // What the readers say is what is wrong.
     std::vector<KivDiagnostic> said;
-    KivDiagnosticSink sink =
-        KivSetDiagnosticSink([&said](const KivDiagnostic& diagnostic) { said.push_back(diagnostic); });
-    const std::vector<KivSettingLayer> outside =
-        KivReadAdministratorLayers(directories, KivSettingLayers::FileIn({}, name).View());
-    own.Read();
-    KivSetDiagnosticSink(std::move(sink));
+    std::vector<KivSettingLayer> outside;
+    {
+        const KivDiagnosticScope scope(said);
+        outside = KivReadAdministratorLayers(directories, KivSettingLayers::FileIn({}, name).View());
+        own.Read();
+    }
 
     std::vector<Layer> layers;
     for (const KivSettingLayer& layer : outside)

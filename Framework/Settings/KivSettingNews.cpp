@@ -1,6 +1,6 @@
 #include "Settings/KivSettingNews.h"
 
-#include "Base/KivDiagnostic.h"
+#include "Base/KivDiagnosticScope.h"
 
 #include <utility>
 #include <vector>
@@ -8,10 +8,10 @@
 void KivSettingNews::Say(const std::function<void()>& read)
 {
     std::vector<KivDiagnostic> said;
-    KivDiagnosticSink sink =
-        KivSetDiagnosticSink([&said](const KivDiagnostic& diagnostic) { said.push_back(diagnostic); });
-    read();
-    KivSetDiagnosticSink(std::move(sink));
+    {
+        const KivDiagnosticScope scope(said);
+        read();
+    }
     std::set<KivUnicodeString> words;
     for (const KivDiagnostic& diagnostic : said) {
         if (words.insert(diagnostic.Words()).second && !_said.contains(diagnostic.Words()))

@@ -26,13 +26,11 @@ int WriteAll(int descriptor, std::string_view data)
 } // namespace
 
 Console::Console()
-    : _before(KivSetDiagnosticSink([this](const KivDiagnostic& said) { Say(said.Words().View()); }))
+    : _diagnostics([this](const KivDiagnostic& said) {
+          Say(said.Words().View());
+          return true;
+      })
 {}
-
-Console::~Console()
-{
-    KivSetDiagnosticSink(_before);
-}
 
 void Console::Secure()
 {

@@ -2,7 +2,7 @@
 
 #include "ExitCode.h"
 
-#include "Base/KivDiagnostic.h"
+#include "Base/KivDiagnosticScope.h"
 
 #include <set>
 #include <string>
@@ -13,7 +13,6 @@ class Console {
 public:
     // Takes the framework's diagnostics as well, each once.
     Console();
-    ~Console();
     Console(const Console&) = delete;
     Console& operator=(const Console&) = delete;
 
@@ -38,5 +37,5 @@ private:
     std::string _data;
     std::set<std::string, std::less<>> _said;
     bool _isLost = false;
-    KivDiagnosticSink _before;
+    KivDiagnosticScope _diagnostics;
 };

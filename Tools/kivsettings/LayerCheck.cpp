@@ -3,7 +3,7 @@
 #include "KeySelection.h"
 #include "ValueText.h"
 
-#include "Base/KivDiagnostic.h"
+#include "Base/KivDiagnosticScope.h"
 #include "Settings/KivSettingFile.h"
 #include "Settings/KivSettingLayers.h"
 #include "Settings/KivTimedReading.h"
@@ -67,15 +67,18 @@ LayerCheck CheckLayers(const KivUnicodeString& editedLayer)
     for (const KivDrwRow& row : KivDrwCatalogue::Rows()) known.push_back(row.key);
     // What is said meanwhile is of the list of layers, and said each time that it is read.
     std::set<KivUnicodeString> said;
-    KivDiagnosticSink sink = KivSetDiagnosticSink([&](const KivDiagnostic& about) {
-        if (!said.insert(about.Words()).second) return;
-        check.findings.push_back({Kind::Wrong, {}, about.file, about.line, about.key, about.text});
-    });
-    for (KivSettingFinding& finding : KivCheckSettings(Settings::Name, known, editedLayer)) {
-        check.findings.push_back(std::move(finding));
+    std::vector<KivUnicodeString> paths;
+    {
+        const KivDiagnosticScope scope([&](const KivDiagnostic& about) {
+            if (said.insert(about.Words()).second)
+                check.findings.push_back({Kind::Wrong, {}, about.file, about.line, about.key, about.text});
+            return true;
+        });
+        for (KivSettingFinding& finding : KivCheckSettings(Settings::Name, known, editedLayer)) {
+            check.findings.push_back(std::move(finding));
+        }
+        paths = Paths(editedLayer);
     }
-    const std::vector<KivUnicodeString> paths = Paths(editedLayer);
-    KivSetDiagnosticSink(std::move(sink));
     for (KivSettingFinding& finding : check.findings) SuggestName(finding);
 
     // A share that does not answer must not hold up the rest.

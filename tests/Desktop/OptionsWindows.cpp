@@ -121,8 +121,7 @@ TEST_F(OptionsWindows, DiagnosticsAreShownAndPassedOn)
 {
     window.reset();
     std::vector<KivDiagnostic> heard;
-    const KivDiagnosticSink outer =
-        KivSetDiagnosticSink([&](const KivDiagnostic& diagnostic) { heard.push_back(diagnostic); });
+    const KivDiagnosticScope scope(heard);
     Open();
     heard.clear();
     for (int i = 0; i < 2; ++i) KivReport({.text = "odd", .file = "a.kivsettings", .line = 3});
@@ -131,7 +130,6 @@ TEST_F(OptionsWindows, DiagnosticsAreShownAndPassedOn)
     window.reset();
     KivReport({.text = "later"});
     EXPECT_EQ(heard.size(), 3U);
-    KivSetDiagnosticSink(outer);
 }
 
 TEST_F(OptionsWindows, ResetFillsTheShownPage)

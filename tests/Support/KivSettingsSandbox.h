@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Base/KivDiagnostic.h"
+#include "Base/KivDiagnosticScope.h"
 #include "Settings/KivSettingLayers.h"
 #include "Settings/KivSettingRepository.h"
 
@@ -31,7 +31,6 @@ public:
         SetVariable("XDG_CONFIG_HOME", {});
         SetVariable("HOME", (root / "home").string());
         _systemFile = KivSettingLayers::SetSystemFile(KivUnicodeString((root / "layers").string()));
-        _sink = KivSetDiagnosticSink([this](const KivDiagnostic& said) { diagnostics.push_back(said); });
         KivSettingRepository::ForgetAll();
     }
     ~KivSettingsSandbox()
@@ -39,7 +38,6 @@ public:
         KivSettingRepository::ForgetAll();
         KivSettingRepository::SetEditedLayer({});
         KivSettingRepository::Withhold(false);
-        KivSetDiagnosticSink(_sink);
         KivSettingLayers::SetSystemFile(_systemFile);
         for (const auto& [name, value] : _variables) Put(name, value);
         std::error_code ignored;
@@ -132,5 +130,5 @@ private:
 
     std::map<std::string, std::optional<std::string>> _variables;
     KivUnicodeString _systemFile;
-    KivDiagnosticSink _sink;
+    KivDiagnosticScope _scope{diagnostics};
 };
