@@ -26,7 +26,8 @@ constexpr int kLinesHigh = 7;
 } // namespace
 
 NativeDialog::NativeDialog(KivDialog& node, const OptionsMemory& memory, QWidget* owner)
-    : QDialog(owner), NativePieceFor(node, this), _memory(memory), _area(new QScrollArea(this)),
+    : QDialog(owner), NativePieceFor(node, this), _memory(memory),
+      _memoryName(QString(node.IsA()) + "." + objectName()), _area(new QScrollArea(this)),
       _buttons(new QDialogButtonBox(this))
 {
     setSizeGripEnabled(true);
@@ -62,16 +63,18 @@ void NativeDialog::ShowNode()
     setToolTip(QString());
 }
 
+QSize NativeDialog::SizeFor(const QSize& leastContent) const
+{
+    const QSize content = _area->widget() ? _area->widget()->sizeHint() : QSize();
+    const QSize buttons(0, _buttons->sizeHint().height() + std::max(layout()->spacing(), 0));
+    return (content.expandedTo(leastContent) + buttons).grownBy(layout()->contentsMargins());
+}
+
 QSize NativeDialog::sizeHint() const
 {
-    const QMargins margins = layout()->contentsMargins();
-    const QSize content = _area->widget() ? _area->widget()->sizeHint() : QSize();
-    const QSize least(kLettersWide * fontMetrics().averageCharWidth(),
+    const QSize usual(kLettersWide * fontMetrics().averageCharWidth(),
                       kLinesHigh * fontMetrics().lineSpacing());
-    const QSize buttons(0, _buttons->sizeHint().height() + std::max(layout()->spacing(), 0));
-    return (content.expandedTo(least) + buttons)
-        .grownBy(margins)
-        .boundedTo(screen()->availableGeometry().size());
+    return SizeFor(usual).boundedTo(screen()->availableGeometry().size());
 }
 
 void NativeDialog::Close(Way way)
@@ -90,7 +93,7 @@ void NativeDialog::closeEvent(QCloseEvent* event)
 
 void NativeDialog::hideEvent(QHideEvent* event)
 {
-    if (!event->spontaneous()) _memory.RememberWindow(objectName(), geometry());
+    if (!event->spontaneous()) _memory.RememberWindow(_memoryName, geometry());
     QDialog::hideEvent(event);
 }
 
@@ -105,11 +108,12 @@ void NativeDialog::keyPressEvent(QKeyEvent* event)
     }
 }
 
-// Where it was the last time, if a screen still shows that, else beside its owner. Another window of the name
+// Where it was the last time, if a screen still shows that, else beside its owner; large enough for what it
+// has to show by now. Another window of the name
 // that stands there is not covered.
 void NativeDialog::TakePlace()
 {
-    const QRect remembered = _memory.Window(objectName());
+    const QRect remembered = _memory.Window(_memoryName);
     const QScreen* there = remembered.isValid() ? screen()->virtualSiblingAt(remembered.center()) : nullptr;
     QRect place = there ? remembered : PlaceBeside(*parentWidget());
     const int step = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
@@ -118,7 +122,7 @@ void NativeDialog::TakePlace()
         return other != this && other->isVisible() && other->pos() == place.topLeft();
     };
     const QRect free = (there ? there : parentWidget()->screen())->availableGeometry();
-    place.setSize(place.size().boundedTo(free.size()));
+    place.setSize(place.size().expandedTo(SizeFor(QSize(0, 0))).boundedTo(free.size()));
     place.moveLeft(std::max(free.left(), std::min(place.left(), free.right() - place.width() + 1)));
     place.moveTop(std::max(free.top(), std::min(place.top(), free.bottom() - place.height() + 1)));
     // One that stands at the edge of the screen is passed from the corner.

@@ -12,7 +12,8 @@ class QPushButton;
 class QScrollArea;
 
 // A window of its own within the options. Its user can only ask for its end: it disappears when its node is
-// hidden or destroyed. It remembers its place under the node's name.
+// hidden or destroyed. It remembers its place under the node's class and name: different windows may bear one
+// name.
 class NativeDialog : public QDialog, public NativePieceFor<KivDlgDialog> {
 public:
     // Built, but not shown yet.
@@ -37,10 +38,13 @@ private:
     enum class Way { ByButton, OfTheDesktop };
 
     void Close(Way way);
+    // What the content needs, with the buttons; it counts as no smaller than that.
+    QSize SizeFor(const QSize& leastContent) const;
     void TakePlace();
     QRect PlaceBeside(const QWidget& owner) const;
 
     OptionsMemory _memory;
+    QString _memoryName; // the node may be gone when it is needed
     QScrollArea* _area;
     QDialogButtonBox* _buttons;
     QPushButton* _close = nullptr;

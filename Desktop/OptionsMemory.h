@@ -20,7 +20,7 @@ public:
     KivString Page() const;
     void Remember(const QSize& size, const KivString& page) const;
 
-    // The place of a page's window, by the name of its node; invalid when there is none.
+    // The place of a page's window, by the name that it gives itself; invalid when there is none.
     QRect Window(const QString& name) const;
     void RememberWindow(const QString& name, const QRect& place) const;
 

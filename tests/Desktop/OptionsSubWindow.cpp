@@ -226,7 +226,7 @@ TEST_F(OptionsSubWindow, ItsPlaceIsRemembered)
     OpenOptions(memory);
     EXPECT_EQ(native->geometry(), chosen);
     window->reject();
-    memory.RememberWindow("PointWindow", QRect(90000, 90000, 5000, 5000));
+    memory.RememberWindow("TestWindow.PointWindow", QRect(90000, 90000, 5000, 5000));
     OpenOptions(memory);
     EXPECT_TRUE(native->screen()->availableGeometry().contains(native->geometry()));
 }
