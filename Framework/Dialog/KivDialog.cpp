@@ -109,8 +109,13 @@ void KivDialog::SetSensitivity(unsigned long sensitivity)
 
 unsigned long KivDialog::GetSensitivity() const
 {
+    return IsKeptLocked() ? KivDlgDisabled : _sensitivity;
+}
+
+bool KivDialog::IsKeptLocked() const
+{
     const KivDlgLock* lock = GetLock();
-    return lock && lock->IsLocked() ? KivDlgDisabled : _sensitivity;
+    return lock ? lock->IsLocked() : _lockedFor.has_value();
 }
 
 void KivDialog::SetVisibility(unsigned long visibility)
@@ -135,8 +140,7 @@ bool KivDialog::IsShown() const
 KivUnicodeString KivDialog::WhyDisabled() const
 {
     if (IsEnabled()) return {};
-    const KivDlgLock* lock = GetLock();
-    if (lock && lock->IsLocked()) return lock->GetReason();
+    if (IsKeptLocked()) return GetLock() ? GetLock()->GetReason() : *_lockedFor;
     if (_sensitivity == KivDlgDisabled) return GetUnavailableHelp();
     const KivDialog* parent = GetParentDialog();
     return parent ? parent->WhyDisabled() : KivUnicodeString();

@@ -131,6 +131,7 @@ private:
     KivUnicodeString TextOf(const Text& text, const char* kind) const;
     void EnablingChanged();
     void TellPadlock();
+    bool IsKeptLocked() const;
 
     unsigned long _style;
     GridConstraints _grid;
@@ -141,6 +142,7 @@ private:
     unsigned long _sensitivity = KivDlgEnabled;
     unsigned long _visibility = KivDlgShown;
     KivWeakPtr<KivDialog> _lock, _label;
+    Text _lockedFor; // the reason that a padlock gave which is gone
     KivDlgView* _view = nullptr;
     int _held = 0; // by ChangesAsOne
 };

@@ -29,6 +29,14 @@ KivDlgLock::KivDlgLock(KivDialog* parent, const KivString& name, const KivSettin
     : KivClass(parent, name, style), _info(info)
 {}
 
+KivDlgLock::~KivDlgLock()
+{
+    if (!IsLocked()) return;
+    for (const KivWeakPtr<KivDialog>& dialog : _associated) {
+        if (dialog && dialog->GetLock() == this) dialog->_lockedFor = GetReason();
+    }
+}
+
 void KivDlgLock::SetInfo(const KivSettingInfo& info)
 {
     _info = info;
@@ -107,6 +115,7 @@ void KivDlgLock::AddAssociatedDialog(KivDialog* dialog)
     if (!dialog) return;
     _associated.emplace_back(dialog);
     dialog->_lock = this;
+    dialog->_lockedFor.reset();
     dialog->EnablingChanged();
 }
 

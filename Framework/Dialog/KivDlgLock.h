@@ -10,6 +10,8 @@ class KivDlgLock : public KivClass<KivDlgLock, KivDialog> {
 public:
     static constexpr const char* Name = "KivDlgLock";
     KivDlgLock(KivDialog* parent, const KivString& name, const KivSettingInfo& info, unsigned long style);
+    // What it kept disabled stays so: the setting is as locked as before.
+    ~KivDlgLock() override;
 
     const KivSettingInfo& GetInfo() const { return _info; }
     // Another record of the same setting, after the administrator has changed its lock.

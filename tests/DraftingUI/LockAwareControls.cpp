@@ -91,9 +91,15 @@ TEST_F(LockAwareControls, AreNamedPlacedAndGovernedByTheirPadlock)
         EXPECT_NE(lock->GetTitle(), "title");
         EXPECT_EQ(static_cast<KivDlgFrame*>(row)->GetHelp(), "");
 
+        KivSettingInfo locked;
+        KivDrwRepository()->GetInfo("Ruler", &locked, 0);
+        lock->SetInfo(locked);
         delete lock; // the padlock dies first
         EXPECT_EQ(row->GetSensitivity(), KivDlgDisabled);
         row->SetSensitivity(KivDlgEnabled);
+        row->GetDialog()->SetSensitivity(KivDlgEnabled);
+        EXPECT_FALSE(row->GetDialog()->IsEnabled()) << "the setting is still locked";
+        EXPECT_EQ(row->GetDialog()->WhyDisabled(), locked.Words());
         delete row->GetDialog(); // then the control
         EXPECT_EQ(row->GetDialog(), nullptr);
         EXPECT_EQ(row->GetName(), "checkGrid");
