@@ -5,6 +5,7 @@
 #include "Dialog/KivDlgSpinner.h"
 #include "Dialog/KivUserHand.h"
 #include "Kiv2DBaseOptGalFrm.h"
+#include "KivDrwOptAnnotFrm.h"
 #include "KivDrwOptGeoEditor.h"
 #include "KivDrwOptIntFrm.h"
 #include "SketcherTest.h"
@@ -143,6 +144,20 @@ public:
     int WithFrameDimAnalysis() override { return 1; }
     int WithFrameDimMove() override { return 1; }
 };
+
+TEST(AnnotationPage, ClosesNothingButItsOwnWindows)
+{
+    const KivSettingsSandbox box;
+    KivEditorPage page(nullptr, "page", 0UL);
+    auto* const frame = new KivDrwOptAnnotFrm(&page, "DrwSet");
+    frame->Build();
+    KivDlgDialog other(&page, "annotSnap");
+    for (KivCommand* sender : {static_cast<KivCommand*>(nullptr), static_cast<KivCommand*>(&other),
+                               static_cast<KivCommand*>(frame->Children().front())}) {
+        frame->CloseDlg(sender, nullptr, nullptr);
+        EXPECT_FALSE(sender && sender->IsCondemned());
+    }
+}
 
 TEST(GenericDrawingPages, BuildTheGroupsThatTheirApplicationHas)
 {

@@ -87,6 +87,7 @@ void Kiv2DBaseOptAnnotFrm::BuildDlgSnap()
 void Kiv2DBaseOptAnnotFrm::CloseDlg(KivCommand* from, KivNotification*, void*)
 {
     // Also one that is not the last: each press has opened another.
+    if (!from || from->GetParent() != this || !from->IsAKindOf(KivDlgDialog::Name)) return;
     from->RequestDelayedDestruction();
     if (from == _snapWindow.Get()) _snapWindow = nullptr;
 }

@@ -17,7 +17,8 @@ public:
 
     // The snapping button was pressed: opens another window with the choice of the snap mode.
     void NotifPush(KivCommand* from, KivNotification* notification, void* data);
-    // A window was closed, in either way: it is destroyed when the event is over.
+    // A window of the page was closed, in either way: it is destroyed when the event is over. Nothing for any
+    // other sender.
     void CloseDlg(KivCommand* from, KivNotification* notification, void* data);
     // Fills the window that was opened last; nothing without one.
     void BuildDlgSnap();
