@@ -5,8 +5,6 @@ class NativeField {
 public:
     // Enters it. False when it was refused: it stands there still, with the reason beside it.
     virtual bool CommitText() = 0;
-    // Whether there is such a text.
-    virtual bool IsTyping() const = 0;
 
 protected:
     ~NativeField() = default;

@@ -35,9 +35,3 @@ bool OptionsSubWindows::CommitFields()
         return false;
     });
 }
-
-bool OptionsSubWindows::IsOpen() const
-{
-    return std::any_of(_windows.begin(), _windows.end(),
-                       [](const QPointer<NativeDialog>& window) { return window && window->isVisible(); });
-}

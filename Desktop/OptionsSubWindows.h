@@ -22,8 +22,6 @@ public:
 
     // Enters what is being typed in them; false when one has refused it, which is brought to the front.
     bool CommitFields();
-    // Whether one is open: what was chosen in it is not stored yet, so its page must not be filled again.
-    bool IsOpen() const;
 
     void NodeChanged(KivDialog&) override {}
     void NodeDestroyed(KivDialog&) override {}

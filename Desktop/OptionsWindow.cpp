@@ -59,14 +59,10 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
 
     AddPages();
     ListenToKeys();
-    connect(qApp, &QApplication::focusChanged, this, [this] {
-        if (_isRefillDue) Refill();
-    });
     // What pages asked to be destroyed goes when the events are done.
     auto* events = QAbstractEventDispatcher::instance();
-    connect(events, &QAbstractEventDispatcher::aboutToBlock, this,
-            [] { KivCommand::DrainDelayedDestruction(); });
-    connect(events, &QAbstractEventDispatcher::awake, this, [] { KivCommand::DrainDelayedDestruction(); });
+    connect(events, &QAbstractEventDispatcher::aboutToBlock, this, [this] { TidyUp(); });
+    connect(events, &QAbstractEventDispatcher::awake, this, [this] { TidyUp(); });
 
     if (!ShowPage(KivUnicodeString(_memory.Page()))) _list->setCurrentRow(0);
     const QSize remembered = _memory.Size();
@@ -75,8 +71,6 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
 
 OptionsWindow::~OptionsWindow()
 {
-    // Hiding the window, which QDialog's destructor does, moves the focus: there is nothing to refill then.
-    disconnect(qApp, &QApplication::focusChanged, this, nullptr);
     if (_session) _session->Cancel();
 }
 
@@ -147,7 +141,7 @@ OptionsPageView& OptionsWindow::PageView(int page) const
 void OptionsWindow::PageChosen(int page)
 {
     if (page < 0 || !_session) return;
-    if (!_windows || !_windows->IsOpen()) _session->Refill(_session->Pages()[static_cast<std::size_t>(page)]);
+    _session->Refill(_session->Pages()[static_cast<std::size_t>(page)]);
     PageView(page).Build();
     _stack->setCurrentIndex(page);
     const QString title = ToQt(_session->Pages()[static_cast<std::size_t>(page)].title);
@@ -178,10 +172,13 @@ void OptionsWindow::OrderTab()
 }
 
 // Enters what is being typed, here and in the windows of the pages; a refused text keeps all of them open.
+// False too when somebody who was told of it has ended the options.
 bool OptionsWindow::CommitFields()
 {
+    const QPointer<QWidget> self(this);
     NativeField* field = Field();
-    return (!field || field->CommitText()) && _windows->CommitFields();
+    if (field && !field->CommitText()) return false;
+    return self && _windows && _windows->CommitFields() && self && _session;
 }
 
 // The field that has the focus, or null.
@@ -192,16 +189,22 @@ NativeField* OptionsWindow::Field() const
 
 void OptionsWindow::Refill()
 {
-    const NativeField* field = Field();
-    _isRefillDue = (field && field->IsTyping()) || (_windows && _windows->IsOpen());
-    if (!_isRefillDue && _session) _session->Refill();
+    if (_session) _session->Refill();
+}
+
+void OptionsWindow::TidyUp()
+{
+    KivCommand::DrainDelayedDestruction();
+    if (_session) _session->RefillWaiting();
 }
 
 void OptionsWindow::accept()
 {
     if (!_session || !CommitFields()) return;
     _messages->Clear();
+    const QPointer<QWidget> self(this); // who is told of the commit may destroy it
     const std::vector<KivDiagnostic> errors = _session->Commit();
+    if (!self) return;
     if (errors.empty()) {
         done(Accepted);
         return;
@@ -212,8 +215,9 @@ void OptionsWindow::accept()
 
 void OptionsWindow::reject()
 {
+    const QPointer<QWidget> self(this); // as above
     if (_session) _session->Cancel();
-    done(Rejected);
+    if (self) done(Rejected);
 }
 
 void OptionsWindow::done(int result)

@@ -34,8 +34,7 @@ public:
     OptionsPageView& PageView(int page) const;
     OptionsMessageStrip& Messages() const { return *_messages; }
 
-    // Shows what is in force after it was changed from elsewhere: at once, or as soon as the field in which
-    // somebody is typing has been left.
+    // Shows what is in force after it was changed from elsewhere (see KivOptionsSession::Refill).
     void Refill();
 
     // OK. The window stays open when a field holds a refused text or something could not be saved.
@@ -58,6 +57,7 @@ private:
     bool CommitFields();
     NativeField* Field() const;
     void Reset();
+    void TidyUp();
     QSize FreeSize() const;
 
     std::unique_ptr<KivOptionsSession> _session;
@@ -70,5 +70,4 @@ private:
     QPushButton* _reset = nullptr;
     KivDiagnosticScope _diagnostics;
     std::unique_ptr<OptionsSubWindows> _windows; // null after the end
-    bool _isRefillDue = false;
 };

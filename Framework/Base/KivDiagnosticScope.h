@@ -6,9 +6,9 @@
 #include <memory>
 #include <vector>
 
-// Hears what is said (KivReport) as long as it lives. Scopes lie upon one another: the newest hears first, and
-// what it does not take goes to the one below, in the end to standard error. They may end in any order, also
-// while they are hearing. Used from the thread that reports.
+// Hears what is said (KivReport) as long as it lives. Scopes lie upon one another: the newest hears first,
+// and what it does not take goes to the one below, in the end to standard error. They may end in any order,
+// also while they are hearing. Used from the thread that reports.
 class KivDiagnosticScope {
 public:
     // Answers whether it has taken the diagnostic.

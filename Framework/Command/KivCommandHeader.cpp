@@ -29,5 +29,6 @@ void KivCommandHeader::SetAvailable(bool available)
 {
     if (available == _available) return;
     _available = available;
-    if (_view) _view(available);
+    const auto view = _view; // a copy: it may take itself away
+    if (view) view(available);
 }

@@ -18,7 +18,7 @@ public:
     void BecomeAvailable() { SetAvailable(true); }
     void BecomeUnavailable() { SetAvailable(false); }
 
-    // Called after each change; one view a header, an empty function takes it away.
+    // Called after each change; one view a header, an empty function takes it away, also from within it.
     void SetView(std::function<void(bool available)> view) { _view = std::move(view); }
 
 private:

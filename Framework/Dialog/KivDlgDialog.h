@@ -15,6 +15,9 @@ public:
     KivNotification* GetDiaCloseNotification() const { return &_closed; }
     KivNotification* GetWindCloseNotification() const { return &_windowClosed; }
 
+    // Whether the user has chosen something in it that is stored only when it is closed.
+    virtual bool HoldsChoices() const { return false; }
+
 protected:
     // A window that is shown for the first time has no view yet: that of the root makes it one.
     void VisibilityChanged() override;

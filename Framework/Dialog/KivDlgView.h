@@ -11,6 +11,8 @@ public:
     virtual void NodeChanged(KivDialog& node) = 0;
     // The node is being destroyed: only its address may be used.
     virtual void NodeDestroyed(KivDialog& node) = 0;
+    // Whether the user is typing something in it that the node has not got yet.
+    virtual bool IsTyping() const { return false; }
     // Told to the view of a tree's root: a window of the tree that has no view yet is to be seen.
     virtual void WindowShown(KivDlgDialog&) {}
 

@@ -3,6 +3,8 @@
 #include "Base/KivDiagnosticScope.h"
 #include "Base/KivTextCatalogue.h"
 #include "Dialog/KivDlgDialog.h"
+#include "Dialog/KivDlgView.h"
+#include "Dialog/KivTextCatalogue.h"
 #include "Dialog/KivUserHand.h"
 
 #include <algorithm>
@@ -26,6 +28,19 @@ void CollectWindows(const KivDialog& node, std::vector<KivWeakPtr<KivDlgDialog>>
         if (child->IsAKindOf(KivDlgDialog::Name)) windows.emplace_back(static_cast<KivDlgDialog*>(child));
         CollectWindows(*child, windows);
     }
+}
+
+// Whether the user has begun something in this part of the tree that he would lose if it were filled.
+bool IsInUse(const KivDialog& node)
+{
+    if (node.GetView() && node.GetView()->IsTyping()) return true;
+    if (node.IsAKindOf(KivDlgDialog::Name)) {
+        const auto& window = static_cast<const KivDlgDialog&>(node);
+        if (window.IsCondemned()) return false;
+        if (window.HoldsChoices()) return true;
+    }
+    return std::any_of(node.Children().begin(), node.Children().end(),
+                       [](const KivDialog* child) { return IsInUse(*child); });
 }
 
 } // namespace
@@ -96,6 +111,16 @@ bool KivOptionsSession::CloseWindows()
     return static_cast<bool>(root);
 }
 
+// One operation of every editor, also when somebody who is told of it destroys this session: what the user
+// asked for is done as a whole. False then.
+bool KivOptionsSession::Tell(Operation operation)
+{
+    const KivWeakPtr<KivDlgFrame> root(_root.get());
+    const std::vector<Page> pages = _pages; // a copy keeps the editors alive
+    for (const Page& page : pages) (page.settings.Get()->*operation)(kNoRepository);
+    return static_cast<bool>(root);
+}
+
 std::vector<KivDiagnostic> KivOptionsSession::Commit()
 {
     if (!CloseWindows()) return {};
@@ -106,15 +131,14 @@ std::vector<KivDiagnostic> KivOptionsSession::Commit()
         errors.push_back(said);
         return true;
     });
-    for (const Page& page : _pages) page.settings->CommitModification(kNoRepository);
+    Tell(&KivIUserSettings::CommitModification);
     return errors;
 }
 
 void KivOptionsSession::Cancel()
 {
-    if (!CloseWindows()) return;
-    for (const Page& page : _pages) page.settings->CancelModification(kNoRepository);
-    Refill();
+    if (!CloseWindows() || !Tell(&KivIUserSettings::CancelModification)) return;
+    for (const Page& page : _pages) Fill(page);
 }
 
 void KivOptionsSession::Refill()
@@ -124,11 +148,31 @@ void KivOptionsSession::Refill()
 
 void KivOptionsSession::Refill(const Page& page)
 {
+    if (page.frame && IsInUse(*page.frame)) {
+        _waiting.insert(page.editor);
+    } else {
+        Fill(page);
+    }
+}
+
+void KivOptionsSession::RefillWaiting()
+{
+    if (_waiting.empty()) return;
+    for (const Page& page : _pages) {
+        if (_waiting.contains(page.editor)) Refill(page);
+    }
+}
+
+void KivOptionsSession::Fill(const Page& page)
+{
+    _waiting.erase(page.editor);
     page.settings->SetUserSettingsValue(kNoRepository);
 }
 
 void KivOptionsSession::Reset(const Page& page)
 {
-    page.settings->ResetUserSettingsValue();
-    Refill(page);
+    const KivWeakPtr<KivDlgFrame> root(_root.get());
+    const KivVar<KivIUserSettings> settings = page.settings; // keeps the editor alive
+    settings->ResetUserSettingsValue();
+    if (root) Fill(page);
 }

@@ -5,10 +5,13 @@
 #include "Options/KivUserSettingsManager.h"
 
 #include <memory>
+#include <set>
 #include <vector>
 
 // One opening of the options dialog: an editor and a built, filled page for each tab, from the opening to OK
 // or Cancel. A tab whose editor builds nothing is not offered.
+//
+// Whoever is told of what it does may destroy it: the call that is under way ends without it.
 class KivOptionsSession {
 public:
     struct Page {
@@ -41,18 +44,26 @@ public:
     std::vector<KivDiagnostic> Commit();
     // Cancel: the same windows are closed, then every editor takes its changes back, and every page shows so.
     void Cancel();
-    // Shows on every page what is in force now, after it was changed from elsewhere.
+    // Shows on every page what is in force now, after it was changed from elsewhere. A page on which the user
+    // is typing, or has chosen something in one of its windows that is stored only when that is closed, waits
+    // until he is done.
     void Refill();
     // The same on one page: a tab that is turned to shows what was changed on others.
     void Refill(const Page& page);
-    // Reset: this tab returns to the administrator's values and shows them.
+    // Called by hosts between events: fills the pages that have waited long enough.
+    void RefillWaiting();
+    // Reset: this tab returns to the administrator's values and shows them, whatever the user is doing there.
     void Reset(const Page& page);
 
 private:
+    using Operation = void (KivIUserSettings::*)(KivSettingRepository*);
     void Add(const KivUserSettingsManager::Editor& editor);
     bool CloseWindows();
+    bool Tell(Operation operation);
+    void Fill(const Page& page);
 
     std::unique_ptr<KivDlgFrame> _root;
     std::vector<Page> _pages;
     std::vector<KivUnicodeString> _emptyTabs;
+    std::set<KivString> _waiting; // the editors of those pages
 };

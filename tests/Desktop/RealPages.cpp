@@ -2,7 +2,13 @@
 #include "Base/KivTextCatalogue.h"
 #include "Component/KivLibrary.h"
 #include "Dialog/KivDlgCheckButton.h"
+#include "Dialog/KivDlgCombo.h"
+#include "Dialog/KivDlgDialog.h"
 #include "Dialog/KivDlgLabel.h"
+#include "Dialog/KivDlgPushButton.h"
+#include "Dialog/KivDlgRadioButton.h"
+#include "Dialog/KivTextCatalogue.h"
+#include "Dialog/KivUserHand.h"
 #include "NativePiece.h"
 #include "OptionsMessageStrip.h"
 #include "OptionsPageView.h"
@@ -15,6 +21,7 @@
 #include <QLabel>
 #include <QPixmap>
 #include <QScrollBar>
+#include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -30,11 +37,10 @@ protected:
         sandbox.NameLayers({"site"});
         KivSettingRepository::ForgetAll();
     }
-    void Open()
+    void Open(const OptionsMemory& memory = OptionsMemory(QString()))
     {
         auto* const manager = new KivUserSettingsManager;
-        window = std::make_unique<OptionsWindow>(std::make_unique<KivOptionsSession>(*manager),
-                                                 OptionsMemory(QString()));
+        window = std::make_unique<OptionsWindow>(std::make_unique<KivOptionsSession>(*manager), memory);
         manager->Release();
         window->show();
         window->activateWindow();
@@ -45,6 +51,15 @@ protected:
     KivDialog* Node(const char* name)
     {
         return window->Session()->FindPage("KivDrwOptGalEditor")->frame.Get()->FindDialog(name);
+    }
+    // On any page, and in any window of one.
+    template <class T> T& Find(const char* name)
+    {
+        return *static_cast<T*>(window->Session()->Root().FindDialog(name));
+    }
+    static void Store(const char* key, int value)
+    {
+        KivSettingRepository::GetRepository("DraftingOptions")->WriteSetting(key, &value, 1, 0);
     }
     QWidget* WidgetOf(const char* name) { return NativePiece::Of(Node(name))->Widget(); }
     template <class Look> void LookAtEach(const char* picture, Look&& look)
@@ -113,6 +128,75 @@ TEST_F(RealPages, LineTheirFieldsUp)
     EXPECT_EQ(left("editorGridSpacing_dialog"), left("editorGridGraduation_dialog"));
     EXPECT_EQ(left("editorGridSpacingV_dialog"), left("editorGridGraduationV_dialog"));
     EXPECT_EQ(left("comboBackgroundColor_dialog"), left("comboBackgroundColorDD_dialog"));
+}
+
+TEST_F(RealPages, AreFilledWhenTurnedToButNotUnderTheUsersHand)
+{
+    Open();
+    ASSERT_TRUE(window->ShowPage("View"));
+    EXPECT_TRUE(KivUserHand::Press(Find<KivDlgPushButton>("pushGenFil")));
+    const auto& chosen = Find<KivDlgRadioButton>("radioProjEd");
+    EXPECT_TRUE(KivUserHand::Choose(Find<KivDlgRadioButton>("radioProjEd")));
+    const int vbx = 1;
+    EXPECT_TRUE(KivUserHand::Choose(Find<KivDlgCombo>("combViewMod_dialog"), vbx));
+    EXPECT_TRUE(window->ShowPage("Generation"));
+    EXPECT_FALSE(Find<KivDialog>("checkGenDim_dialog").IsEnabled()) << "only exact views have dimensions";
+
+    Store("DrwExactPreview", 0);
+    EXPECT_TRUE(window->ShowPage("View"));
+    QTest::qWait(1);
+    const auto& preview = Find<KivDlgCheckButton>("chkExactPreview_dialog");
+    EXPECT_EQ(chosen.GetState(), KivDlgChecked) << "it is not stored yet";
+    EXPECT_EQ(preview.GetState(), KivDlgChecked);
+    EXPECT_TRUE(KivUserHand::Close(Find<KivDlgDialog>("panelGenFilTitle")));
+    QTest::qWait(1);
+    EXPECT_EQ(preview.GetState(), KivDlgUnchecked);
+}
+
+TEST_F(RealPages, WindowsOfOneNameHaveASizeOfTheirOwn)
+{
+    const QTemporaryDir directory;
+    Open(OptionsMemory(directory.filePath("desktop.ini")));
+    ASSERT_TRUE(window->ShowPage("View"));
+    // Resizes the window that belongs to a line of the mode, and answers how large it was.
+    const auto show = [&](int line, const QSize& size) {
+        EXPECT_TRUE(KivUserHand::Choose(Find<KivDlgCombo>("combViewMod_dialog"), line));
+        EXPECT_TRUE(KivUserHand::Press(Find<KivDlgPushButton>("pushRasterOptions")));
+        auto& node = Find<KivDlgDialog>("panelRasterView");
+        auto* const native = static_cast<QDialog*>(NativePiece::Of(&node)->Widget());
+        const QSize shown = native->size();
+        const auto* const area = native->findChild<QScrollArea*>();
+        QTest::qWait(1); // bars come with an event
+        EXPECT_FALSE(area->verticalScrollBar()->isVisible() || area->horizontalScrollBar()->isVisible());
+        native->resize(size);
+        EXPECT_TRUE(KivUserHand::Close(node));
+        KivCommand::DrainDelayedDestruction();
+        return shown;
+    };
+    const int hrv = 2, raster = 3;
+    const QSize chosen(640, 420);
+    show(raster, chosen);
+    EXPECT_NE(show(hrv, QSize(1, 1)), chosen);
+    EXPECT_EQ(show(raster, chosen), chosen);
+    show(hrv, chosen); // nothing of it is cut
+}
+
+TEST_F(RealPages, WhoIsToldOfTheEndMayDestroyTheWindow)
+{
+    for (const bool ok : {true, false}) {
+        KivSettingRepository::ForgetAll();
+        Open();
+        int told = 0;
+        Store("Ruler", ok);
+        KivSettingRepository::GetRepository("DraftingOptions")->AddListener([&](const auto&) {
+            ++told;
+            window.reset();
+        });
+        ok ? window->accept() : window->reject();
+        EXPECT_FALSE(window);
+        EXPECT_EQ(told, 1);
+    }
+    KivSettingRepository::ForgetAll();
 }
 
 TEST_F(RealPages, NameAndExplainEveryControl)

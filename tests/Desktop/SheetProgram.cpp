@@ -165,7 +165,7 @@ TEST_F(SheetProgram, WhatOthersSaveShowsWhileUncommittedChangesStayOnTop)
     EXPECT_TRUE(field->IsTyping());
     EXPECT_FALSE(isTicked("checkGrid_dialog"));
     QTest::keyClick(field, Qt::Key_Tab);
-    EXPECT_TRUE(isTicked("checkGrid_dialog"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isTicked("checkGrid_dialog"); }));
     double spacing = 0.0;
     repository.ReadSetting("Drw_settings_GridPrimarySpacing", &spacing, 1);
     EXPECT_EQ(spacing, 7.0) << "what was typed on top of it counts";

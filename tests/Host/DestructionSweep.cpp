@@ -1,13 +1,19 @@
+#include "Command/KivCommandHeader.h"
 #include "OptionsPages.h"
 #include "PageTables.h"
+#include "Settings/KivSketcherSettings.h"
+
+#include <dlfcn.h>
 
 namespace {
 
-// What is destroyed in the middle of a notification.
+// What is destroyed in the middle of a notification. Who is told otherwise stands beside the tree: he
+// destroys it in large pieces only.
 enum class Victim { Control, Row, Frame, Page, Dialog, Editor };
 
-// One visit of every page and window, again and again: at each notification in it something is destroyed, and
-// the user goes on with what is left.
+// One visit of every page and window, again and again: each time that somebody is told of something in it
+// (by a notification, by the repository, the sketcher or a command's header) something is destroyed, and the
+// user goes on with what is left.
 class DestructionSweep : public OptionsPages, public testing::WithParamInterface<Victim> {
 protected:
     void TearDown() override
@@ -18,24 +24,73 @@ protected:
     // Runs the visit and answers how many deliveries it met; destroys at the given one.
     int Visit(int fatal)
     {
-        int deliveries = 0;
-        KivCommand::SetDeliveryProbe([&](KivCommand& from) {
-            if (++deliveries == fatal) Destroy(from);
+        _deliveries = 0;
+        _fatal = fatal;
+        KivCommand::SetDeliveryProbe([this](KivCommand& from) {
+            if (++_deliveries == _fatal) DestroyAround(static_cast<KivDialog&>(from));
         });
-        Repository().ResetToAdminValues(nullptr, 0);
-        Open();
+        OpenOn("int DrwPreventGVS = 0\nint DrwGenerationForBox = 1\n");
+        Listen();
         for (const PageTable& table : PageTables()) VisitPage(table);
         if (session) session->Refill();
         KivCommand::DrainDelayedDestruction();
+        if (KivDialog* ruler = Left("checkRuler_dialog")) Drive(*ruler); // what a commit tells of
         if (session) session->Commit();
         session.reset();
         manager.reset();
         KivCommand::DrainDelayedDestruction();
         KivCommand::SetDeliveryProbe({});
-        return deliveries;
+        Leave();
+        return _deliveries;
     }
 
 private:
+    // The library's. This program is not linked with it, and no component leads there.
+    static KivSketcherSettings& Sketcher()
+    {
+        void* const get = dlsym(RTLD_DEFAULT, "_ZN22KivDrwSketcherSettings19GetSketcherSettingsEv");
+        return *reinterpret_cast<KivSketcherSettings* (*)()>(get)();
+    }
+    void Listen()
+    {
+        _listener = Repository().AddListener([this](const auto&) { Meet(); });
+        using Of = KivSketcherSettings;
+        for (KivCallbackEvent event : {Of::GridModification(), Of::SnapModification(), Of::CpltModification(),
+                                       Of::GeomUIModification(), Of::Visu3DUIModification()})
+            _callbacks.push_back(Sketcher().AddCallback(event, [this](auto...) { Meet(); }));
+        for (KivCommandHeader* header : Headers()) {
+            header->BecomeUnavailable(); // a commit finds that nothing prevents them
+            header->SetView([this, name = header->GetName()](bool) {
+                Meet();
+                EXPECT_EQ(KivCommandHeader::GetHeaderFromList(name, 0)->GetName(), name);
+            });
+        }
+    }
+    void Leave()
+    {
+        Repository().RemoveListener(_listener);
+        for (const KivCallbackId callback : _callbacks) Sketcher().RemoveCallback(callback);
+        _callbacks.clear();
+        for (KivCommandHeader* header : Headers()) header->SetView({});
+    }
+    static std::vector<KivCommandHeader*> Headers()
+    {
+        std::vector<KivCommandHeader*> headers;
+        for (const char* name : {"DrwStyle", "DrwSetAsDefault", "DrwResetDefaults", "KivDrwEditFrame"})
+            headers.push_back(KivCommandHeader::Declare(name));
+        return headers;
+    }
+    // Somebody is told who stands beside the tree. He takes himself away as well.
+    void Meet()
+    {
+        const bool isLarge = GetParam() >= Victim::Frame;
+        if (!isLarge || ++_deliveries != _fatal) return;
+        Leave();
+        if (GetParam() == Victim::Dialog) return session.reset();
+        const std::vector<KivOptionsSession::Page> pages = session->Pages();
+        for (const KivOptionsSession::Page& page : pages) DestroyAround(*page.frame->Children().front());
+    }
+
     KivDialog* Left(const char* name) { return session ? Find(name) : nullptr; }
     void PressLeft(const char* name)
     {
@@ -73,21 +128,20 @@ private:
         KivCommand::DrainDelayedDestruction();
     }
 
-    void Destroy(KivCommand& from)
+    void DestroyAround(KivDialog& node)
     {
-        KivDialog* node = static_cast<KivDialog*>(&from);
         const auto ancestor = [&](const char* kind) {
-            KivDialog* found = node;
+            KivDialog* found = &node;
             while (found && !found->IsAKindOf(kind)) found = found->GetParentDialog();
             return found;
         };
         KivDialog* const page = ancestor("KivEditorPage");
         switch (GetParam()) {
         case Victim::Control:
-            delete node;
+            delete &node;
             break;
         case Victim::Row:
-            delete node->GetParentDialog();
+            delete node.GetParentDialog();
             break;
         case Victim::Frame: {
             KivDialog* const window = ancestor(KivDlgDialog::Name);
@@ -107,11 +161,15 @@ private:
             break;
         }
     }
+
+    int _deliveries = 0;
+    int _fatal = 0;
+    KivSettingRepository::ListenerId _listener = 0;
+    std::vector<KivCallbackId> _callbacks;
 };
 
 TEST_P(DestructionSweep, NobodyTouchesWhatIsGone)
 {
-    box.Write(file, "int DrwPreventGVS = 0\nint DrwGenerationForBox = 1\n");
     const long before = KivBaseUnknown::LiveObjects();
     const int all = Visit(0);
     EXPECT_EQ(KivBaseUnknown::LiveObjects(), before);

@@ -328,15 +328,21 @@ TEST_F(ViewPage, WindowsMayBeOpenTwiceAndLeftOpen)
     EXPECT_TRUE(KivUserHand::Close(*Windows("panelGenFilTitle")[1]));
     KivCommand::DrainDelayedDestruction();
     EXPECT_EQ(Stored("DrwGenFilConfigure", 0), 3);
+    const int off = 0;
+    Repository().WriteSetting("DrwExactPreview", &off, 1, 0);
+    session->Refill();
+    EXPECT_TRUE(IsChecked("chkExactPreview")) << "filling would take the other window's choice from the user";
     EXPECT_TRUE(session->Commit().empty());
     KivCommand::DrainDelayedDestruction();
+    session->RefillWaiting();
+    EXPECT_FALSE(IsChecked("chkExactPreview"));
     EXPECT_NE(box.Bytes(file).find("int DrwGenFilConfigure = 2\n"), std::string::npos)
         << "OK stores what the window that was left open shows";
     EXPECT_TRUE(Windows("panelGenFilTitle").empty());
 
     const std::string bytes = box.Bytes(file);
     openAll();
-    choose(0, "radioBoundaries");
+    choose(0, "radioOrigEd");
     session->Reset(Page("View"));
     EXPECT_EQ(Windows("panelGenFilTitle").size(), 2U) << "a reset fills the windows that are open";
     EXPECT_TRUE(IsChosen("radioBoundaries"));

@@ -26,11 +26,13 @@ void KivDrwButtonDialog::Init()
     for (KivBoundValue* value : _values) value->Load();
     _form.ShowLocks();
     ShowValues();
+    _holdsChoices = false;
 }
 
 void KivDrwButtonDialog::Notification(KivCommand* from, KivNotification*, void*)
 {
     ReadFrom(from);
+    _holdsChoices = true;
 }
 
 void KivDrwButtonDialog::Ok(KivCommand*, KivNotification*, void*)

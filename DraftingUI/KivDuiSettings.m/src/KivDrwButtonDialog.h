@@ -22,6 +22,7 @@ public:
     void Notification(KivCommand* from, KivNotification* notification, void* data);
     // Closed: stores all values, in the order in which they are read.
     void Ok(KivCommand* from, KivNotification* notification, void* data);
+    bool HoldsChoices() const override { return _holdsChoices; }
 
 protected:
     // Titles and helps come from the text catalogue of that name.
@@ -36,4 +37,7 @@ protected:
     KivBoundValues _values;                                 // in the order of reading and writing
     std::vector<KivDrwPresetValue*> _presets;
     KivPageForm _form{*this};
+
+private:
+    bool _holdsChoices = false;
 };

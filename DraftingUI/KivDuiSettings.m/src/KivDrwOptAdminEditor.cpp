@@ -41,9 +41,12 @@ void KivDrwOptAdminEditor::CommitModification(KivSettingRepository*)
     const KivVar<KivIDrwDraftingSettingAtt> attributes = KivDrwSettingController<KivIDrwDraftingSettingAtt>();
     // Deliberate: without the attributes nothing is saved either.
     if (!attributes) return;
+    // A copy: who is told of a command or of a setting may destroy this editor.
+    const KivVar<KivIASettingController> controller = _controller;
     KivDrwCommandAvailability::Apply(*attributes.Get());
     if (_controller) _controller->SaveRepository();
     SwitchCommands(); // the save takes what other programs have stored
+    if (controller) controller->SaveRepository();
 }
 
 void KivDrwOptAdminEditor::CancelModification(KivSettingRepository*)
@@ -51,6 +54,8 @@ void KivDrwOptAdminEditor::CancelModification(KivSettingRepository*)
     if (!_controller) return;
     _controller->Rollback();
     SwitchCommands();
+    const KivVar<KivIASettingController> controller = _controller; // as above
+    if (controller) controller->Rollback();
 }
 
 void KivDrwOptAdminEditor::ResetUserSettingsValue()

@@ -14,12 +14,12 @@ void TellSketcher()
 
 } // namespace
 
-void KivDrwOptGalEditor::AfterCommit()
+KivDrwTabEditorBase::Telling KivDrwOptGalEditor::AfterCommit() const
 {
-    TellSketcher();
+    return &TellSketcher;
 }
 
-void KivDrwOptGalEditor::AfterCancel()
+KivDrwTabEditorBase::Telling KivDrwOptGalEditor::AfterCancel() const
 {
-    TellSketcher();
+    return &TellSketcher;
 }

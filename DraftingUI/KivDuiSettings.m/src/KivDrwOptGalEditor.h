@@ -10,6 +10,6 @@ public:
 
 protected:
     // Tell the sketcher: grid, then snap. A reset deliberately stays silent.
-    void AfterCommit() override;
-    void AfterCancel() override;
+    Telling AfterCommit() const override;
+    Telling AfterCancel() const override;
 };

@@ -15,12 +15,12 @@ void TellSketcher()
 
 } // namespace
 
-void KivDrwOptGeoEditor::AfterCancel()
+KivDrwTabEditorBase::Telling KivDrwOptGeoEditor::AfterCancel() const
 {
-    TellSketcher();
+    return &TellSketcher;
 }
 
-void KivDrwOptGeoEditor::AfterReset()
+KivDrwTabEditorBase::Telling KivDrwOptGeoEditor::AfterReset() const
 {
-    TellSketcher();
+    return &TellSketcher;
 }

@@ -10,6 +10,6 @@ public:
 
 protected:
     // Tell the sketcher: visualization, geometry, then completion. A commit deliberately stays silent.
-    void AfterCancel() override;
-    void AfterReset() override;
+    Telling AfterCancel() const override;
+    Telling AfterReset() const override;
 };

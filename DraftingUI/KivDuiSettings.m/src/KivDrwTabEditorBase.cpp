@@ -17,24 +17,27 @@ void KivDrwTabEditorBase::CommitModification(KivSettingRepository*)
 {
     KivSettingRepository* repository = KivDrwRepository();
     if (!repository) return;
+    const Telling tell = AfterCommit();
     repository->SaveRepository(nullptr);
-    AfterCommit();
+    if (tell) tell();
 }
 
 void KivDrwTabEditorBase::CancelModification(KivSettingRepository*)
 {
     KivSettingRepository* repository = KivDrwRepository();
     if (!repository) return;
+    const Telling tell = AfterCancel();
     repository->Rollback();
     repository->Commit(0);
-    AfterCancel();
+    if (tell) tell();
 }
 
 void KivDrwTabEditorBase::ResetUserSettingsValue()
 {
     KivSettingRepository* repository = KivDrwRepository();
     if (!repository) return;
+    const Telling tell = AfterReset();
     const std::vector<const char*> keys = KeysToReset();
     repository->ResetToAdminValues(keys.data(), static_cast<int>(keys.size()));
-    AfterReset();
+    if (tell) tell();
 }

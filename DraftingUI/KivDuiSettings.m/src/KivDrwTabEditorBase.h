@@ -6,7 +6,8 @@
 
 // What the editors of all tabs but Administration do with the repository: each change is there already, so
 // that a commit only saves, a cancel rolls back, and a reset drops the user's values of the tab's keys. The
-// repository that the host passes is ignored; without one of their own they do nothing.
+// repository that the host passes is ignored; without one of their own they do nothing. Whoever is told of
+// what they do may destroy them.
 class KivDrwTabEditorBase : public KivEditor {
 public:
     KivDrwTabEditorBase();
@@ -18,8 +19,9 @@ public:
 
 protected:
     virtual std::vector<const char*> KeysToReset() const = 0;
-    // What a tab tells the sketcher afterwards.
-    virtual void AfterCommit() {}
-    virtual void AfterCancel() {}
-    virtual void AfterReset() {}
+    // What a tab tells the sketcher afterwards, when the editor may be gone; null for nothing.
+    using Telling = void (*)();
+    virtual Telling AfterCommit() const { return nullptr; }
+    virtual Telling AfterCancel() const { return nullptr; }
+    virtual Telling AfterReset() const { return nullptr; }
 };
