@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <utility>
 
 namespace {
 
@@ -112,13 +113,17 @@ bool KivOptionsSession::CloseWindows()
 }
 
 // One operation of every editor, also when somebody who is told of it destroys this session: what the user
-// asked for is done as a whole. False then.
+// asked for is done as a whole. False then, and when somebody who is told of it asks for it once more.
 bool KivOptionsSession::Tell(Operation operation)
 {
+    if (operation == _underWay) return false;
+    const Operation before = std::exchange(_underWay, operation);
     const KivWeakPtr<KivDlgFrame> root(_root.get());
     const std::vector<Page> pages = _pages; // a copy keeps the editors alive
     for (const Page& page : pages) (page.settings.Get()->*operation)(kNoRepository);
-    return static_cast<bool>(root);
+    if (!root) return false;
+    _underWay = before;
+    return true;
 }
 
 std::vector<KivDiagnostic> KivOptionsSession::Commit()

@@ -11,7 +11,7 @@
 // One opening of the options dialog: an editor and a built, filled page for each tab, from the opening to OK
 // or Cancel. A tab whose editor builds nothing is not offered.
 //
-// Whoever is told of what it does may destroy it: the call that is under way ends without it.
+// Whoever is told of what it does may call it, or destroy it: the call that is under way ends without it.
 class KivOptionsSession {
 public:
     struct Page {
@@ -65,5 +65,6 @@ private:
     std::unique_ptr<KivDlgFrame> _root;
     std::vector<Page> _pages;
     std::vector<KivUnicodeString> _emptyTabs;
+    Operation _underWay = nullptr;
     std::set<KivString> _waiting; // the editors of those pages
 };

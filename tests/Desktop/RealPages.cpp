@@ -9,11 +9,13 @@
 #include "Dialog/KivDlgRadioButton.h"
 #include "Dialog/KivTextCatalogue.h"
 #include "Dialog/KivUserHand.h"
+#include "KivDrwSketcherSettings.h"
 #include "NativePiece.h"
 #include "OptionsMessageStrip.h"
 #include "OptionsPageView.h"
 #include "OptionsWindow.h"
 #include "Support/KivSettingsSandbox.h"
+#include "TestHand.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -181,7 +183,7 @@ TEST_F(RealPages, WindowsOfOneNameHaveASizeOfTheirOwn)
     show(hrv, chosen); // nothing of it is cut
 }
 
-TEST_F(RealPages, WhoIsToldOfTheEndMayDestroyTheWindow)
+TEST_F(RealPages, WhoIsToldMayEndTheOptions)
 {
     for (const bool ok : {true, false}) {
         KivSettingRepository::ForgetAll();
@@ -197,6 +199,18 @@ TEST_F(RealPages, WhoIsToldOfTheEndMayDestroyTheWindow)
         EXPECT_EQ(told, 1);
     }
     KivSettingRepository::ForgetAll();
+
+    // Also of what was being typed, which OK enters first.
+    Open();
+    ASSERT_TRUE(window->ShowPage("Geometry"));
+    TestHand::TypeOver(NativePiece::Of(&Find<KivDialog>("spinnerCstRefSize_dialog"))->Widget(), "7");
+    KivDrwSketcherSettings& sketcher = *KivDrwSketcherSettings::GetSketcherSettings();
+    const KivCallbackId callback = sketcher.AddCallback(KivSketcherSettings::Visu3DUIModification(),
+                                                        [this](auto...) { window->reject(); });
+    window->accept();
+    sketcher.RemoveCallback(callback);
+    EXPECT_FALSE(window->Session());
+    EXPECT_EQ(window->result(), QDialog::Rejected);
 }
 
 TEST_F(RealPages, NameAndExplainEveryControl)
