@@ -4,7 +4,6 @@
 #include "Base/KivTextCatalogue.h"
 #include "Dialog/KivDlgDialog.h"
 #include "Dialog/KivDlgView.h"
-#include "Dialog/KivTextCatalogue.h"
 #include "Dialog/KivUserHand.h"
 
 #include <algorithm>

@@ -7,7 +7,6 @@
 #include "Dialog/KivDlgLabel.h"
 #include "Dialog/KivDlgPushButton.h"
 #include "Dialog/KivDlgRadioButton.h"
-#include "Dialog/KivTextCatalogue.h"
 #include "Dialog/KivUserHand.h"
 #include "KivDrwSketcherSettings.h"
 #include "NativePiece.h"

@@ -94,12 +94,13 @@ TEST_F(LockAwareControls, AreNamedPlacedAndGovernedByTheirPadlock)
         KivSettingInfo locked;
         KivDrwRepository()->GetInfo("Ruler", &locked, 0);
         lock->SetInfo(locked);
+        const KivUnicodeString why = lock->GetReason();
         delete lock; // the padlock dies first
         EXPECT_EQ(row->GetSensitivity(), KivDlgDisabled);
         row->SetSensitivity(KivDlgEnabled);
         row->GetDialog()->SetSensitivity(KivDlgEnabled);
         EXPECT_FALSE(row->GetDialog()->IsEnabled()) << "the setting is still locked";
-        EXPECT_EQ(row->GetDialog()->WhyDisabled(), locked.Words());
+        EXPECT_EQ(row->GetDialog()->WhyDisabled(), why);
         delete row->GetDialog(); // then the control
         EXPECT_EQ(row->GetDialog(), nullptr);
         EXPECT_EQ(row->GetName(), "checkGrid");

@@ -44,18 +44,16 @@ void KivDrwOptAdminEditor::CommitModification(KivSettingRepository*)
     // A copy: who is told of a command or of a setting may destroy this editor.
     const KivVar<KivIASettingController> controller = _controller;
     KivDrwCommandAvailability::Apply(*attributes.Get());
-    if (_controller) _controller->SaveRepository();
-    SwitchCommands(); // the save takes what other programs have stored
     if (controller) controller->SaveRepository();
+    SwitchCommands(); // the save takes what other programs have stored
 }
 
 void KivDrwOptAdminEditor::CancelModification(KivSettingRepository*)
 {
-    if (!_controller) return;
-    _controller->Rollback();
-    SwitchCommands();
     const KivVar<KivIASettingController> controller = _controller; // as above
-    if (controller) controller->Rollback();
+    if (!controller) return;
+    controller->Rollback();
+    SwitchCommands();
 }
 
 void KivDrwOptAdminEditor::ResetUserSettingsValue()

@@ -14,7 +14,7 @@
 
 // The editors that do what the editor of every tab does.
 #define KIV_TAB_OF_ITS_OWN(...)
-#define KIV_TAB(Editor, EditorTie, CreateEditorTie, Factory, FactoryInterface, FactoryId, FactoryVar,          \
+#define KIV_TAB(Editor, EditorTie, CreateEditorTie, Factory, FactoryInterface, FactoryId, FactoryVar,        \
                 FactoryTie, CreateFactoryTie, Frame, group)                                                  \
     class Editor final : public KivDrwTabEditor<Editor, Frame> {                                             \
     public:                                                                                                  \
@@ -24,7 +24,7 @@
 #include "KivDrwTabs.def"
 
 // The factories of all tabs.
-#define KIV_TAB(Editor, EditorTie, CreateEditorTie, Factory, FactoryInterface, FactoryId, FactoryVar,          \
+#define KIV_TAB(Editor, EditorTie, CreateEditorTie, Factory, FactoryInterface, FactoryId, FactoryVar,        \
                 FactoryTie, CreateFactoryTie, Frame, group)                                                  \
     class Factory final : public KivDrwTabFactory<Factory, Editor> {                                         \
     public:                                                                                                  \
