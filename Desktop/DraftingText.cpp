@@ -5,6 +5,5 @@
 
 QString DraftingText(const char* key)
 {
-    const KivUnicodeString text = KivTextCatalogue::Open("KivDrafting").Find(key);
-    return text.IsEmpty() ? QString::fromUtf8(key) : ToQt(text);
+    return ToQt(KivTextCatalogue::Open("KivDrafting").Text(key));
 }

@@ -14,6 +14,5 @@ KivUnicodeString FromQt(const QString& text)
 
 QString WindowText(const char* key)
 {
-    const KivUnicodeString text = KivTextCatalogue::Open("KivDesktop").Find(key);
-    return text.IsEmpty() ? QString::fromUtf8(key) : ToQt(text);
+    return ToQt(KivTextCatalogue::Open("KivDesktop").Text(key));
 }

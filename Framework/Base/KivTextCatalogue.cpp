@@ -116,7 +116,7 @@ const KivTextCatalogue& KivTextCatalogue::Open(const KivString& name)
             }
         }
         if (place->second._texts.empty())
-            KivReport({.text = "there are no texts of this name; controls show their object names",
+            KivReport({.text = "there are no texts of this name; the names of texts and controls are shown",
                        .file = KivUnicodeString(name) + ".texts"});
     }
     return place->second;
@@ -164,6 +164,12 @@ KivUnicodeString KivTextCatalogue::FindResource(const KivUnicodeString& relative
             return KivUnicodeString(file.string());
     }
     return {};
+}
+
+KivUnicodeString KivTextCatalogue::Text(const KivString& key) const
+{
+    const KivUnicodeString text = Find(key);
+    return text.IsEmpty() ? KivUnicodeString(key) : text;
 }
 
 KivUnicodeString KivTextCatalogue::Find(const KivString& key) const

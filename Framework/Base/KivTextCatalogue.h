@@ -39,7 +39,9 @@ public:
     // The file of a resource below any module's directory ("icons/I_Grid.svg"); empty when no module has it.
     static KivUnicodeString FindResource(const KivUnicodeString& relative);
 
-    // The text of a key; empty when it is missing.
+    // The text of a key, or the key itself: what is shown is never empty because a text is missing.
+    KivUnicodeString Text(const KivString& key) const;
+    // The text of a key; empty when it is missing. For what may be left out, as a help or an icon.
     KivUnicodeString Find(const KivString& key) const;
 
     // For tests: every key that the files hold.

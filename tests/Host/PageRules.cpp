@@ -1,5 +1,6 @@
 #include "Command/KivCommandHeader.h"
 #include "Dialog/KivDlgLabel.h"
+#include "Dialog/KivTextCatalogue.h"
 #include "OptionsPages.h"
 
 #include <chrono>
@@ -283,6 +284,26 @@ TEST_F(PageRules, OnlyExactViewsHaveDimensionsToGenerate)
     EXPECT_FALSE(Control("checkGenDim").IsEnabled()) << "the page looks only when it is filled";
     session->Refill();
     EXPECT_TRUE(Control("checkGenDim").IsEnabled());
+}
+
+TEST_F(PageRules, WithoutAnyTextNamesAreShown)
+{
+    KivTextCatalogue::SetResourceRoot(KivUnicodeString((box.root / "nowhere").string()));
+    OpenOn("int DrwGenerationModeVal = 3\n");
+    for (const char* button : {"linetypePushButton", "pushRasterOptions"}) EXPECT_TRUE(Press(button));
+    const auto visit = [](auto&& self, const KivDialog& node) -> void {
+        if (node.IsAKindOf(KivDlgCombo::Name)) {
+            const auto& combo = static_cast<const KivDlgCombo&>(node);
+            KivUnicodeString line;
+            for (int i = 0; combo.GetLine(line, i); ++i)
+                EXPECT_FALSE(line.IsEmpty()) << node.GetName().View();
+        }
+        EXPECT_FALSE(node.IsAKindOf(KivDlgDialog::Name) && node.GetTitle().IsEmpty());
+        for (const KivDialog* child : node.Children()) self(self, *child);
+    };
+    visit(visit, session->Root());
+    session.reset();
+    KivTextCatalogue::SetResourceRoot("");
 }
 
 TEST_F(PageRules, StyleFilesComeFromTheDisk)

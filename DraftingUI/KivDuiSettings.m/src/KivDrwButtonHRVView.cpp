@@ -65,9 +65,9 @@ void KivDrwButtonHRVView::BuildViewer(KivDlgFrame* frame)
         bag.Add(std::make_unique<Kiv2DLineRep>(zero, end));
         bag.Add(std::make_unique<Kiv2DArrowRep>(end, end, kArrowLength, kArrowRatio));
     }
-    bag.Add(std::make_unique<Kiv2DTextRep>(Kiv2DPoint{kAxisEnd, 3.0}, texts.Find("XGraph"),
+    bag.Add(std::make_unique<Kiv2DTextRep>(Kiv2DPoint{kAxisEnd, 3.0}, texts.Text("XGraph"),
                                            Kiv2DAnchor::BottomRight));
-    bag.Add(std::make_unique<Kiv2DTextRep>(Kiv2DPoint{4.0, kAxisEnd}, texts.Find("YGraph"),
+    bag.Add(std::make_unique<Kiv2DTextRep>(Kiv2DPoint{4.0, kAxisEnd}, texts.Text("YGraph"),
                                            Kiv2DAnchor::TopLeft));
     std::vector<Kiv2DPoint> curve;
     for (int level = kLeast; level <= kGreatest; ++level) {
@@ -77,7 +77,7 @@ void KivDrwButtonHRVView::BuildViewer(KivDlgFrame* frame)
     }
     bag.Add(std::make_unique<Kiv2DPolylineRep>(std::move(curve)));
     _caption =
-        bag.Add(std::make_unique<Kiv2DTextRep>(zero, texts.Find("GraphCursor"), Kiv2DAnchor::BottomRight));
+        bag.Add(std::make_unique<Kiv2DTextRep>(zero, texts.Text("GraphCursor"), Kiv2DAnchor::BottomRight));
     _cursor = bag.Add(std::make_unique<Kiv2DPointRep>(OnCurve(kLeast)));
 
     _manipulator = std::make_unique<Kiv2DManipulator>(this, "manipulator", _cursor.Get());

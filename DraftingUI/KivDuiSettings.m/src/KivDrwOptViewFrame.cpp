@@ -211,7 +211,7 @@ template <class Window>
 void KivDrwOptViewFrame::OpenWindow(const char* name, const char* catalogue, const char* title)
 {
     auto* window = new Window(this, name);
-    window->SetTitle(KivTextCatalogue::Open(catalogue).Find(title));
+    window->SetTitle(KivTextCatalogue::Open(catalogue).Text(title));
 }
 
 void KivDrwOptViewFrame::PushGenFil(KivCommand*, KivNotification*, void*)

@@ -75,7 +75,7 @@ void KivChoiceRow::ShowValue(KivDrwLockCombo& control, const int& value)
     const KivDialog::ChangesAsOne asOne(*combo);
     combo->ClearLine();
     for (const KivFormChoice::Line& line : _choice.lines) {
-        combo->SetLine(texts.Find(line.key), -1);
+        combo->SetLine(texts.Text(line.key), -1);
         if (line.value == value) combo->SetSelect(combo->GetLineCount() - 1);
     }
 }
