@@ -2,10 +2,30 @@
 
 void KivDlgLabel::SetLabeledControl(KivDialog* control)
 {
-    if (KivDialog* before = _control.Get(); before && before->GetLabel() == this) before->_label = nullptr;
-    _control = control;
-    if (control) control->_label = this;
+    for (const KivWeakPtr<KivDialog>& before : _controls) {
+        if (before && before->GetLabel() == this) before->_label = nullptr;
+    }
+    _controls.clear();
+    AddLabeledControl(control);
+}
+
+void KivDlgLabel::AddLabeledControl(KivDialog* control)
+{
+    if (control) {
+        _controls.emplace_back(control);
+        control->_label = this;
+    }
     Changed();
+}
+
+KivDialog* KivDlgLabel::GetLabeledControl() const
+{
+    KivDialog* first = nullptr;
+    for (const KivWeakPtr<KivDialog>& control : _controls) {
+        if (control && control->IsEnabled()) return control.Get();
+        if (!first) first = control.Get();
+    }
+    return first;
 }
 
 void KivDlgLabel::SetGraysWithControl(bool grays)
@@ -16,5 +36,6 @@ void KivDlgLabel::SetGraysWithControl(bool grays)
 
 bool KivDlgLabel::IsEnabled() const
 {
-    return KivDialog::IsEnabled() && (!_graysWithControl || !_control || _control->IsEnabled());
+    const KivDialog* control = _graysWithControl ? GetLabeledControl() : nullptr;
+    return KivDialog::IsEnabled() && (!control || control->IsEnabled());
 }

@@ -67,8 +67,7 @@ void Kiv2DBaseOptManipFrm::BuildDimManipulators()
 void Kiv2DBaseOptManipFrm::BuildDimRow(KivFormLine line, const DimRow& row)
 {
     line.Attached(KivDlgAttachAllSidesCentered).Picture(row.iconName)->SetIconName(row.icon, "", "", "");
-    // It names two switches: a lock on one of them does not gray it.
-    line.Attached(kFilledCentered).PlainLabel(row.labelName)->SetGraysWithControl(false);
+    line.Attached(kFilledCentered).PlainLabel(row.labelName);
     for (KivDrwLockCheckButton* button :
          {line.At(Creation).Check(row.creationName, row.creation),
           line.At(Modification).Check(row.modificationName, row.modification)}) {

@@ -46,7 +46,7 @@ bool KivFormLine::LeavesOut(const KivBoundValue& value)
 
 void KivFormLine::Name(KivDialog* control)
 {
-    if (_label && !_label->GetLabeledControl()) _label->SetLabeledControl(control);
+    if (_label) _label->AddLabeledControl(control);
 }
 
 KivUnicodeString KivFormLine::LabelHelp() const

@@ -122,12 +122,19 @@ TEST_F(UserHand, ChoosesAnyColorAndNamesIt)
     EXPECT_EQ(listener.heard, 3);
 }
 
-TEST_F(UserHand, LabelsGrayWithTheirControl)
+TEST_F(UserHand, LabelsGrayWithTheLastOfTheirControls)
 {
     auto* spinner = new KivDlgSpinner(&page, "spinner", 0);
     auto* label = new KivDlgLabel(&page, "label", 0);
     label->SetLabeledControl(spinner);
+    auto* second = new KivDlgSpinner(&page, "second", 0);
+    label->AddLabeledControl(second);
     spinner->SetSensitivity(KivDlgDisabled);
+    EXPECT_TRUE(label->IsEnabled());
+    EXPECT_EQ(label->GetLabeledControl(), second) << "its letter leads to what can be used";
+    second->SetSensitivity(KivDlgDisabled);
+    EXPECT_FALSE(label->IsEnabled());
+    delete second;
     EXPECT_FALSE(label->IsEnabled());
     delete spinner;
     EXPECT_TRUE(label->IsEnabled());
