@@ -1,5 +1,7 @@
 #include "DraftingScheme.h"
 
+#include "IndicatorStyle.h"
+
 #include <QApplication>
 #include <QPalette>
 
@@ -32,14 +34,18 @@ QPalette PaletteOf(const Tones& tones)
 
 void ApplyScheme(DraftingScheme scheme)
 {
-    if (scheme == DraftingScheme::System) return;
+    if (scheme == DraftingScheme::System) {
+        // A desktop's own style knows what its colors need.
+        if (QApplication::style()->name() == u"fusion") QApplication::setStyle(new IndicatorStyle);
+        return;
+    }
     static constexpr QColor kWhite(255, 255, 255);
     const bool isDark = scheme == DraftingScheme::Dark;
     // Fusion draws edges darker than the window: it must not be too dark itself, or they are not seen.
     const Tones dark{{60, 63, 68},    {34, 36, 40},   {42, 44, 49}, {74, 77, 83},   {234, 235, 237},
-                     {150, 154, 160}, {61, 132, 214}, kWhite,       {110, 170, 240}};
+                     {150, 154, 160}, {49, 115, 194}, kWhite,       {110, 170, 240}};
     const Tones light{{240, 241, 243}, kWhite,         {246, 247, 249}, {233, 235, 238}, {28, 30, 33},
                       {128, 132, 138}, {38, 110, 190}, kWhite,          {20, 90, 170}};
-    QApplication::setStyle("Fusion");
+    QApplication::setStyle(new IndicatorStyle);
     QApplication::setPalette(PaletteOf(isDark ? dark : light));
 }

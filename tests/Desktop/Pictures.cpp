@@ -1,7 +1,12 @@
 #include "Base/KivDiagnosticScope.h"
+#include "DraftingScheme.h"
 #include "IconStore.h"
 #include "OptionsFixture.h"
+#include "SheetColors.h"
 #include "TestPicture.h"
+
+#include <QCheckBox>
+#include <QRadioButton>
 
 namespace {
 
@@ -28,6 +33,26 @@ TEST_F(Pictures, PadlocksFollowThePaletteAtOnce)
     QApplication::setPalette(dark);
     QTest::qWait(10);
     EXPECT_GT(inked("checkSnapLock"), 500);
+}
+
+TEST_F(Pictures, AnEmptyBoxCanBeToldFromTheWindow)
+{
+    for (const DraftingScheme scheme : {DraftingScheme::Light, DraftingScheme::Dark}) {
+        ApplyScheme(scheme);
+        const QColor surface = QApplication::palette().color(QPalette::Window);
+        QCheckBox box;
+        QRadioButton button;
+        for (QWidget* empty : {static_cast<QWidget*>(&box), static_cast<QWidget*>(&button)}) {
+            empty->resize(empty->sizeHint());
+            const QImage picture = TestPicture::Take(*empty);
+            int told = 0;
+            for (int i = 0; i < picture.width() * picture.height(); ++i) {
+                const QColor at = picture.pixelColor(i % picture.width(), i / picture.width());
+                told += at != QColor(Qt::white) && SheetColors::Contrast(at, surface) >= 3.0;
+            }
+            EXPECT_GT(told, 20) << empty->metaObject()->className();
+        }
+    }
 }
 
 TEST_F(Pictures, ARefusedFieldLooksDifferent)
