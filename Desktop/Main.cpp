@@ -7,6 +7,7 @@
 #include "KivDrwDraftingSettings.h"
 #include "KivDrwRepository.h"
 #include "KivDrwSketcherSettings.h"
+#include "NativeText.h"
 #include "OffscreenPlatform.h"
 #include "Settings/KivSettingRepository.h"
 #include "SettingsWatch.h"
@@ -65,7 +66,7 @@ int main(int argc, char** argv)
 
     SheetSettings settings(*KivDrwDraftingSettings::GetDraftingSettings(),
                            *KivDrwSketcherSettings::GetSketcherSettings(), KivDrwRepository());
-    DraftingWindow window(settings, diagnostics, QString::fromStdString(line.administrator));
+    DraftingWindow window(settings, diagnostics, ToQt(KivSettingRepository::EditedLayer()));
     std::optional<SettingsWatch> watch;
     if (auto* const repository = KivSettingRepository::GetRepository("DraftingOptions")) {
         window.Follow(watch.emplace(*repository), *KivDrwSketcherSettings::GetSketcherSettings());

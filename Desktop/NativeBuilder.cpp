@@ -22,6 +22,7 @@
 #include "NativeWeightCombo.h"
 
 #include <QGridLayout>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -97,6 +98,19 @@ bool FillsColumn(const NativeCell& cell, const NativeGrid& grid)
     return cell.columns == 1 && (hasOnly(KivDlgSpinner::Name) || hasOnly(KivDlgCombo::Name));
 }
 
+// Pages keep groups apart by rows in which nothing stands.
+void KeepEmptyRows(QGridLayout& layout, const NativeGrid& grid, const QWidget& surface)
+{
+    const int gap = surface.style()->pixelMetric(QStyle::PM_LayoutTopMargin, nullptr, &surface);
+    for (int row = 0; row < grid.Rows(); ++row) {
+        const bool isEmpty =
+            std::none_of(grid.Cells().begin(), grid.Cells().end(), [row](const NativeCell& cell) {
+                return cell.row <= row && row < cell.row + cell.rows;
+            });
+        if (isEmpty) layout.setRowMinimumHeight(row, gap);
+    }
+}
+
 void FillGrid(KivDialog& frame, QWidget* surface, NativeGroup* inGroup)
 {
     const NativeGrid grid(frame);
@@ -121,6 +135,7 @@ void FillGrid(KivDialog& frame, QWidget* surface, NativeGroup* inGroup)
     }
     if (!hasGroups) layout->setColumnStretch(grid.Columns(), 1);
     layout->setRowStretch(grid.Rows(), 1);
+    KeepEmptyRows(*layout, grid, *surface);
 }
 
 // Only when all pieces stand do labels find the fields that they lead to. Frames come after what is in them:

@@ -4,9 +4,11 @@
 #include "NativeField.h"
 #include "NativePanel.h"
 #include "NativeText.h"
+#include "OptionsLayerStrip.h"
 #include "OptionsMessageStrip.h"
 #include "OptionsPageView.h"
 #include "OptionsSubWindows.h"
+#include "Settings/KivSettingRepository.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -40,7 +42,6 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
       }),
       _windows(std::make_unique<OptionsSubWindows>(_session->Root(), _memory, *this))
 {
-    setWindowTitle(WindowText("OptionsTitle"));
     setSizeGripEnabled(true);
     _list->setAccessibleName(WindowText("Pages"));
     _list->setAccessibleDescription(WindowText("PagesHelp"));
@@ -53,6 +54,9 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
     middle->addLayout(left);
     middle->addWidget(_stack, 1);
     auto* all = new QVBoxLayout(this);
+    const QString layer = ToQt(KivSettingRepository::EditedLayer());
+    setWindowTitle(layer.isEmpty() ? WindowText("OptionsTitle") : WindowText("OptionsTitleLayer").arg(layer));
+    if (!layer.isEmpty()) all->addWidget(_layer = new OptionsLayerStrip(layer, this));
     all->addLayout(middle, 1);
     all->addWidget(_messages);
     all->addWidget(MakeButtons());
@@ -266,8 +270,9 @@ QSize OptionsWindow::sizeHint() const
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     const QMargins margins = layout()->contentsMargins();
     const int beside = _list->width() + bar + 2 * (margins.left() + margins.right());
+    const int above = _layer ? _layer->sizeHint().height() : 0;
     const int below = _ok->sizeHint().height() + 2 * (margins.top() + margins.bottom());
-    return usual.expandedTo(surface->sizeHint() + QSize(beside, below));
+    return usual.expandedTo(surface->sizeHint() + QSize(beside, above + below));
 }
 
 QSize OptionsWindow::FreeSize() const

@@ -9,6 +9,7 @@
 #include <memory>
 
 class NativeField;
+class OptionsLayerStrip;
 class OptionsMessageStrip;
 class OptionsPageView;
 class OptionsSubWindows;
@@ -64,6 +65,7 @@ private:
     OptionsMemory _memory;
     QListWidget* _list;
     QStackedWidget* _stack;
+    OptionsLayerStrip* _layer = nullptr; // null for a user
     OptionsMessageStrip* _messages;
     QPushButton* _ok = nullptr;
     QPushButton* _cancel = nullptr;

@@ -62,6 +62,11 @@ void KivSettingRepository::SetEditedLayer(const KivUnicodeString& directory)
         directory.IsEmpty() ? directory : KivSettingLayers::Absolute(directory.View());
 }
 
+const KivUnicodeString& KivSettingRepository::EditedLayer()
+{
+    return TheRegistry().editedLayer;
+}
+
 void KivSettingRepository::ForgetAll()
 {
     for (const auto& [key, repository] : TheRegistry().repositories) {

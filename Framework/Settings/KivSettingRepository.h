@@ -151,6 +151,8 @@ public:
     // the user's file; the layer must be one of the known ones or any directory of its own. Empty: the user's
     // file.
     static void SetEditedLayer(const KivUnicodeString& directory);
+    // Its absolute path.
+    static const KivUnicodeString& EditedLayer();
 
     // Administrator mode only: locks or unlocks a key in the edited layer, part of the working state; a
     // prefix and a star ("Dim*", "*") stand for every key that begins so. E_FAIL for a key that an outer

@@ -10,6 +10,7 @@
 #include "Dialog/KivUserHand.h"
 #include "KivDrwSketcherSettings.h"
 #include "NativePiece.h"
+#include "OptionsLayerStrip.h"
 #include "OptionsMessageStrip.h"
 #include "OptionsPageView.h"
 #include "OptionsWindow.h"
@@ -19,6 +20,8 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QDir>
+#include <QFile>
+#include <QGroupBox>
 #include <QLabel>
 #include <QPixmap>
 #include <QScrollBar>
@@ -93,6 +96,9 @@ TEST_F(RealPages, AnAdministratorsPadlocksAreSwitches)
     KivSettingRepository::SetEditedLayer(KivUnicodeString((sandbox.root / "site").string()));
     KivSettingRepository::ForgetAll();
     Open();
+    const QString layer = QString::fromStdString((sandbox.root / "site").string());
+    EXPECT_TRUE(window->windowTitle().contains(layer));
+    EXPECT_TRUE(window->findChild<OptionsLayerStrip*>()->accessibleName().contains(layer));
     auto* const lock = static_cast<QAbstractButton*>(WidgetOf("checkGridLock"));
     const auto is = [lock](bool closed) {
         const QAccessibleInterface* const heard = QAccessible::queryAccessibleInterface(lock);
@@ -129,6 +135,17 @@ TEST_F(RealPages, LineTheirFieldsUp)
     EXPECT_EQ(left("editorGridSpacing_dialog"), left("editorGridGraduation_dialog"));
     EXPECT_EQ(left("editorGridSpacingV_dialog"), left("editorGridGraduationV_dialog"));
     EXPECT_EQ(left("comboBackgroundColor_dialog"), left("comboBackgroundColorDD_dialog"));
+    EXPECT_EQ(window->findChild<OptionsLayerStrip*>(), nullptr) << "nobody but an administrator";
+
+    // The empty rows of a page keep its groups apart.
+    const auto gap = [&] {
+        const auto groups = window->PageView(window->CurrentPage()).findChildren<QGroupBox*>();
+        return groups[1]->y() - groups[0]->geometry().bottom();
+    };
+    const int usual = gap();
+    ASSERT_TRUE(window->ShowPage("KivDrwOptGenEditor"));
+    QTest::qWait(1);
+    EXPECT_GT(gap(), usual);
 }
 
 TEST_F(RealPages, AreFilledWhenTurnedToButNotUnderTheUsersHand)
