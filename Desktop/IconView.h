@@ -6,7 +6,7 @@
 #include <QWidget>
 
 // A place on a surface that shows an icon. Empty, but as large, when the icon is missing; as wide still when
-// none is named, so that surfaces with and without icons align.
+// none is named, for surfaces that align with others.
 class IconView : public QWidget {
 public:
     // The size is a style's metric, as QStyle::PM_LargeIconSize.

@@ -6,6 +6,8 @@
 #include <QHBoxLayout>
 #include <QStyleOptionGroupBox>
 
+#include <algorithm>
+
 NativeGroup::NativeGroup(KivDialog& node, QWidget* parent)
     : QGroupBox(parent), NativePieceFor(node, this), _icon(new IconView(QStyle::PM_LargeIconSize, this)),
       _content(new QWidget(this))
@@ -19,7 +21,20 @@ void NativeGroup::ShowNode()
 {
     setTitle(ToQt(TreeNode()->GetSpokenTitle()).replace(u'&', "&&"));
     _icon->SetIcon(TreeNode()->GetIconName());
+    _icon->setVisible(KeepsIconColumn());
     update();
+}
+
+// The controls of all groups on a surface stand in line: a group without an icon keeps the place of one while
+// another has one.
+bool NativeGroup::KeepsIconColumn() const
+{
+    const KivDialog* parent = TreeNode()->GetParentDialog();
+    const std::vector<KivDialog*> alone{TreeNode()};
+    const std::vector<KivDialog*>& groups = parent ? parent->Children() : alone;
+    return std::any_of(groups.begin(), groups.end(), [](const KivDialog* group) {
+        return group->IsAKindOf(KivDlgToolsOptionsFrame::Name) && !group->GetIconName().IsEmpty();
+    });
 }
 
 void NativeGroup::initStyleOption(QStyleOptionGroupBox* option) const

@@ -21,6 +21,8 @@ protected:
     void initStyleOption(QStyleOptionGroupBox* option) const override;
 
 private:
+    bool KeepsIconColumn() const;
+
     IconView* _icon;
     QWidget* _content;
 };

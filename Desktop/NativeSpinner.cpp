@@ -186,9 +186,10 @@ QSize NativeSpinner::sizeHint() const
     const std::string_view unit =
         TreeNode() ? KivControlUnit::Of(TreeNode()->GetUnit()).suffix : std::string_view();
     const QString suffix = QString::fromUtf8(unit.data(), static_cast<qsizetype>(unit.size()));
-    // What is shown is never cut.
+    // What is shown is never cut; within the letters that were asked for, a longer number widens nothing.
     const int width = std::max(fontMetrics().horizontalAdvance(QString(letters, u'0') + suffix),
-                               fontMetrics().horizontalAdvance(_shown + u' '));
+                               fontMetrics().horizontalAdvance(_shown)) +
+                      fontMetrics().horizontalAdvance(u' ');
     return style()->sizeFromContents(QStyle::CT_SpinBox, &option,
                                      QSize(width, lineEdit()->sizeHint().height()), this);
 }

@@ -8,5 +8,7 @@ public:
     using NativeCombo::NativeCombo;
 
 protected:
+    // The asked width does not count the symbol that is drawn before its name.
+    int VisibleWidth() const override { return 0; }
     QIcon LineIcon(int line) const override;
 };

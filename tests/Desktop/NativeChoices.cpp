@@ -106,6 +106,8 @@ TEST_F(NativeChoices, EveryPointSymbolHasADrawingOfItsOwnAndAName)
         EXPECT_FALSE(combo->itemText(i).isEmpty());
         seen << drawing;
     }
+    tree.symbol->SetVisibleTextWidth(5);
+    EXPECT_GT(combo->sizeHint().width(), combo->fontMetrics().horizontalAdvance("Concentric circles"));
     QTest::keyClick(combo, Qt::Key_Down);
     EXPECT_EQ(tree.symbol->GetSelect(), 2U);
 }

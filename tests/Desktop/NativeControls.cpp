@@ -133,6 +133,10 @@ TEST_F(NativeControls, SpinnerTakesWhatTheTreeUnderstands)
     TestHand::TypeOver(field, "7");
     WidgetOf(tree.show)->setFocus();
     EXPECT_DOUBLE_EQ(tree.horizontal->GetValue(), 0.007) << "leaving the field enters the text";
+    tree.horizontal->SetVisibleTextWidth(2);
+    const int width = field->sizeHint().width();
+    tree.horizontal->SetValue(0.01, 0);
+    EXPECT_EQ(field->sizeHint().width(), width) << "it grows with its value";
 }
 
 TEST_F(NativeControls, ARefusedTextStaysWithItsReasonUntilItIsLeft)

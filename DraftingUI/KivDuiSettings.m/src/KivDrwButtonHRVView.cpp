@@ -22,9 +22,12 @@ constexpr Kiv2DRectangle kWorld{-8.0, -8.0, 84.0, 84.0};
 constexpr double kAxisEnd = 82.0;
 constexpr double kArrowLength = 3.0;
 constexpr double kArrowRatio = 0.35;
-// The cursor's caption stands above the curve, at the side where there is room, but right of the upward axis.
-constexpr Kiv2DPoint kCaptionOffset{-6.0, 8.0};
+// The cursor's caption ends this far left of the cursor and above the curve, so that it cuts neither: right
+// of the upward axis, and below the words at its end.
+constexpr double kCaptionBeside = 9.0;
+constexpr double kCaptionAbove = 8.0;
 constexpr double kCaptionLeast = 38.0;
+constexpr double kCaptionGreatest = 55.0;
 
 constexpr unsigned int kTopAndBottom = KivDlgAttachTop | KivDlgAttachBottom;
 constexpr KivWholeSetup kLevel{
@@ -117,7 +120,10 @@ void KivDrwButtonHRVView::MoveCursor()
     if (!_viewer || !_cursor || !_caption) return;
     const Kiv2DPoint place = OnCurve(_level.cached);
     _cursor->SetOrigin(place);
-    _caption->SetPosition({std::max(place.x + kCaptionOffset.x, kCaptionLeast), place.y + kCaptionOffset.y});
+    const double right = std::clamp(place.x - kCaptionBeside, kCaptionLeast, kCaptionGreatest);
+    const double bottom =
+        std::clamp(place.y, OnCurve(right / kUnitsPerLevel).y, OnCurve(kCaptionGreatest / kUnitsPerLevel).y);
+    _caption->SetPosition({right, bottom + kCaptionAbove});
     _viewer->SetValue({kLeast, kGreatest, static_cast<double>(_level.cached),
                        KivUnicodeString(std::to_string(_level.cached))});
     _viewer->Redraw();
