@@ -1,7 +1,7 @@
 #include "NativeEditor.h"
 
 #include "Dialog/KivUserHand.h"
-#include "DirectoryPath.h"
+#include "DirectoryStart.h"
 #include "NativeDescription.h"
 #include "NativeText.h"
 
@@ -42,7 +42,7 @@ void NativeEditor::ShowText()
     _shown = ToQt(TreeNode()->GetText());
     if (text() != _shown) setText(_shown);
     setModified(false);
-    CheckDirectory();
+    ShowDirectory();
 }
 
 bool NativeEditor::CommitText()
@@ -62,7 +62,7 @@ void NativeEditor::Enter(const QString& text)
 
 QFileDialog* NativeEditor::OpenChooser()
 {
-    auto* const chooser = new QFileDialog(this, WindowText("ChooseDirectory"), DirectoryPath(text()).Start());
+    auto* const chooser = new QFileDialog(this, WindowText("ChooseDirectory"), DirectoryStart(text()));
     chooser->setAttribute(Qt::WA_DeleteOnClose);
     chooser->setFileMode(QFileDialog::Directory);
     chooser->setOption(QFileDialog::ShowDirsOnly);
@@ -71,10 +71,17 @@ QFileDialog* NativeEditor::OpenChooser()
     return chooser;
 }
 
-void NativeEditor::CheckDirectory()
+void NativeEditor::ShowDirectory()
 {
-    const bool isMissing = TreeNode() && TreeNode()->IsDirectory() && DirectoryPath(_shown).IsMissing();
-    Complain(isMissing ? WindowText("NoDirectory").arg(_shown) : QString());
+    if (!TreeNode() || isModified()) return; // what is being typed is looked for when it is entered
+    switch (TreeNode()->GetDirectoryState()) {
+    case KivDirectoryState::There:
+        return Complain({});
+    case KivDirectoryState::Missing:
+        return Complain(WindowText("NoDirectory").arg(_shown));
+    case KivDirectoryState::Unknown:
+        return Complain(WindowText("UnknownDirectory").arg(_shown));
+    }
 }
 
 void NativeEditor::Complain(const QString& complaint)
@@ -99,7 +106,7 @@ void NativeEditor::Describe()
 bool NativeEditor::event(QEvent* event)
 {
     // The user may have made the directory meanwhile, or taken it away.
-    if (event->type() == QEvent::WindowActivate && !isModified()) CheckDirectory();
+    if (event->type() == QEvent::WindowActivate && TreeNode()) TreeNode()->CheckDirectory();
     return QLineEdit::event(event);
 }
 

@@ -32,11 +32,11 @@ protected:
 private:
     void ShowText();
     void Enter(const QString& text);
-    void CheckDirectory();
+    void ShowDirectory();
     void Complain(const QString& complaint);
     void Describe();
 
     QString _shown; // as in NativeSpinner
     QString _complaint;
-    QAction* _mark; // beside a path that leads nowhere
+    QAction* _mark; // beside a path that leads nowhere, as far as is known
 };

@@ -1,5 +1,6 @@
 #include "OptionsWindow.h"
 
+#include "Base/KivDirectoryWatch.h"
 #include "IconStore.h"
 #include "NativeField.h"
 #include "NativePanel.h"
@@ -28,6 +29,7 @@ namespace {
 
 constexpr int kLettersWide = 148; // the pages in two columns
 constexpr int kLinesHigh = 34;
+constexpr int kLookAgain = 200; // milliseconds
 
 } // namespace
 
@@ -67,6 +69,14 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
     auto* events = QAbstractEventDispatcher::instance();
     connect(events, &QAbstractEventDispatcher::aboutToBlock, this, [this] { TidyUp(); });
     connect(events, &QAbstractEventDispatcher::awake, this, [this] { TidyUp(); });
+    connect(qApp, &QApplication::focusChanged, this, [this] {
+        if (_isRefillDue) Refill();
+    });
+    auto* events = QAbstractEventDispatcher::instance();
+    connect(events, &QAbstractEventDispatcher::aboutToBlock, this, [this] { Drain(); });
+    connect(events, &QAbstractEventDispatcher::awake, this, [this] { Drain(); });
+    _awaited.setSingleShot(true);
+    _awaited.setInterval(kLookAgain);
 
     if (!ShowPage(KivUnicodeString(_memory.Page()))) _list->setCurrentRow(0);
     const QSize remembered = _memory.Size();
@@ -76,6 +86,14 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
 OptionsWindow::~OptionsWindow()
 {
     if (_session) _session->Cancel();
+}
+
+// What pages asked to be destroyed goes when the events are done, and they hear what has come of the
+// directories that they asked for. While an answer is awaited the end of the timer is such an event.
+void OptionsWindow::Drain()
+{
+    KivCommand::DrainDelayedDestruction();
+    if (KivDirectoryWatch::Drain() && !_awaited.isActive()) _awaited.start();
 }
 
 void OptionsWindow::AddPages()

@@ -5,6 +5,7 @@
 #include "OptionsMemory.h"
 
 #include <QDialog>
+#include <QTimer>
 
 #include <memory>
 
@@ -49,6 +50,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void Drain();
     void AddPages();
     QWidget* MakeButtons();
     void ListenToKeys();
@@ -72,4 +74,6 @@ private:
     QPushButton* _reset = nullptr;
     KivDiagnosticScope _diagnostics;
     std::unique_ptr<OptionsSubWindows> _windows; // null after the end
+    bool _isRefillDue = false;
+    QTimer _awaited; // runs while a directory that a page shows has still to answer
 };

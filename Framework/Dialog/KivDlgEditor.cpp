@@ -10,6 +10,7 @@ KivUnicodeString KivDlgEditor::GetShownValue() const
 void KivDlgEditor::SetText(const KivUnicodeString& text, int notify)
 {
     _text = text;
+    AskDirectory();
     Changed();
     if (notify) SendNotification(&_modified);
 }
@@ -23,5 +24,27 @@ void KivDlgEditor::SetVisibleTextWidth(int characters)
 void KivDlgEditor::SetIsDirectory(bool isDirectory)
 {
     _isDirectory = isDirectory;
+    AskDirectory();
     Changed();
+}
+
+void KivDlgEditor::CheckDirectory()
+{
+    const KivDirectoryState before = _directory.State();
+    AskDirectory();
+    if (_directory.State() != before) TellOfDirectory();
+}
+
+void KivDlgEditor::AskDirectory()
+{
+    if (_isDirectory && !_text.IsEmpty())
+        _directory.Ask(_text);
+    else
+        _directory.Forget();
+}
+
+void KivDlgEditor::TellOfDirectory()
+{
+    Changed();
+    SendNotification(&_directoryChanged);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Base/KivDirectoryWatch.h"
 #include "Dialog/KivDlgControl.h"
 
 // A field for a line of text.
@@ -24,10 +25,22 @@ public:
     // same, also a path that does not exist.
     void SetIsDirectory(bool isDirectory);
     bool IsDirectory() const { return _isDirectory; }
+    // What is known of that directory. Nothing is missing while there is no text, or it is no path.
+    KivDirectoryState GetDirectoryState() const { return _directory.State(); }
+    // Looks again: it may have been made meanwhile, or taken away.
+    void CheckDirectory();
+    // What is known of the directory has changed though the text has not: on CheckDirectory, or when its
+    // place has answered at last (see KivDirectoryWatch::Drain).
+    KivNotification* GetDirectoryNotification() const { return &_directoryChanged; }
 
 private:
+    void AskDirectory();
+    void TellOfDirectory();
+
     KivUnicodeString _text;
     int _textWidth = 0;
     bool _isDirectory = false;
+    KivDirectoryWatch _directory{[this] { TellOfDirectory(); }};
     mutable KivNotification _modified{"KivDlgEditModifyNotification"};
+    mutable KivNotification _directoryChanged{"KivDlgEditDirectoryNotification"};
 };

@@ -1,9 +1,13 @@
+#include "Base/KivDirectoryWatch.h"
 #include "Command/KivCommandHeader.h"
 #include "Dialog/KivDlgLabel.h"
 #include "Dialog/KivTextCatalogue.h"
 #include "OptionsPages.h"
 
+#include <atomic>
 #include <chrono>
+#include <future>
+#include <thread>
 
 namespace {
 
@@ -190,6 +194,7 @@ TEST_F(PageRules, ADirectoryThatDoesNotExistIsKeptAndMarked)
                                          {std::string(), false},
                                          {away, true}}) {
         EXPECT_TRUE(KivUserHand::Type(field, path.c_str()));
+        while (KivDirectoryWatch::Drain()) std::this_thread::yield();
         EXPECT_EQ(Stored("DrwFrameAndTitleBlockPath", KivUnicodeString("?")), path.c_str());
         EXPECT_EQ(field.GetText(), path.c_str());
         EXPECT_EQ(Node<KivDialog>("labelTitleBlockMissing").IsShown(), isMarked) << path;
@@ -200,6 +205,54 @@ TEST_F(PageRules, ADirectoryThatDoesNotExistIsKeptAndMarked)
     EXPECT_FALSE(Node<KivDialog>("labelTitleBlockMissing").IsShown()) << "it is back";
     EXPECT_TRUE(session->Commit().empty());
     EXPECT_EQ(box.Bytes(file).find("TitleBlockFile"), std::string::npos) << "on no page";
+}
+
+TEST_F(PageRules, APlaceThatDoesNotAnswerIsWaitedForByNobody)
+{
+    struct Share {
+        std::promise<void> answers;
+        std::shared_future<void> answered{answers.get_future()};
+        std::atomic<int> asked = 0, givenUp = 0;
+    };
+    const auto share = std::make_shared<Share>();
+    const KivDirectoryLooker real = KivSetDirectoryLooker(nullptr);
+    KivSetDirectoryLooker([real, share](const KivUnicodeString& path, bool withNames) {
+        if (path.View().find("/share/") != std::string_view::npos) {
+            ++share->asked;
+            share->givenUp += share->answered.wait_for(std::chrono::seconds(20)) != std::future_status::ready;
+        }
+        return real(path, withNames);
+    });
+    const std::string away = (box.root / "share").string(), here = (box.root / "here").string();
+    for (const std::string& root : {away, here})
+        std::filesystem::create_directories(root + "/VBScript/FrameTitleBlock");
+    box.Write(away + "/generativeparameters/Style.xml", "");
+    box.SetVariable("KivInstallPath", away + ":" + here);
+    box.SetVariable("KivCollectionStandard", away);
+
+    OpenOn("int DrwPreventGVS = 0\n");
+    auto& field = Node<KivDlgEditor>("editorTitleBlockPath_dialog");
+    EXPECT_EQ(field.GetText(), (here + "/VBScript/FrameTitleBlock").c_str());
+    EXPECT_EQ(Combo("chkGVSXml").GetLineCount(), 0);
+    EXPECT_TRUE(KivUserHand::Type(field, (away + "/VBScript").c_str()));
+    for (int i = 0; i < 3; ++i) session->Refill();
+    EXPECT_EQ(share->asked, 3) << "once for each path";
+    EXPECT_EQ(share->givenUp, 0);
+    auto& label = Node<KivDialog>("labelTitleBlockMissing");
+    EXPECT_TRUE(label.IsShown());
+    EXPECT_NE(field.GetHelp().View().find("not known yet"), std::string_view::npos);
+    EXPECT_TRUE(KivDirectoryWatch::Drain()) << "an answer is awaited";
+
+    share->answers.set_value();
+    while (KivDirectoryWatch::Drain()) std::this_thread::yield();
+    EXPECT_EQ(field.GetDirectoryState(), KivDirectoryState::There);
+    EXPECT_FALSE(label.IsShown());
+    for (int i = 0; i < 500 && Combo("chkGVSXml").GetLineCount() == 0; ++i) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        session->Refill();
+    }
+    EXPECT_EQ(Combo("chkGVSXml").GetLineCount(), 1);
+    KivSetDirectoryLooker(real);
 }
 
 TEST_F(PageRules, MeasuresAreStoredInMillimetersAndDegrees)

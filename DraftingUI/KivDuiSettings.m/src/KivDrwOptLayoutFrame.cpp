@@ -1,6 +1,6 @@
 #include "KivDrwOptLayoutFrame.h"
 
-#include "Base/KivDirectory.h"
+#include "Dialog/KivTextCatalogue.h"
 
 namespace {
 
@@ -56,28 +56,37 @@ void KivDrwOptLayoutFrame::BuildTitleBlock()
     KivFormGroup titleBlock = Group("frameTitleBlock", "I_DrwTitleBlock");
     _titleBlockField =
         titleBlock.Line("labelTitleBlockPath")
-            .Text("editorTitleBlockPath", _titleBlockPath, kPathWidth, [this] { MarkMissingDirectory(); });
-    if (_titleBlockField && _titleBlockField->GetEditor())
-        _titleBlockField->GetEditor()->SetIsDirectory(true);
+            .Text("editorTitleBlockPath", _titleBlockPath, kPathWidth, [this] { MarkDirectory(); });
     _missingLabel = titleBlock.Line().At(1).Label("labelTitleBlockMissing");
+    KivDlgEditor* field = _titleBlockField ? _titleBlockField->GetEditor() : nullptr;
+    if (!field) return;
+    field->SetIsDirectory(true);
+    AddAnalyseNotificationCB(field, field->GetDirectoryNotification(),
+                             &KivDrwOptLayoutFrame::DirectoryAnswered, nullptr);
 }
 
 void KivDrwOptLayoutFrame::UpdateWidgets()
 {
     KivDrwKeyPageFrame::UpdateWidgets();
-    MarkMissingDirectory();
+    MarkDirectory();
+}
+
+void KivDrwOptLayoutFrame::DirectoryAnswered(KivCommand*, KivNotification*, void*)
+{
+    MarkDirectory();
 }
 
 // A directory may be away for a while, and a site's value may be meant for other machines: such a path is
 // kept, and said to lead nowhere.
-void KivDrwOptLayoutFrame::MarkMissingDirectory()
+void KivDrwOptLayoutFrame::MarkDirectory()
 {
-    KivDirectory directory;
-    const bool isMissing =
-        !_titleBlockPath.cached.IsEmpty() && KivOpenDirectory(_titleBlockPath.cached, directory) != 0;
     if (!_missingLabel || !_titleBlockField || !_titleBlockField->GetEditor()) return;
-    _missingLabel->SetVisibility(isMissing ? KivDlgShown : KivDlgHidden);
-    // Who hears the page is told at the field.
     KivDlgEditor& field = *_titleBlockField->GetEditor();
-    field.SetHelp(isMissing ? _missingLabel->GetTitle() : field.CatalogueText("Help"));
+    const KivDirectoryState state = field.GetDirectoryState();
+    const bool isThere = state == KivDirectoryState::There;
+    _missingLabel->SetTitle(KivTextCatalogue::Open(Name).Text(
+        state == KivDirectoryState::Missing ? "TitleBlockMissing" : "TitleBlockUnknown"));
+    _missingLabel->SetVisibility(isThere ? KivDlgHidden : KivDlgShown);
+    // Who hears the page is told at the field.
+    field.SetHelp(isThere ? field.CatalogueText("Help") : _missingLabel->GetTitle());
 }

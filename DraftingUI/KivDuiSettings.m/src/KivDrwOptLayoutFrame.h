@@ -17,7 +17,8 @@ private:
     void BuildSheets();
     void BuildTitleBlock();
 
-    void MarkMissingDirectory();
+    void DirectoryAnswered(KivCommand* from, KivNotification* notification, void* data);
+    void MarkDirectory();
 
     KIV_KEY_VALUE(_calloutSize, int, KivDrwKeys::DrwCalloutSize)
     KIV_KEY_VALUE(_viewName, unsigned char, KivDrwKeys::ViewName)
