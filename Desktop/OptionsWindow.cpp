@@ -69,12 +69,6 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
     auto* events = QAbstractEventDispatcher::instance();
     connect(events, &QAbstractEventDispatcher::aboutToBlock, this, [this] { TidyUp(); });
     connect(events, &QAbstractEventDispatcher::awake, this, [this] { TidyUp(); });
-    connect(qApp, &QApplication::focusChanged, this, [this] {
-        if (_isRefillDue) Refill();
-    });
-    auto* events = QAbstractEventDispatcher::instance();
-    connect(events, &QAbstractEventDispatcher::aboutToBlock, this, [this] { Drain(); });
-    connect(events, &QAbstractEventDispatcher::awake, this, [this] { Drain(); });
     _awaited.setSingleShot(true);
     _awaited.setInterval(kLookAgain);
 
@@ -86,14 +80,6 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
 OptionsWindow::~OptionsWindow()
 {
     if (_session) _session->Cancel();
-}
-
-// What pages asked to be destroyed goes when the events are done, and they hear what has come of the
-// directories that they asked for. While an answer is awaited the end of the timer is such an event.
-void OptionsWindow::Drain()
-{
-    KivCommand::DrainDelayedDestruction();
-    if (KivDirectoryWatch::Drain() && !_awaited.isActive()) _awaited.start();
 }
 
 void OptionsWindow::AddPages()
@@ -214,9 +200,12 @@ void OptionsWindow::Refill()
     if (_session) _session->Refill();
 }
 
+// Pages hear what has come of the directories that they asked for; while an answer is awaited, the end of the
+// timer is an event.
 void OptionsWindow::TidyUp()
 {
     KivCommand::DrainDelayedDestruction();
+    if (KivDirectoryWatch::Drain() && !_awaited.isActive()) _awaited.start();
     if (_session) _session->RefillWaiting();
 }
 

@@ -50,7 +50,6 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void Drain();
     void AddPages();
     QWidget* MakeButtons();
     void ListenToKeys();
@@ -74,6 +73,5 @@ private:
     QPushButton* _reset = nullptr;
     KivDiagnosticScope _diagnostics;
     std::unique_ptr<OptionsSubWindows> _windows; // null after the end
-    bool _isRefillDue = false;
     QTimer _awaited; // runs while a directory that a page shows has still to answer
 };

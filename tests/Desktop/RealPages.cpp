@@ -8,7 +8,6 @@
 #include "Dialog/KivDlgLabel.h"
 #include "Dialog/KivDlgPushButton.h"
 #include "Dialog/KivDlgRadioButton.h"
-#include "Dialog/KivTextCatalogue.h"
 #include "Dialog/KivUserHand.h"
 #include "KivDrwSketcherSettings.h"
 #include "NativeEditor.h"
@@ -231,86 +230,86 @@ TEST_F(RealPages, WhoIsToldMayEndTheOptions)
     sketcher.RemoveCallback(callback);
     EXPECT_FALSE(window->Session());
     EXPECT_EQ(window->result(), QDialog::Rejected);
-    TEST_F(RealPages, MarkADirectoryAsSoonAsItsPlaceAnswers)
-    {
-        const auto answers = std::make_shared<std::promise<void>>();
-        const KivDirectoryLooker real = KivSetDirectoryLooker(nullptr);
-        KivSetDirectoryLooker(
-            [answers, answered = std::shared_future(answers->get_future())](const auto&, bool) {
-                answered.wait_for(std::chrono::seconds(20));
-                return KivDirectoryLook();
-            });
-        KivSettingsSandbox::Write(sandbox.File("user"), "string DrwFrameAndTitleBlockPath = \"/share\"\n");
-        Open();
-        ASSERT_TRUE(window->ShowPage("KivDrwOptLayoutEditor"));
-        auto* const field = window->findChild<NativeEditor*>("editorTitleBlockPath_dialog");
-        EXPECT_TRUE(field->Complaint().contains("does not answer"));
-        EXPECT_EQ(field->accessibleDescription(), field->Complaint());
-        answers->set_value();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return field->Complaint().contains("no such directory"); }));
-        KivSetDirectoryLooker(real);
-    }
+}
 
-    TEST_F(RealPages, NameAndExplainEveryControl)
-    {
-        Open();
-        EXPECT_GE(window->PageCount(), 10);
-        LookAtEach("page", [](OptionsPageView&, const QList<QWidget*>& shown) {
-            for (const QWidget* widget : shown) {
-                const KivDialog* node = dynamic_cast<const NativePiece*>(widget)->Node();
-                const std::string name = widget->objectName().toStdString();
-                EXPECT_NE(widget->accessibleName(), widget->objectName()) << name;
-                if (const auto* label = dynamic_cast<const QLabel*>(widget)) {
-                    // Headings and pictures name nothing.
-                    const bool names = static_cast<const KivDlgLabel*>(node)->GetLabeledControl();
-                    EXPECT_EQ(label->buddy() != nullptr, names) << name;
-                    continue;
-                }
-                EXPECT_FALSE(widget->accessibleName().isEmpty()) << name;
-                const bool isField =
-                    node->IsAKindOf(KivDlgControl::Name) && !node->IsAKindOf(KivDlgCheckButton::Name);
-                EXPECT_FALSE(isField && widget->accessibleDescription().isEmpty()) << name;
-                EXPECT_FALSE(!widget->isEnabled() && widget->toolTip().isEmpty()) << name;
-                EXPECT_FALSE(dynamic_cast<const QAbstractButton*>(widget) && widget->toolTip().isEmpty())
-                    << name;
-            }
-        });
-        EXPECT_TRUE(window->Messages().Messages().isEmpty())
-            << window->Messages().Messages().join('\n').toStdString();
-    }
+TEST_F(RealPages, MarkADirectoryAsSoonAsItsPlaceAnswers)
+{
+    const auto answers = std::make_shared<std::promise<void>>();
+    const KivDirectoryLooker real = KivSetDirectoryLooker(nullptr);
+    KivSetDirectoryLooker([answers, answered = std::shared_future(answers->get_future())](const auto&, bool) {
+        answered.wait_for(std::chrono::seconds(20));
+        return KivDirectoryLook();
+    });
+    KivSettingsSandbox::Write(sandbox.File("user"), "string DrwFrameAndTitleBlockPath = \"/share\"\n");
+    Open();
+    ASSERT_TRUE(window->ShowPage("KivDrwOptLayoutEditor"));
+    auto* const field = window->findChild<NativeEditor*>("editorTitleBlockPath_dialog");
+    EXPECT_TRUE(field->Complaint().contains("does not answer"));
+    EXPECT_EQ(field->accessibleDescription(), field->Complaint());
+    answers->set_value();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return field->Complaint().contains("no such directory"); }));
+    KivSetDirectoryLooker(real);
+}
 
-    TEST_F(RealPages, StillFitWhenTranslationsAreLonger)
-    {
-        // Read anew in the other language.
-        const auto speak = [](const char* language) {
-            KivTextCatalogue::SetLanguage(language);
-            KivTextCatalogue::SetResourceRoot("");
-        };
-        speak(KivTextCatalogue::kPseudoLanguage);
-        Open();
-        // This platform's screen is narrower than any real one; there the page scrolls.
-        window->resize(1400, window->height());
-        LookAtEach("longer", [&](OptionsPageView& view, const QList<QWidget*>& shown) {
-            EXPECT_FALSE(view.horizontalScrollBar()->isVisible());
-            QList<QWidget*> seen;
-            for (QWidget* widget : shown) {
-                if (!dynamic_cast<NativePiece*>(widget)->Node()->Children().empty()) continue;
-                const std::string name = widget->objectName().toStdString();
-                EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << name;
-                if (qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget)) {
-                    EXPECT_GE(widget->width(), widget->sizeHint().width()) << name << " is cut off";
-                }
-                const QRect place(widget->mapTo(window.get(), QPoint()), widget->size());
-                for (const QWidget* other : seen) {
-                    const QRect otherPlace(other->mapTo(window.get(), QPoint()), other->size());
-                    EXPECT_FALSE(place.intersects(otherPlace))
-                        << name << " lies on " << other->objectName().toStdString();
-                }
-                seen << widget;
+TEST_F(RealPages, NameAndExplainEveryControl)
+{
+    Open();
+    EXPECT_GE(window->PageCount(), 10);
+    LookAtEach("page", [](OptionsPageView&, const QList<QWidget*>& shown) {
+        for (const QWidget* widget : shown) {
+            const KivDialog* node = dynamic_cast<const NativePiece*>(widget)->Node();
+            const std::string name = widget->objectName().toStdString();
+            EXPECT_NE(widget->accessibleName(), widget->objectName()) << name;
+            if (const auto* label = dynamic_cast<const QLabel*>(widget)) {
+                // Headings and pictures name nothing.
+                const bool names = static_cast<const KivDlgLabel*>(node)->GetLabeledControl();
+                EXPECT_EQ(label->buddy() != nullptr, names) << name;
+                continue;
             }
-        });
-        window.reset();
-        speak("English");
-    }
+            EXPECT_FALSE(widget->accessibleName().isEmpty()) << name;
+            const bool isField =
+                node->IsAKindOf(KivDlgControl::Name) && !node->IsAKindOf(KivDlgCheckButton::Name);
+            EXPECT_FALSE(isField && widget->accessibleDescription().isEmpty()) << name;
+            EXPECT_FALSE(!widget->isEnabled() && widget->toolTip().isEmpty()) << name;
+            EXPECT_FALSE(dynamic_cast<const QAbstractButton*>(widget) && widget->toolTip().isEmpty()) << name;
+        }
+    });
+    EXPECT_TRUE(window->Messages().Messages().isEmpty())
+        << window->Messages().Messages().join('\n').toStdString();
+}
+
+TEST_F(RealPages, StillFitWhenTranslationsAreLonger)
+{
+    // Read anew in the other language.
+    const auto speak = [](const char* language) {
+        KivTextCatalogue::SetLanguage(language);
+        KivTextCatalogue::SetResourceRoot("");
+    };
+    speak(KivTextCatalogue::kPseudoLanguage);
+    Open();
+    // This platform's screen is narrower than any real one; there the page scrolls.
+    window->resize(1400, window->height());
+    LookAtEach("longer", [&](OptionsPageView& view, const QList<QWidget*>& shown) {
+        EXPECT_FALSE(view.horizontalScrollBar()->isVisible());
+        QList<QWidget*> seen;
+        for (QWidget* widget : shown) {
+            if (!dynamic_cast<NativePiece*>(widget)->Node()->Children().empty()) continue;
+            const std::string name = widget->objectName().toStdString();
+            EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << name;
+            if (qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget)) {
+                EXPECT_GE(widget->width(), widget->sizeHint().width()) << name << " is cut off";
+            }
+            const QRect place(widget->mapTo(window.get(), QPoint()), widget->size());
+            for (const QWidget* other : seen) {
+                const QRect otherPlace(other->mapTo(window.get(), QPoint()), other->size());
+                EXPECT_FALSE(place.intersects(otherPlace))
+                    << name << " lies on " << other->objectName().toStdString();
+            }
+            seen << widget;
+        }
+    });
+    window.reset();
+    speak("English");
+}
 
 } // namespace

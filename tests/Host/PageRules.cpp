@@ -1,7 +1,7 @@
 #include "Base/KivDirectoryWatch.h"
+#include "Base/KivTextCatalogue.h"
 #include "Command/KivCommandHeader.h"
 #include "Dialog/KivDlgLabel.h"
-#include "Dialog/KivTextCatalogue.h"
 #include "OptionsPages.h"
 
 #include <atomic>

@@ -1,6 +1,6 @@
 #include "KivDrwOptLayoutFrame.h"
 
-#include "Dialog/KivTextCatalogue.h"
+#include "Base/KivTextCatalogue.h"
 
 namespace {
 
