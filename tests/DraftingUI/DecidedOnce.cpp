@@ -23,8 +23,8 @@ TEST(DecidedOnce, InProcessesOfTheirOwn)
 {
     EXPECT_TRUE(PassesInAProcessOfItsOwn("AutomatedRun", "KivAutomatedRun="));
     EXPECT_TRUE(PassesInAProcessOfItsOwn("OrdinaryRun", "env -u KivAutomatedRun"));
-    EXPECT_TRUE(PassesInAProcessOfItsOwn("ReplayOfARecordWithoutSketchedDimensions", ""));
-    EXPECT_TRUE(PassesInAProcessOfItsOwn("ReplayOfARecordWithSketchedDimensions", ""));
+    EXPECT_TRUE(PassesInAProcessOfItsOwn("ReplayOfARecord", "env -u Sketched"));
+    EXPECT_TRUE(PassesInAProcessOfItsOwn("ReplayOfARecord", "Sketched=1"));
     EXPECT_TRUE(PassesInAProcessOfItsOwn("CaptureShowsThePosition", ""));
 }
 
@@ -40,22 +40,15 @@ TEST(OwnProcess, DISABLED_OrdinaryRun)
     EXPECT_EQ(DefaultGenAxisCreate() + DefaultGenCenterCreate() + DefaultGenThreadCreate(), 0);
 }
 
-TEST(OwnProcess, DISABLED_ReplayOfARecordWithoutSketchedDimensions)
+TEST(OwnProcess, DISABLED_ReplayOfARecord)
 {
+    const bool isSketched = std::getenv("Sketched");
     KivRecord record(KivRecord::Mode::Replay);
+    if (isSketched) record.SetSoftwareRecordLevel("QuickDimRecord", 2);
     KivRecord::SetMain(&record);
-    EXPECT_EQ(DefaultDimSketch(), 0);
+    EXPECT_EQ(DefaultDimSketch(), isSketched);
     KivRecord::SetMain(nullptr);
-    EXPECT_EQ(DefaultDimSketch(), 0) << "decided for the life of the process";
-}
-
-TEST(OwnProcess, DISABLED_ReplayOfARecordWithSketchedDimensions)
-{
-    KivRecord record(KivRecord::Mode::Replay);
-    record.SetSoftwareRecordLevel("QuickDimRecord", 2);
-    KivRecord::SetMain(&record);
-    EXPECT_EQ(DefaultDimSketch(), 1);
-    KivRecord::SetMain(nullptr);
+    EXPECT_EQ(DefaultDimSketch(), isSketched) << "decided for the life of the process";
 }
 
 TEST(OwnProcess, DISABLED_CaptureShowsThePosition)

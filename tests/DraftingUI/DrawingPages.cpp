@@ -8,6 +8,8 @@
 #include "KivDrwOptAnnotFrm.h"
 #include "KivDrwOptGeoEditor.h"
 #include "KivDrwOptIntFrm.h"
+#include "KivDrwRepository.h"
+#include "KivDrwSettingAccess.h"
 #include "SketcherTest.h"
 
 namespace {
@@ -27,6 +29,12 @@ protected:
         sketcher.GetColorDiagElts(2, r, g, b);
         return std::to_string(sketcher.GetDragMode()) + std::to_string(sketcher.GetPosSupports()) + "-" +
                std::to_string(r) + " ";
+    }
+    // The first of them alone.
+    std::string Event()
+    {
+        const std::string all = Heard();
+        return all.substr(0, all.find(' '));
     }
     template <class T> T& Node(const char* name) { return *static_cast<T*>(page.FindDialog(name)); }
 
@@ -61,27 +69,54 @@ TEST_F(GeometryPage, TellsTheSketcherOfEachChangeAndOfWhatTakesItBack)
     EXPECT_EQ(Heard(), untouched);
 }
 
-// Whoever changes a setting, this page or another caller of the sketcher, the same listeners hear of it.
-TEST_F(GeometryPage, TellsTheSketcherWhatItsOwnSettersTell)
+// Whoever changes a setting, this page or another caller of the sketcher: it is read where it was written,
+// and the same listeners hear of it.
+TEST_F(GeometryPage, EachPairOfTheSketcherHasAKeyAndAnEventOfItsOwn)
 {
-    using Set = void (KivSketcherSettings::*)(int on, int notify);
-    const std::pair<const char*, Set> switches[] = {
-        {"checkCreateCenter_dialog", &KivSketcherSettings::SetCreateCenter},
-        {"checkShowHV_dialog", &KivSketcherSettings::SetShowPosition},
-        {"checkDragEndPts_dialog", &KivSketcherSettings::SetDragWithEndPts},
-        {"checkGeomManip_dialog", &KivSketcherSettings::SetDragElts},
-        {"checkCstCreation_dialog", &KivSketcherSettings::SetCreateConstraint},
-        {"checkPickCoincid_dialog", &KivSketcherSettings::SetPosSupports},
-        {"checkPickAlign_dialog", &KivSketcherSettings::SetPosHorVertTo},
-        {"checkPickParaPerpenTang_dialog", &KivSketcherSettings::SetDirParaPerpTan},
-        {"checkPickHoriVerti_dialog", &KivSketcherSettings::SetDirHorVert},
-        {"checkVisuDiagnostic_dialog", &KivSketcherSettings::SetDiagElts}};
-    const auto event = [this] { return Heard().substr(0, 4); };
-    for (const auto& [name, set] : switches) {
-        EXPECT_TRUE(KivUserHand::Tick(Node<KivDlgCheckButton>(name)));
-        const std::string own = event();
+    using S = KivSketcherSettings;
+    using namespace KivDrwKeys;
+    const struct {
+        int (S::*get)();
+        void (S::*set)(int on, int notify);
+        const KivDrwKey<int>& key;
+        const char* event;
+        const char* control = nullptr; // on this page
+    } switches[] = {
+        {&S::GetGridVisuMode, &S::SetGridVisuMode, Drw_settings_GridDisplay, "grid"},
+        {&S::GetGridSnapMode, &S::SetGridSnapMode, Drw_settings_GridSnapPt, "snap"},
+        {&S::GetAllowDistortions, &S::SetAllowDistortions, Drw_settings_AllowDistortions, "grid"},
+        {&S::GetPosSupports, &S::SetPosSupports, Drw_settings_CpltPosSupport, "completion", "PickCoincid"},
+        {&S::GetPosHorVertTo, &S::SetPosHorVertTo, Drw_settings_CpltPosHorVertTo, "completion", "PickAlign"},
+        {&S::GetDirHorVert, &S::SetDirHorVert, Drw_settings_CpltDirHorVert, "completion", "PickHoriVerti"},
+        {&S::GetDirParaPerpTan, &S::SetDirParaPerpTan, Drw_settings_CpltDirParPerpTan, "completion",
+         "PickParaPerpenTang"},
+        {&S::GetDirParallel, &S::SetDirParallel, Drw_settings_CpltDirParPerpTan, "completion"},
+        {&S::GetDirPerpend, &S::SetDirPerpend, Drw_settings_CpltDirParPerpTan, "completion"},
+        {&S::GetDirTangent, &S::SetDirTangent, Drw_settings_CpltDirParPerpTan, "completion"},
+        {&S::GetCreateConstraint, &S::SetCreateConstraint, CstCreation, "completion", "CstCreation"},
+        {&S::GetValidateConstraint, &S::SetValidateConstraint, CstCreation, "completion"},
+        {&S::GetShowPosition, &S::SetShowPosition, Drw_settings_ShowPosition, "completion", "ShowHV"},
+        {&S::GetCreateCenter, &S::SetCreateCenter, Drw_settings_CreateCenter, "geometry", "CreateCenter"},
+        {&S::GetDragWithEndPts, &S::SetDragWithEndPts, Drw_settings_DragWithEndPts, "geometry", "DragEndPts"},
+        {&S::GetDragMode, &S::SetDragMode, Drw_settings_DragModeR14, "geometry"},
+        {&S::GetDragElts, &S::SetDragElts, Drw_settings_DragElts, "geometry", "GeomManip"},
+        {&S::GetDiagElts, &S::SetDiagElts, Drw_settings_DiagElts, "geometry", "VisuDiagnostic"}};
+    for (const auto& [get, set, key, told, control] : switches) {
+        SCOPED_TRACE(key.name);
+        for (const int value : {9, 0}) {
+            KivDrwRepository()->ResetToAdminValues(nullptr, 0);
+            (sketcher.*set)(value, 0);
+            EXPECT_EQ(Heard(), "");
+            EXPECT_EQ(KivDrwRead(KivDrwRepository(), key), value != 0);
+            EXPECT_EQ((sketcher.*get)(), value != 0);
+        }
         (sketcher.*set)(1, 1);
-        EXPECT_EQ(own, event()) << name;
+        EXPECT_EQ(Event(), told);
+        if (!control) continue;
+        editor->SetUserSettingsValue(nullptr);
+        EXPECT_TRUE(KivUserHand::Tick(
+            Node<KivDlgCheckButton>(("check" + KivString(control) + "_dialog").ConvertToChar())));
+        EXPECT_EQ(Event(), told);
     }
 }
 
@@ -114,7 +149,7 @@ TEST(ColorsOfPages, AreStoredOnlyWithAllComponentsInRange)
     }
 }
 
-// Applications that have every group, or none, but no store of their own.
+// An application that has every group, but no store of its own.
 class GeneralWithoutStore : public Kiv2DBaseOptGalFrm {
 public:
     GeneralWithoutStore() : Kiv2DBaseOptGalFrm(nullptr, "DrwSet") {}
@@ -126,25 +161,6 @@ public:
     int WithFrame2DAxis() override { return 1; }
     int WithFrameHideWhenStartWkb() override { return 1; }
 };
-class GeometryWithoutStore : public Kiv2DBaseOptGeoFrm {
-public:
-    GeometryWithoutStore() : Kiv2DBaseOptGeoFrm(nullptr, "DrwSet") {}
-    int WithFrameGeomCreation() override { return 1; }
-    int WithFrameGeomDrag() override { return 1; }
-    int WithFrameSmartPick() override { return 1; }
-    int WithFrameConstraint() override { return 1; }
-    int WithFrameGeomColor() override { return 1; }
-};
-class DimensionWithoutStore : public Kiv2DBaseOptDimFrm {
-public:
-    DimensionWithoutStore() : Kiv2DBaseOptDimFrm(nullptr, "DrwSet") {}
-    int WithFrameDimCreation() override { return 1; }
-    int WithFrameDimLinePos() override { return 1; }
-    int WithFrameDimLineUp() override { return 1; }
-    int WithFrameDimAnalysis() override { return 1; }
-    int WithFrameDimMove() override { return 1; }
-};
-
 TEST(AnnotationPage, ClosesNothingButItsOwnWindows)
 {
     const KivSettingsSandbox box;
@@ -165,10 +181,8 @@ TEST(GenericDrawingPages, BuildTheGroupsThatTheirApplicationHas)
     Kiv2DBaseOptGeoFrm noGeometry(nullptr, "DrwSet");
     Kiv2DBaseOptDimFrm noDimension(nullptr, "DrwSet");
     GeneralWithoutStore general;
-    GeometryWithoutStore geometry;
-    DimensionWithoutStore dimension;
     const std::pair<KivPageFrame*, std::size_t> pages[] = {
-        {&noGeneral, 0}, {&noGeometry, 0}, {&noDimension, 0}, {&general, 7}, {&geometry, 5}, {&dimension, 5}};
+        {&noGeneral, 0}, {&noGeometry, 0}, {&noDimension, 0}, {&general, 7}};
     for (const auto& [page, groups] : pages) {
         page->Build();
         page->Initialize();
@@ -176,14 +190,9 @@ TEST(GenericDrawingPages, BuildTheGroupsThatTheirApplicationHas)
         EXPECT_EQ(page->Children().size(), groups);
     }
     // All zeros: what depends on a switch is grayed, and no padlock is closed.
-    for (const auto& [page, name, sensitivity] :
-         {std::tuple<KivPageFrame*, const char*, unsigned long>{&general, "checkGrid", KivDlgEnabled},
-          {&geometry, "checkCstVisu", KivDlgEnabled},
-          {&geometry, "spinnerCstRefSize", KivDlgDisabled},
-          {&dimension, "checkDimDesignMode", KivDlgEnabled},
-          {&dimension, "comboDimFake", KivDlgDisabled}})
-        EXPECT_EQ(static_cast<KivDrwLockDialog*>(page->FindDialog(name))->GetSensitivity(), sensitivity)
-            << name;
+    for (const auto& [name, sensitivity] :
+         {std::pair("checkGrid", KivDlgEnabled), {"editorGridSpacingV", KivDlgDisabled}})
+        EXPECT_EQ(static_cast<KivDrwLockDialog*>(general.FindDialog(name))->GetSensitivity(), sensitivity);
     double spacing = 7.0;
     int red = 7, green = 7, blue = 7;
     EXPECT_EQ(general.GetPrimSpaceH(spacing), E_FAIL);

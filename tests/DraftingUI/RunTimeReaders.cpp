@@ -6,6 +6,7 @@
 namespace {
 
 using namespace KivDrwKeys;
+using S = KivSketcherSettings;
 
 class RunTimeReaders : public SketcherTest {
 protected:
@@ -80,28 +81,35 @@ TEST_F(RunTimeReaders, AnswerDefaultsWithoutAStoreAndStoredValuesWithOne)
 
 TEST_F(RunTimeReaders, SettersStoreWhatIsFitAndNotifyOnlyWhenAsked)
 {
-    sketcher.SetGridPrimSpac(-5.0, 1);
-    EXPECT_EQ(Stored(Drw_settings_GridPrimarySpacing), 100.0);
-    sketcher.SetGridVPrimSpac(2.5, 1);
-    EXPECT_EQ(sketcher.GetGridVPrimSpac(), 2.5);
-    EXPECT_EQ(Heard(), "grid grid ");
-    sketcher.SetGridSecStep(0, 0);
-    sketcher.SetGridVSecStep(7, 0);
-    EXPECT_EQ(sketcher.GetGridSecStep(), 10);
-    EXPECT_EQ(sketcher.GetGridVSecStep(), 7);
-    sketcher.SetDragMode(2, 1);
-    EXPECT_EQ(sketcher.GetDragMode(), 2);
-    sketcher.SetDragMode(3, 1);
-    EXPECT_EQ(sketcher.GetDragMode(), 1);
-    EXPECT_EQ(Heard(), "geometry geometry ");
-    sketcher.SetDirTangent(0, 1);
-    EXPECT_EQ(Stored(Drw_settings_CpltDirParPerpTan), 0);
-    EXPECT_EQ(Heard(), "completion ");
-    sketcher.SetGridSnapMode(9, 1);
-    EXPECT_EQ(Stored(Drw_settings_GridSnapPt), 1);
-    EXPECT_EQ(Heard(), "snap ");
+    const struct {
+        double (S::*get)();
+        void (S::*set)(double spacing, int notify);
+        const KivDrwKey<double>& key;
+    } spacings[] = {{&S::GetGridPrimSpac, &S::SetGridPrimSpac, Drw_settings_GridPrimarySpacing},
+                    {&S::GetGridVPrimSpac, &S::SetGridVPrimSpac, Drw_settings_GridVPrimarySpacing}};
+    for (const auto& [get, set, key] : spacings)
+        for (const auto& [given, taken] : {std::pair(2.5, 2.5), {0.0, 100.0}, {7.0, 7.0}, {-5.0, 100.0}}) {
+            (sketcher.*set)(given, 1);
+            EXPECT_EQ(Stored(key), taken);
+            EXPECT_EQ((sketcher.*get)(), taken);
+            EXPECT_EQ(Heard(), "grid ");
+        }
+    for (const auto& [given, taken] : {std::pair(7, 7), {0, 10}}) {
+        sketcher.SetGridSecStep(given, 0);
+        EXPECT_EQ(Stored(Drw_settings_GridSecondaryStep), taken);
+        sketcher.SetGridVSecStep(given + 1, 1);
+        EXPECT_EQ(sketcher.GetGridSecStep(), taken);
+        EXPECT_EQ(sketcher.GetGridVSecStep(), given + 1);
+        EXPECT_EQ(Heard(), "grid ");
+    }
+    for (const auto& [given, taken] : {std::pair(2, 2), {3, 1}}) {
+        sketcher.SetDragMode(given, 0);
+        EXPECT_EQ(sketcher.GetDragMode(), taken);
+    }
     sketcher.SetAnimate(0, 1);
     sketcher.SetGridGroundMode(1, 1);
+    sketcher.SetViewNormalTo(0, 1);
+    sketcher.SetShowPositionOnCursor(0, 1);
     EXPECT_EQ(sketcher.GetAnimate() + sketcher.GetViewNormalTo() + sketcher.GetShowPositionOnCursor(), 3);
     EXPECT_EQ(sketcher.GetGridGroundMode(), 0);
     EXPECT_EQ(Heard(), "");
@@ -133,11 +141,27 @@ TEST_F(RunTimeReaders, ColorsArePackedByDiagnostic)
         sketcher.GetColorDiagElts(diagnostic, r, g, b);
         EXPECT_EQ(r << 16 | g << 8 | b, expected[diagnostic]) << diagnostic;
     }
-    sketcher.GetColorSmartPick(r, g, b);
-    EXPECT_EQ(r << 16 | g << 8 | b, 0x436655U);
-    sketcher.SetColorDiagElts(4, 1, 2, 3, 1);
-    EXPECT_EQ(Stored(Drw_settings_ColorDiagWellDefinedElts), 0x010203U);
-    EXPECT_EQ(Heard(), "geometry ");
+    const std::pair<int, const KivDrwKey<unsigned int>&> colors[] = {
+        {1, Drw_settings_ColorDiagOverDefinedElts}, {2, Drw_settings_ColorDiagNotConsistentElts},
+        {3, Drw_settings_ColorDiagNotChangedElts},  {4, Drw_settings_ColorDiagWellDefinedElts},
+        {0, Drw_settings_ColorConstructElts},       {-1, Drw_settings_ColorSmartPick}};
+    for (const auto& [diagnostic, key] : colors) {
+        if (diagnostic > 0) {
+            sketcher.SetColorDiagElts(diagnostic, 1, 2, 3, 1);
+            sketcher.GetColorDiagElts(diagnostic, r, g, b);
+        } else if (diagnostic == 0) {
+            sketcher.SetColorConstructElts(1, 2, 3, 1);
+            sketcher.GetColorConstructElts(r, g, b);
+        } else {
+            sketcher.SetColorSmartPick(1, 2, 3, 1);
+            sketcher.GetColorSmartPick(r, g, b);
+        }
+        EXPECT_EQ(Stored(key), 0x010203U) << key.name;
+        EXPECT_EQ(r << 16 | g << 8 | b, 0x010203U) << key.name;
+        EXPECT_EQ(Heard(), "geometry ");
+        KivDrwRepository()->ResetToAdminValues(nullptr, 0);
+    }
+    r = 0x43U;
     Kiv2DBaseSketcherSettingsAdapt::GetRGB(0xFFFFFF, &r, nullptr, &b);
     Kiv2DBaseSketcherSettingsAdapt::SetRGB(nullptr, 1, 2, 3);
     EXPECT_EQ(r, 0x43U);

@@ -70,38 +70,4 @@ TEST_F(GeneralPage, BackgroundsAreStoredAsFractionsAndReadBackCut)
     EXPECT_EQ(r & g & b, 255U);
 }
 
-TEST_F(GeneralPage, ARefusedSaveIsSaidAndLosesNothing)
-{
-    Open();
-    EXPECT_TRUE(KivUserHand::Tick(Check("checkRuler")));
-    std::filesystem::remove_all(box.root / "user");
-    box.Write(box.root / "user", "a file where the directory was");
-    const auto errors = session->Commit();
-    ASSERT_FALSE(errors.empty());
-    EXPECT_EQ(Stored("Ruler", 0), 1);
-    std::filesystem::remove(box.root / "user");
-    EXPECT_TRUE(session->Commit().empty());
-    EXPECT_NE(box.Bytes(file).find("int Ruler = 1"), std::string::npos);
-}
-
-TEST_F(GeneralPage, StoredNonsenseIsShownAndBorne)
-{
-    for (const char* value : {"-1e300", "1e300", "-0.0", "1e-300"}) {
-        std::string content;
-        for (const char* key : {"Drw_settings_GridPrimarySpacing", "Drw_settings_GridVPrimarySpacing",
-                                "ViewAxisSize", "RotSnapAngle"})
-            content += std::string("double ") + key + " = " + value + "\n";
-        for (const char* key : {"Drw_settings_GridSecondaryStep", "Drw_settings_GridVSecondaryStep"})
-            content += std::string("int ") + key + " = -2147483648\n";
-        box.Write(file, content + "float BackgroundColorRed = 1e38\n");
-        Open();
-        for (const char* row : {"editorGridSpacing", "editorGridSpacingV", "editorGridGraduation",
-                                "editorGridGraduationV", "spinnerRotSnapAngle", "spinnerViewAxisSize"}) {
-            KivDlgSpinner& spinner = Spinner(row);
-            EXPECT_FALSE(spinner.Print(spinner.GetValue()).IsEmpty());
-            KivUserHand::Turn(spinner, 1);
-        }
-    }
-}
-
 } // namespace

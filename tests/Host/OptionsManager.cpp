@@ -1,5 +1,7 @@
 #include "Base/KivEnvironment.h"
+#include "Component/KivExtensionAdapter.h"
 #include "OptionsPages.h"
+#include "Settings/KivIASettingController.h"
 
 namespace {
 
@@ -40,10 +42,7 @@ TEST_F(OptionsManager, FindsTheTenFactoriesThroughTheDictionary)
             EXPECT_TRUE(first->GetImpl()->IsAKindOf("KivEditor"));
             EXPECT_EQ(first->GetImpl()->GetMetaObject()->CreateItself(), nullptr)
                 << "only factories make editors";
-            const long alive = KivBaseUnknown::LiveObjects();
             EXPECT_EQ(factory->Create("KivINobody"), nullptr);
-            EXPECT_EQ(factory->Create(""), nullptr);
-            EXPECT_EQ(KivBaseUnknown::LiveObjects(), alive);
         }
         EXPECT_EQ(supporters, 1) << tab;
     }
@@ -84,10 +83,35 @@ TEST_F(OptionsManager, AdaptersAndEditorsAndPagesMayDieInAnyOrder)
         editor.settings->SetUserSettingsValue(nullptr);
         editor.settings->CancelModification(nullptr);
     }
+    // An adapter is made once, is both of its kinds, and bears that what it shows is gone.
+    KivBaseUnknown* const shown = editors[0].settings->GetImpl();
+    EXPECT_EQ(KivVar<KivIUserSettings>(shown).Get(), editors[0].settings.Get());
+    EXPECT_TRUE(editors[0].settings->IsAKindOf("KivEditor") && editors[0].settings->IsEqual(shown));
+    delete shown;
+    EXPECT_TRUE(editors[0].settings->IsNull());
+    EXPECT_EQ(editors[0].settings->QueryInterface("KivIUserSettings"), nullptr);
+    editors[0].settings->CommitModification(nullptr);
     // The factories and their manager go first: an editor stands alone.
     const KivVar<KivIUserSettings> last = editors[2].settings;
+    const auto factories = manager->Factories();
     editors.clear();
     last->CommitModification(nullptr);
+    KivBaseUnknown* const extension = factories[0]->GetImpl();
+    EXPECT_NE(static_cast<KivExtensionAdapter*>(extension)->GetImpl(), nullptr);
+    manager.reset();
+    EXPECT_EQ(static_cast<KivExtensionAdapter*>(extension)->GetImpl(), nullptr) << "it outlives its owner";
+}
+
+TEST_F(OptionsManager, ComponentsAreMadeByNameAndUnknownOnesLeaveNothing)
+{
+    constexpr const char* kController = "KivDrwDraftingSettingCtrl";
+    void* out = this;
+    EXPECT_EQ(KivInstantiateComponent("KivNobody", KivIASettingController::ClassId(), &out), E_FAIL);
+    EXPECT_EQ(out, nullptr);
+    EXPECT_EQ(KivInstantiateComponent(kController, KivMakeIID("KivINobody"), &out), E_NOINTERFACE);
+    EXPECT_EQ(out, nullptr);
+    ASSERT_EQ(KivInstantiateComponent(kController, KivIASettingController::ClassId(), &out), S_OK);
+    EXPECT_TRUE(KivVar<KivIASettingController>::Adopt(static_cast<KivIASettingController*>(out)));
 }
 
 // Static objects with destructors would run code of ours after the framework is gone.

@@ -35,7 +35,7 @@ protected:
         box.Write(file, content);
         Open();
     }
-    void Open()
+    virtual void Open()
     {
         session.reset();
         KivSettingRepository::ForgetAll();
@@ -48,7 +48,7 @@ protected:
         EXPECT_NE(page, nullptr) << name;
         return *page;
     }
-    KivDialog* Find(const std::string& name) { return session->Root().FindDialog(name.c_str()); }
+    virtual KivDialog* Find(const std::string& name) { return session->Root().FindDialog(name.c_str()); }
     template <class T> T& Node(const std::string& name)
     {
         KivDialog* node = Find(name);
@@ -65,6 +65,17 @@ protected:
     KivHandAnswer Press(const std::string& button)
     {
         return KivUserHand::Press(Node<KivDlgPushButton>(button));
+    }
+
+    // The windows of that name, in the order of opening.
+    std::vector<KivDlgDialog*> Windows(const std::string& name)
+    {
+        std::vector<KivDlgDialog*> windows;
+        for (const KivOptionsSession::Page& page : session->Pages())
+            for (KivDialog* child : page.frame->Children().front()->Children())
+                if (child->KivCommand::GetName() == name.c_str())
+                    windows.push_back(static_cast<KivDlgDialog*>(child));
+        return windows;
     }
 
     // The control of a row: what its wrapper holds, else the object of that name itself.

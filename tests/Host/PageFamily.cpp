@@ -45,21 +45,10 @@ protected:
     }
     std::string Shown()
     {
-        std::ostringstream shown;
-        for (const TableRow& row : table.rows) {
-            KivDialog& control = Control(row.control);
-            const auto is = [&](const char* kind) { return control.IsAKindOf(kind); };
-            unsigned int red = 0, green = 0, blue = 0;
-            if (is(KivDlgCheckButton::Name)) shown << static_cast<KivDlgCheckButton&>(control).GetState();
-            if (is(KivDlgRadioButton::Name)) shown << static_cast<KivDlgRadioButton&>(control).GetState();
-            if (is(KivDlgSpinner::Name)) shown << static_cast<KivDlgSpinner&>(control).GetValue();
-            if (is(KivDlgEditor::Name)) shown << static_cast<KivDlgEditor&>(control).GetText().View();
-            if (is(KivDlgCombo::Name)) shown << static_cast<KivDlgCombo&>(control).KivDlgCombo::GetSelect();
-            if (is(KivComboColor::Name))
-                static_cast<KivComboColor&>(control).GetSelectedColor(&red, &green, &blue);
-            shown << ' ' << red << ' ' << green << ' ' << blue << '\n';
-        }
-        return shown.str();
+        std::string shown;
+        for (const TableRow& row : table.rows)
+            shown += std::string(Control(row.control).GetShownValue().View()) + "\n";
+        return shown;
     }
     void DriveAll()
     {
@@ -142,7 +131,6 @@ TEST_P(PageFamily, EachControlChangesItsOwnKeysAndTogetherTheyChangeAll)
         }
     }
     EXPECT_EQ(driven, Keys());
-    EXPECT_EQ(driven.size(), table.keys);
 }
 
 TEST_P(PageFamily, EveryLockDisablesItsControlsAndNothingElse)

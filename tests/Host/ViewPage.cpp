@@ -7,22 +7,14 @@
 #include "Viewer/Kiv2DViewer.h"
 #include "Viewer/KivUserHandViewer.h"
 
+#include <cmath>
+
 namespace {
 
 class ViewPage : public OptionsPages {
 protected:
     KivDialog& Named(const std::string& name) { return Node<KivDialog>(name); }
     bool IsEnabled(const char* name) { return Control(name).IsEnabled(); }
-    // The windows of that name, in the order of opening.
-    std::vector<KivDlgDialog*> Windows(const std::string& name)
-    {
-        std::vector<KivDlgDialog*> windows;
-        for (KivDialog* child : Named("_checkGenAxis").GetParentDialog()->GetParentDialog()->Children()) {
-            if (child->KivCommand::GetName() == name.c_str())
-                windows.push_back(static_cast<KivDlgDialog*>(child));
-        }
-        return windows;
-    }
     void CloseAll(const std::string& name)
     {
         for (KivDlgDialog* window : Windows(name)) EXPECT_TRUE(KivUserHand::CloseWindow(*window));
@@ -271,6 +263,8 @@ TEST_F(ViewPage, AQualityFixesTheResolutionUnlessItIsTheUsersOwn)
 
 TEST_F(ViewPage, FieldAndCursorShowTheSameLevel)
 {
+    box.NameLayers({"site"});
+    box.Write(box.File("site"), "");
     OpenOn("int DrwGenerationModeVal = 3\n");
     EXPECT_TRUE(Press("pushRasterOptions"));
     auto& graph = Node<Kiv2DViewer>("viewerHRVLOD");
@@ -289,6 +283,11 @@ TEST_F(ViewPage, FieldAndCursorShowTheSameLevel)
         EXPECT_TRUE(KivUserHand::Drag(graph, x, -3.0));
         expect(level, 5.0 * level, 10.0 + 13.0 / 1125.0 * 25.0 * level * level);
     }
+    for (const double nowhere : {std::nan(""), -HUGE_VAL}) {
+        EXPECT_FALSE(KivUserHand::Drag(graph, nowhere, 3.0).why.IsEmpty());
+        EXPECT_FALSE(KivUserHand::Drag(graph, 30.0, nowhere));
+    }
+    EXPECT_FALSE(KivUserHand::Enter(graph, std::nan("")));
     EXPECT_TRUE(KivUserHand::Step(graph, -3));
     expect(4, 20.0, 14.62);
     EXPECT_TRUE(KivUserHand::Type(Spinner("spinHRVLOD"), "15"));
@@ -298,10 +297,11 @@ TEST_F(ViewPage, FieldAndCursorShowTheSameLevel)
     CloseAll("panelRasterView");
     EXPECT_EQ(Stored("KivDrwHRVLOD", 0), 15);
 
-    box.NameLayers({"site"});
-    box.Write(box.File("site"), "lock int KivDrwHRVLOD = 6\n");
-    Open();
     EXPECT_TRUE(Press("pushRasterOptions"));
+    box.Write(box.File("site"), "lock int KivDrwHRVLOD = 6\n");
+    Repository().Refresh();
+    session->Refill();
+    EXPECT_EQ(Spinner("spinHRVLOD").GetValue(), 6.0) << "a lock that arrives while the window is open";
     EXPECT_FALSE(KivUserHand::Drag(Node<Kiv2DViewer>("viewerHRVLOD"), 12.0, 10.0));
     EXPECT_FALSE(Node<Kiv2DViewer>("viewerHRVLOD").WhyDisabled().IsEmpty());
 }

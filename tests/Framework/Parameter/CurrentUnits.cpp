@@ -15,30 +15,10 @@ protected:
         _engine.SetCurrentUnit(kAngle, "deg");
     }
 
-    std::string Unit(const char* type) const
-    {
-        return std::string(_engine.Magnitude(type)->CurrentUnit()->Name().View());
-    }
-
     static constexpr const char* kLength = KivParmDictionary::LengthType;
     static constexpr const char* kAngle = KivParmDictionary::AngleType;
     KivParmEngine& _engine = KivParmEngine::Instance();
 };
-
-TEST_F(CurrentUnits, PeopleCallThemInTheirWay)
-{
-    for (const char* word : {"inch", "IN", "Inches", "\""}) {
-        EXPECT_TRUE(_engine.SetCurrentUnit(kLength, "m"));
-        EXPECT_TRUE(_engine.SetCurrentUnit(kLength, word)) << word;
-        EXPECT_EQ(Unit(kLength), "INCH");
-    }
-    for (const char* word : {"", "deg", "parsec", "mm ", "f i dec"})
-        EXPECT_FALSE(_engine.SetCurrentUnit(kLength, word)) << word;
-    EXPECT_FALSE(_engine.SetCurrentUnit("MASS", "mm"));
-    EXPECT_EQ(Unit(kLength), "INCH");
-    EXPECT_TRUE(_engine.SetCurrentUnit(kAngle, "gon"));
-    EXPECT_EQ(Unit(kAngle), "GRADE");
-}
 
 TEST_F(CurrentUnits, ListenersHearOfChangesAlone)
 {
@@ -58,7 +38,10 @@ TEST_F(CurrentUnits, ListenersHearOfChangesAlone)
     const int always = _engine.AddListener(hear("always"));
     EXPECT_EQ(_engine.AddListener({}), 0);
 
-    _engine.SetCurrentUnit(kLength, "mm");
+    EXPECT_TRUE(_engine.SetCurrentUnit(kLength, "mm"));
+    for (const char* word : {"", "deg", "parsec", "mm ", "f i dec"})
+        EXPECT_FALSE(_engine.SetCurrentUnit(kLength, word)) << word;
+    EXPECT_FALSE(_engine.SetCurrentUnit("MASS", "mm"));
     EXPECT_EQ(heard, "");
     _engine.SetCurrentUnit(kLength, "cm");
     EXPECT_EQ(heard, "once always:CM ");

@@ -149,10 +149,8 @@ TEST(TypedMeasures, WhatIsShownIsUnderstood)
 TEST(TypedMeasures, AnyTextIsBorne)
 {
     const std::string alphabet[] = {
-        "1",   "0",      "12",     ".",    ",",    "/",      "'",
-        "\"",  "-",      "+",      " ",    "e",    "mm",     "in",
-        "ft",  "\u00B0", "\u00BD", "\xE2", "\x80", "\u2032", "9999999999999999999",
-        "e308"};
+        "1", "0",  "12", ".",  ",",      "/",      "'",    "\"",   "-",      "+",    " ",
+        "e", "mm", "in", "ft", "\u00B0", "\u00BD", "\xE2", "\x80", "\u2032", "e308", "9999999999999999999"};
     std::mt19937 random(4711);
     int taken = 0;
     for (int i = 0; i < 100000; ++i) {

@@ -41,8 +41,9 @@ extern "C" int open(const char* path, int flags, ...)
     va_start(more, flags);
     const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
     va_end(more);
-    while (FaultyDisk::isShareStuck && std::string_view(path).find("/share/") != std::string_view::npos)
-        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    const bool isOnShare = std::string_view(path).find("/share/") != std::string_view::npos;
+    FaultyDisk::stuck += FaultyDisk::isShareStuck && isOnShare;
+    while (FaultyDisk::isShareStuck && isOnShare) std::this_thread::sleep_for(std::chrono::milliseconds(2));
     return next(path, flags, mode);
 }
 

@@ -12,5 +12,7 @@ inline std::atomic<Fault> fault{Fault::None};
 
 // Files in a directory "share" cannot be opened before this is false again: the caller waits.
 inline std::atomic<bool> isShareStuck{false};
+// How many have been waiting.
+inline std::atomic<int> stuck{0};
 
 } // namespace FaultyDisk

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <limits>
 
 namespace {
@@ -84,67 +83,18 @@ TEST_F(Locks, APrefixLocksWhatIsKnownAndWhatComesLater)
     EXPECT_NE(box.Bytes(box.File("user")).find("int Other = 9"), std::string::npos);
 }
 
-TEST_F(Locks, DamagedPatternsOpenNothing)
-{
-    box.NameLayers({"site"});
-    box.Write(box.File("site"), "lock Dim*\n");
-    box.Reopen();
-    EXPECT_EQ(Put("DimA", 1), E_FAIL);
-    for (const char* bytes : {"lock Di m*\n", "lock Dim*x\n", "lock Dim* = 4\n", "lock **\n", "Dim*\n",
-                              "lock 1*\n", "lock int Dim* = 4\n", "lock Dim*"}) {
-        box.Write(box.File("site"), bytes);
-        box.Reopen();
-        EXPECT_EQ(Put("DimA", 1), E_FAIL) << bytes;
-    }
-    box.Write(box.File("site"), "");
-    box.Reopen();
-    EXPECT_EQ(Put("DimA", 1), E_FAIL);
-}
-
-TEST_F(Locks, AnAdministratorLocksByPrefixAndTakesItBack)
-{
-    box.NameLayers({"company", "site"});
-    box.Write(box.File("company"), "lock Cmp*\n");
-    box.Write(box.File("site"), "# ours\r\nint DimA = 1\r\nlock Grid\r\n");
-    KivSettingRepository& site = Edit("site");
-    EXPECT_EQ(site.SetLock("Dim*", true), S_OK);
-    EXPECT_TRUE(Info("DimA").lockedHere);
-    EXPECT_TRUE(Info("DimLater").lockedHere);
-    EXPECT_FALSE(Info("DimA").canLock);
-    EXPECT_TRUE(Info("Grid").canLock);
-    EXPECT_EQ(Put("DimA", 2), S_OK) << "whoever edits the layer may change it";
-    EXPECT_EQ(site.SetLock("DimA", false), E_FAIL);
-    EXPECT_EQ(site.SetLock("Cmp*", true), E_FAIL);
-    EXPECT_EQ(site.SetLock("CmpX*", true), E_FAIL);
-    EXPECT_EQ(site.SetLock("Dim**", true), E_FAIL);
-    ASSERT_EQ(site.Rollback(), S_OK);
-    EXPECT_EQ(Locker("DimA"), "");
-    EXPECT_EQ(site.SetLock("Dim*", true), S_OK);
-    ASSERT_EQ(site.SaveRepository(nullptr), S_OK);
-    EXPECT_EQ(box.Bytes(box.File("site")), "# ours\r\nint DimA = 1\r\nlock Grid\r\nlock Dim*\r\n");
-    EXPECT_EQ(Locker("DimA"), "site:4");
-    EXPECT_EQ(site.SetLock("*", true), S_OK);
-    EXPECT_EQ(site.SetLock("Dim*", false), S_OK);
-    ASSERT_EQ(site.SaveRepository(nullptr), S_OK);
-    EXPECT_EQ(box.Bytes(box.File("site")), "# ours\r\nint DimA = 1\r\nlock Grid\r\nlock *\r\n");
-    EXPECT_EQ(site.SetLock("*", false), S_OK);
-    EXPECT_EQ(Locker("DimA"), "");
-}
-
-// A file of locks costs time in proportion to its size, whatever they are.
+// A file of locks costs time in proportion to its size: with the square of it this would not end in time.
 TEST_F(Locks, ManyPrefixesAreResolvedInLinearTime)
 {
     box.NameLayers({"site"});
     std::string bytes, keys;
-    for (int i = 0; i < 50000; ++i) {
+    for (int i = 0; i < 200000; ++i) {
         bytes += "lock P" + std::to_string(i) + "x*\n";
         keys += "int P" + std::to_string(i) + "xKey = 1\n";
     }
     box.Write(box.File("site"), bytes);
     box.Write(box.File("user"), keys);
-    const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(box.Read(box.Reopen(), "P49999xKey", 0), 0);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+    EXPECT_EQ(box.Read(box.Reopen(), "P199999xKey", 0), 0);
     EXPECT_EQ(Locker("P31415xKey"), "site:31416");
 }
 

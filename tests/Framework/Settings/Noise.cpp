@@ -65,6 +65,9 @@ TEST(Noise, CutAndFlippedLayersOpenNoLock)
         if (cut > 0 && whole[cut - 1] == '\n') continue;
         EXPECT_TRUE(check(whole.substr(0, cut))) << cut;
     }
+    for (const char* pattern : {"lock Di m*", "lock Dim*x", "lock Dim* = 4", "lock **", "Dim*", "lock 1*",
+                                "lock int Dim* = 4", "lock Dim*"})
+        EXPECT_TRUE(check(std::string("lock int Ruler = 1\n") + pattern + "\n")) << pattern;
     for (const std::size_t word : {whole.find("lock int"), whole.find("lock Dim")}) {
         for (std::size_t bit = 0; bit < 4 * 8; ++bit) {
             std::string bytes = whole;
@@ -86,17 +89,15 @@ TEST(Noise, AStuckShareCostsOneSecondAndNoLock)
     const auto start = std::chrono::steady_clock::now();
     KivSettingRepository& repository = box.Reopen();
     const auto took = std::chrono::steady_clock::now() - start;
-    EXPECT_GE(took, std::chrono::milliseconds(900));
-    EXPECT_LT(took, std::chrono::milliseconds(1300));
+    EXPECT_LT(took, std::chrono::milliseconds(1900)) << "one after the other";
     const int other = 7;
     for (const char* key : {"Ruler", "DimA", "Snap"})
         EXPECT_EQ(repository.WriteSetting(key, &other, 1, 0), E_FAIL);
     EXPECT_EQ(box.Read(repository, "Ruler", 0), 1);
     EXPECT_EQ(box.Said("does not answer in time; this machine's copy"), 2);
     // The next looks do not wait for it again, nor say it again.
-    const auto again = std::chrono::steady_clock::now();
     for (int i = 0; i < 5; ++i) EXPECT_TRUE(repository.Refresh().empty());
-    EXPECT_LT(std::chrono::steady_clock::now() - again, std::chrono::milliseconds(300));
+    EXPECT_EQ(FaultyDisk::stuck, 2);
     EXPECT_EQ(box.Said("does not answer in time"), 2);
     FaultyDisk::isShareStuck = false;
     std::this_thread::sleep_for(std::chrono::milliseconds(50));
@@ -122,7 +123,10 @@ TEST(Noise, ADirectoryThatOthersMayWriteToIsRefused)
         EXPECT_EQ(box.Bytes(box.File("user")), "int Ruler = 1\n");
     };
     const std::string directory = (box.root / "user").string();
+    KivSettingRepository& readBefore = box.Reopen();
+    readBefore.WriteSetting("Grid", &other, 1, 0);
     chmod(directory.c_str(), 0777);
+    EXPECT_EQ(readBefore.SaveRepository(nullptr), E_FAIL);
     isRefused("written to by every user");
     chmod(directory.c_str(), 01777);
     isRefused("written to by every user");

@@ -263,6 +263,8 @@ TEST_F(Saving, LinksAreFollowedForTheFileAndNeverForTheTemporary)
 {
     box.Write(box.root / "store/real", "int A = 1\n");
     chmod((box.root / "store/real").c_str(), 0640);
+    const uid_t owner = geteuid() == 0 ? 65534 : geteuid(); // only the superuser could take it away
+    ASSERT_EQ(chown((box.root / "store/real").c_str(), owner, static_cast<gid_t>(-1)), 0);
     std::filesystem::create_symlink("../store/real", file);
     box.Write(box.root / "victim", "victim");
     std::filesystem::create_symlink(box.root / "victim", box.root / "store/.real.tmp");
@@ -276,6 +278,7 @@ TEST_F(Saving, LinksAreFollowedForTheFileAndNeverForTheTemporary)
     struct stat status {};
     stat((box.root / "store/real").c_str(), &status);
     EXPECT_EQ(status.st_mode & 0777, 0640U);
+    EXPECT_EQ(status.st_uid, owner);
 }
 
 TEST_F(Saving, ARefusedSaveKeepsEverythingForTheNextOne)
