@@ -119,7 +119,9 @@ void NativeDialog::TakePlace()
     const int step = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
     const auto others = parentWidget()->findChildren<QDialog*>(objectName(), Qt::FindDirectChildrenOnly);
     const auto covers = [&](const QDialog* other) {
-        return other != this && other->isVisible() && other->pos() == place.topLeft();
+        // Near is enough: the desktop makes room for a frame at the edge of the screen.
+        return other != this && other->isVisible() &&
+               (other->geometry().topLeft() - place.topLeft()).manhattanLength() < step;
     };
     const QRect free = (there ? there : parentWidget()->screen())->availableGeometry();
     place.setSize(place.size().expandedTo(SizeFor(QSize(0, 0))).boundedTo(free.size()));

@@ -1,127 +1,137 @@
+#include "Dialog/KivComboSymbol.h"
+#include "Dialog/KivDlgLabel.h"
+#include "NativeBubble.h"
 #include "NativeColorCombo.h"
-#include "NativeFixture.h"
-#include "NativeSpinner.h"
-#include "TestHand.h"
+#include "OptionsFixture.h"
 
 #include <QClipboard>
 #include <QColorDialog>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QToolTip>
 
 namespace {
 
-class NativeControls : public NativeFixture {
+class NativeControls : public OptionsFixture {
 protected:
-    NativeSpinner* Spinner(const KivDialog* node) { return static_cast<NativeSpinner*>(WidgetOf(node)); }
-    QString Text(const KivDialog* node) { return WidgetOf(node)->findChild<QLineEdit*>()->text(); }
+    void TearDown() override
+    {
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+        OptionsFixture::TearDown();
+    }
+    static QString Text(QWidget* field) { return field->findChild<QLineEdit*>()->text(); }
+    // Of the native buttons of a choice those that look chosen, and the numbers of those that Tab enters.
+    std::string Chosen()
+    {
+        std::string chosen, entered;
+        for (std::size_t i = 0; i < 3; ++i) {
+            chosen += Button(i)->isChecked() ? 'x' : '-';
+            if (Button(i)->focusPolicy() & Qt::TabFocus) entered += std::to_string(i);
+        }
+        return chosen + entered;
+    }
+    QAbstractButton* Button(std::size_t i) { return WidgetOf<QAbstractButton>(kChoice[i]); }
+
+    static constexpr const char* kChoice[] = {"radioDragStandard", "radioDragMinimum", "radioDragRelaxation"};
 };
 
-TEST_F(NativeControls, ClicksAndKeysChangeTheTreeOnce)
+TEST_F(NativeControls, ClicksAndKeysChangeTheTreeOnceAndItsChangesAreShown)
 {
-    Listener ticked(tree.show, tree.show->GetChkBModifyNotification());
-    TestHand::ClickIndicator(WidgetOf(tree.show));
-    EXPECT_EQ(tree.show->GetState(), KivDlgChecked);
-    QTest::keyClick(WidgetOf(tree.show), Qt::Key_Space);
-    EXPECT_EQ(tree.show->GetState(), KivDlgUnchecked);
+    KivDlgCheckButton& grid = Check("checkGrid");
+    auto* const button = WidgetOf<QAbstractButton>("checkGrid");
+    Listener ticked(grid, grid.GetChkBModifyNotification());
+    TestHand::ClickIndicator(button);
+    EXPECT_EQ(Stored("Drw_settings_GridDisplay", 9), 0);
+    QTest::keyClick(button, Qt::Key_Space);
+    EXPECT_EQ(Stored("Drw_settings_GridDisplay", 9), 1);
     EXPECT_EQ(ticked.heard, 2);
+    grid.SetState(KivDlgUnchecked, 0);
+    EXPECT_FALSE(button->isChecked());
+    grid.SetTitle("Other");
+    EXPECT_EQ(button->text(), "Other");
+    grid.GetParentDialog()->SetVisibility(KivDlgHidden);
+    EXPECT_FALSE(button->isVisible() || WidgetOf(Lock("checkGrid"))->isVisible());
+    grid.GetParentDialog()->SetVisibility(KivDlgShown);
+    EXPECT_TRUE(button->isVisible());
+    Spinner("editorGridSpacing").SetUnit(KivDlgUnitInch);
+    Spinner("editorGridSpacing").SetValue(0.0254, 0);
+    EXPECT_EQ(Text(WidgetOf("editorGridSpacing")), "1 in");
 
-    Listener chosen(tree.direction, tree.direction->GetComboSelectNotification());
-    QTest::keyClick(WidgetOf(tree.direction), Qt::Key_Down);
-    EXPECT_EQ(tree.direction->GetSelect(), 1);
+    OpenAt("View");
+    Listener chosen(Combo("combViewMod"), Combo("combViewMod").GetComboSelectNotification());
+    QTest::keyClick(WidgetOf("combViewMod"), Qt::Key_Down);
+    EXPECT_EQ(Stored("DrwGenerationModeVal", 9), 1);
     EXPECT_EQ(chosen.heard, 1);
-
-    Listener typed(tree.file, tree.file->GetEditModifyNotification());
-    TestHand::TypeOver(WidgetOf(tree.file), "parts");
-    EXPECT_EQ(typed.heard, 0);
-    QTest::keyClick(WidgetOf(tree.file), Qt::Key_Return);
-    EXPECT_EQ(tree.file->GetText(), "parts");
-    EXPECT_EQ(typed.heard, 1);
-}
-
-TEST_F(NativeControls, FollowTheTree)
-{
-    tree.show->SetState(KivDlgChecked, 0);
-    EXPECT_TRUE(static_cast<QAbstractButton*>(WidgetOf(tree.show))->isChecked());
-    tree.horizontal->SetValue(0.0254, 0);
-    tree.horizontal->SetUnit(KivDlgUnitInch);
-    EXPECT_EQ(Text(tree.horizontal), "1 in");
-    tree.direction->SetLine("Radial");
-    tree.direction->SetSelect(3);
-    EXPECT_EQ(static_cast<QComboBox*>(WidgetOf(tree.direction))->currentText(), "Radial");
-    tree.show->SetTitle("Other");
-    EXPECT_EQ(static_cast<QAbstractButton*>(WidgetOf(tree.show))->text(), "Other");
-    tree.show->GetParentDialog()->SetVisibility(KivDlgHidden);
-    EXPECT_FALSE(WidgetOf(tree.show)->isVisible());
-    EXPECT_FALSE(WidgetOf(LockOf(tree.show))->isVisible());
-    tree.show->GetParentDialog()->SetVisibility(KivDlgShown);
-    EXPECT_TRUE(WidgetOf(tree.show)->isVisible());
+    auto* const push = WidgetOf("linetypePushButton");
+    const auto open = [this] { return window->findChildren<QDialog*>().size(); };
+    View().ensureWidgetVisible(push);
+    QTest::mouseClick(push, Qt::LeftButton);
+    QTest::keyClick(push, Qt::Key_Space);
+    QTest::keyClick(push, Qt::Key_Return);
+    EXPECT_EQ(open(), 3);
+    Control("linetypePushButton").SetSensitivity(KivDlgDisabled);
+    QTest::mouseClick(push, Qt::LeftButton);
+    QTest::keyClick(push, Qt::Key_Return);
+    EXPECT_EQ(open(), 3);
+    EXPECT_FALSE(push->toolTip().isEmpty());
 }
 
 TEST_F(NativeControls, NeitherLockedNorDependentOnesCanBeChanged)
 {
-    for (KivDialog* node : Nodes{tree.snap, tree.angle, tree.vertical, tree.lockedColor}) {
-        QWidget* widget = WidgetOf(node);
+    const Values before = All();
+    for (const char* row : {"checkSnap", "editorGridSpacingV", "comboBackgroundColorDD"}) {
+        QWidget* const widget = WidgetOf(row);
         EXPECT_FALSE(widget->isEnabled());
         TestHand::ClickIndicator(widget);
-        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Up, Qt::Key_Down, Qt::Key_5, Qt::Key_Return})
+        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Up, Qt::Key_Down, Qt::Key_5})
             QTest::keyClick(widget, key);
         TestHand::Wheel(widget);
-        const QString why = QString::fromUtf8(node->WhyDisabled().ConvertToChar());
+        const QString why = QString::fromUtf8(Control(row).WhyDisabled().ConvertToChar());
         ASSERT_FALSE(why.isEmpty());
         EXPECT_EQ(widget->accessibleDescription(), why);
+        // The reason is told where the pointer rests.
+        auto* const line = widget->findChild<QLineEdit*>();
+        QWidget* const under = line ? line : widget;
+        QToolTip::hideText();
+        QHelpEvent help(QEvent::ToolTip, under->rect().center(), under->mapToGlobal(under->rect().center()));
+        QCoreApplication::sendEvent(under, &help);
+        EXPECT_TRUE(QToolTip::text().contains(why.toHtmlEscaped())) << QToolTip::text().toStdString();
     }
-    EXPECT_EQ(tree.snap->GetState(), KivDlgUnchecked);
-    EXPECT_DOUBLE_EQ(tree.angle->GetValue(), 0.26179938779914941);
-    EXPECT_DOUBLE_EQ(tree.vertical->GetValue(), 0.1);
-    unsigned int red = 0, green = 0, blue = 0;
-    tree.lockedColor->GetSelectedColor(&red, &green, &blue);
-    EXPECT_EQ(blue, 56U);
+    EXPECT_EQ(All(), before);
 
     // Unlocking is the tree's alone, and reaches what was gray; a locked group grays what is free.
-    LockOf(tree.snap)->SetInfo(KivSettingInfo());
-    EXPECT_TRUE(WidgetOf(tree.snap)->isEnabled());
-    tree.grid->SetSensitivity(KivDlgDisabled);
-    EXPECT_FALSE(WidgetOf(tree.show)->isEnabled());
-    EXPECT_TRUE(WidgetOf(LockOf(tree.angle))->isEnabled()) << "the padlock has to explain";
-    EXPECT_FALSE(WidgetOf(tree.show)->toolTip().isEmpty());
-}
-
-TEST_F(NativeControls, TheReasonIsToldWhereThePointerRestsOnAGrayControl)
-{
-    area->ensureWidgetVisible(WidgetOf(tree.vertical));
-    QWidget* line = WidgetOf(tree.vertical)->findChild<QLineEdit*>();
-    const QPoint place = line->rect().center();
-    QHelpEvent help(QEvent::ToolTip, place, line->mapToGlobal(place));
-    QCoreApplication::sendEvent(line, &help);
-    EXPECT_TRUE(QToolTip::text().contains("Available when “Allow distortions” is on."));
-    QToolTip::hideText();
+    Lock("checkSnap").SetInfo(KivSettingInfo());
+    EXPECT_TRUE(WidgetOf("checkSnap")->isEnabled());
+    Node<KivDialog>("frameGrid").SetSensitivity(KivDlgDisabled);
+    Node<KivDialog>("frameColor").SetSensitivity(KivDlgDisabled);
+    EXPECT_FALSE(WidgetOf("checkGrid")->isEnabled());
+    EXPECT_FALSE(WidgetOf("checkGrid")->toolTip().isEmpty());
+    EXPECT_TRUE(WidgetOf(Lock("comboBackgroundColorDD"))->isEnabled()) << "the padlock has to explain";
 }
 
 TEST_F(NativeControls, SpinnerTakesWhatTheTreeUnderstands)
 {
-    Listener entered(tree.horizontal, tree.horizontal->GetSpinnerModifyNotification());
-    QWidget* field = WidgetOf(tree.horizontal);
+    KivDlgSpinner& spacing = Spinner("editorGridSpacing");
+    Listener entered(spacing, spacing.GetSpinnerModifyNotification());
+    QWidget* const field = WidgetOf("editorGridSpacing");
     for (const auto& [text, shown] : {std::pair{"20,5", "20.5 mm"}, {"2'", "609.6 mm"}}) {
         TestHand::TypeOver(field, text);
-        QTest::keyClick(field, Qt::Key_Return);
-        EXPECT_EQ(Text(tree.horizontal), shown);
+        WidgetOf("checkGrid")->setFocus();
+        EXPECT_EQ(Text(field), shown) << "leaving the field enters the text";
     }
-    EXPECT_DOUBLE_EQ(tree.horizontal->GetValue(), 0.6096);
     EXPECT_EQ(entered.heard, 2);
 
     // Walking through with Tab changes nothing, although fewer digits are shown than kept.
-    tree.horizontal->SetValue(0.02000049, 0);
+    spacing.SetValue(0.02000049, 0);
     field->setFocus();
     QTest::keyClick(field, Qt::Key_Tab);
-    EXPECT_EQ(tree.horizontal->GetValue(), 0.02000049);
+    EXPECT_EQ(spacing.GetValue(), 0.02000049);
     EXPECT_EQ(entered.heard, 2);
 
-    tree.horizontal->SetValue(0.01, 0);
+    spacing.SetValue(0.01, 0);
     QTest::keyClick(field, Qt::Key_Up);
     EXPECT_EQ(entered.heard, 3);
-    EXPECT_EQ(Text(tree.horizontal), "15 mm");
+    EXPECT_EQ(Text(field), "15 mm");
     QStyleOptionSpinBox option;
     option.initFrom(field);
     option.subControls = QStyle::SC_All;
@@ -129,35 +139,36 @@ TEST_F(NativeControls, SpinnerTakesWhatTheTreeUnderstands)
         field->style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxDown, field);
     QTest::mouseClick(field, Qt::LeftButton, {}, down.center());
     EXPECT_EQ(entered.heard, 4);
-    EXPECT_EQ(Text(tree.horizontal), "10 mm");
-    TestHand::TypeOver(field, "7");
-    WidgetOf(tree.show)->setFocus();
-    EXPECT_DOUBLE_EQ(tree.horizontal->GetValue(), 0.007) << "leaving the field enters the text";
-    tree.horizontal->SetVisibleTextWidth(2);
+    EXPECT_EQ(Text(field), "10 mm");
+    EXPECT_DOUBLE_EQ(Stored("Drw_settings_GridPrimarySpacing", 0.0), 10.0);
+    spacing.SetVisibleTextWidth(2);
+    spacing.SetValue(0.009, 0);
     const int width = field->sizeHint().width();
-    tree.horizontal->SetValue(0.01, 0);
+    spacing.SetValue(0.01, 0);
     EXPECT_EQ(field->sizeHint().width(), width) << "it grows with its value";
 }
 
 TEST_F(NativeControls, ARefusedTextStaysWithItsReasonUntilItIsLeft)
 {
-    NativeSpinner* field = Spinner(tree.horizontal);
+    auto* const field = WidgetOf<NativeSpinner>("editorGridSpacing");
     TestHand::TypeOver(field, "wide");
+    const QImage typed = field->grab().toImage();
     QTest::keyClick(field, Qt::Key_Return);
-    EXPECT_EQ(Text(tree.horizontal), "wide");
-    EXPECT_EQ(tree.horizontal->GetValue(), 0.1);
+    EXPECT_NE(field->grab().toImage(), typed) << "it looks different";
+    EXPECT_EQ(Text(field), "wide");
+    EXPECT_EQ(Spinner("editorGridSpacing").GetValue(), 0.1);
     EXPECT_TRUE(field->Refusal().contains("wide"));
     EXPECT_EQ(field->accessibleDescription(), field->Refusal());
     EXPECT_EQ(field->toolTip(), field->Refusal());
-    const auto* bubble = static_cast<NativeBubble*>(area->widget()->findChild<QWidget*>("NativeBubble"));
+    const auto* bubble = static_cast<NativeBubble*>(window->findChild<QWidget*>("NativeBubble"));
     ASSERT_TRUE(bubble && bubble->isVisible());
     EXPECT_EQ(bubble->Text(), field->Refusal());
 
     // The tree speaks up meanwhile, of something else: what is typed stays.
-    tree.horizontal->SetHelp("Other help");
-    EXPECT_EQ(Text(tree.horizontal), "wide");
+    Spinner("editorGridSpacing").SetHelp("Other help");
+    EXPECT_EQ(Text(field), "wide");
     QTest::keyClick(field, Qt::Key_Escape);
-    EXPECT_EQ(Text(tree.horizontal), "100 mm");
+    EXPECT_EQ(Text(field), "100 mm");
     EXPECT_FALSE(bubble->isVisible());
     EXPECT_TRUE(field->Refusal().isEmpty());
 
@@ -167,52 +178,58 @@ TEST_F(NativeControls, ARefusedTextStaysWithItsReasonUntilItIsLeft)
     QTest::keyClicks(field, "0");
     EXPECT_TRUE(field->Refusal().isEmpty()) << "who types on is not blamed";
     QTest::keyClick(field, Qt::Key_Tab);
-    EXPECT_EQ(Text(tree.horizontal), "100 mm");
-    EXPECT_EQ(tree.horizontal->GetValue(), 0.1);
+    EXPECT_EQ(Text(field), "100 mm");
+    EXPECT_EQ(Spinner("editorGridSpacing").GetValue(), 0.1);
 }
 
 TEST_F(NativeControls, TheWheelScrollsThePageOverFieldsThatNobodyChose)
 {
-    for (KivDialog* node : Nodes{tree.horizontal, tree.direction, tree.background}) {
-        WidgetOf(tree.show)->setFocus();
-        area->verticalScrollBar()->setValue(0);
-        TestHand::Wheel(WidgetOf(node));
-        EXPECT_GT(area->verticalScrollBar()->value(), 0);
-        EXPECT_FALSE(WidgetOf(node)->hasFocus());
+    window->resize(window->width(), 250);
+    const Values before = All();
+    for (const char* row : {"editorGridSpacing", "comboBackgroundColor"}) {
+        WidgetOf("checkGrid")->setFocus();
+        View().verticalScrollBar()->setValue(0);
+        TestHand::Wheel(WidgetOf(row));
+        EXPECT_GT(View().verticalScrollBar()->value(), 0);
+        EXPECT_FALSE(WidgetOf(row)->hasFocus());
     }
-    EXPECT_EQ(tree.horizontal->GetValue(), 0.1);
-    EXPECT_EQ(tree.direction->GetSelect(), 0);
-    WidgetOf(tree.direction)->setFocus();
-    TestHand::Wheel(WidgetOf(tree.direction));
-    EXPECT_EQ(tree.direction->GetSelect(), 1);
+    EXPECT_EQ(All(), before);
+    WidgetOf("editorGridSpacing")->setFocus();
+    TestHand::Wheel(WidgetOf("editorGridSpacing"));
+    EXPECT_EQ(Stored("Drw_settings_GridPrimarySpacing", 0.0), 95.0);
 }
 
 TEST_F(NativeControls, AnyColorCanBeMixedAndIsSpoken)
 {
-    auto* combo = static_cast<NativeColorCombo*>(WidgetOf(tree.background));
-    EXPECT_EQ(combo->accessibleName(), "Sheet background: White (255, 255, 255)");
-    EXPECT_EQ(combo->count(), tree.background->GetLineCount() + 1);
+    OpenAt("Geometry");
+    auto* const combo = WidgetOf<NativeColorCombo>("comboCstColor");
+    const KivComboColor& color = Color("comboCstColor");
+    const auto name = [&](const char* spoken) {
+        return QString::fromUtf8(color.GetSpokenTitle().ConvertToChar()) + ": " + spoken;
+    };
+    EXPECT_TRUE(combo->accessibleName().startsWith(name("")));
+    EXPECT_EQ(combo->count(), color.GetLineCount() + 1);
     QColorDialog* mixer = combo->OpenMixer();
     mixer->setCurrentColor(QColor(1, 2, 3));
     mixer->accept();
-    EXPECT_EQ(combo->accessibleName(), "Sheet background: Custom (1, 2, 3)");
+    EXPECT_EQ(combo->accessibleName(), name("Custom (1, 2, 3)"));
     EXPECT_EQ(combo->currentText(), "Custom (1, 2, 3)");
 
     // Arrows that come to the last entry do not open it.
     combo->setFocus();
     QTest::keyClick(combo, Qt::Key_End);
-    EXPECT_EQ(combo->currentIndex(), tree.background->GetSelect());
+    EXPECT_EQ(combo->currentIndex(), color.GetSelect());
     QTest::qWait(0);
     EXPECT_EQ(combo->findChildren<QColorDialog*>().size(), 0);
 }
 
 TEST_F(NativeControls, APadlockSaysWhoLockedAndLetsCopyIt)
 {
-    QWidget* closed = WidgetOf(LockOf(tree.snap));
+    QWidget* const closed = WidgetOf(Lock("checkSnap"));
     EXPECT_EQ(closed->accessibleName(), "Snap to point, locked by the administrator");
-    EXPECT_EQ(closed->accessibleDescription().toUtf8(), LockOf(tree.snap)->GetTip().ConvertToChar());
+    EXPECT_EQ(closed->accessibleDescription().toUtf8(), Lock("checkSnap").GetTip().ConvertToChar());
     EXPECT_TRUE(closed->toolTip().contains("Snap to point: Locked"));
-    EXPECT_EQ(WidgetOf(LockOf(tree.show))->focusPolicy(), Qt::NoFocus);
+    EXPECT_EQ(WidgetOf(Lock("checkGrid"))->focusPolicy(), Qt::NoFocus);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
         closed->setFocus();
         QTest::keyClick(closed, key);
@@ -221,12 +238,116 @@ TEST_F(NativeControls, APadlockSaysWhoLockedAndLetsCopyIt)
         QGuiApplication::clipboard()->clear();
         QTest::mouseClick(panel->findChild<QPushButton*>(), Qt::LeftButton);
         EXPECT_EQ(QGuiApplication::clipboard()->text().toUtf8(),
-                  LockOf(tree.snap)->GetReport().ConvertToChar());
+                  Lock("checkSnap").GetReport().ConvertToChar());
         EXPECT_FALSE(panel->isVisible());
         QTest::qWait(0);
     }
-    LockOf(tree.snap)->SetInfo(KivSettingInfo());
+    Lock("checkSnap").SetInfo(KivSettingInfo());
     EXPECT_EQ(closed->focusPolicy(), Qt::NoFocus);
+}
+
+TEST_F(NativeControls, OneOfAChoiceIsChosenByClickAndArrows)
+{
+    box.Write(file, "int Drw_settings_DragModeR14 = 7\n");
+    OpenAt("Geometry");
+    EXPECT_EQ(Chosen(), "---0") << "nothing has to be chosen";
+    TestHand::ClickIndicator(Button(1));
+    EXPECT_EQ(Chosen(), "-x-1");
+    EXPECT_EQ(Stored("Drw_settings_DragModeR14", 9), 1);
+    TestHand::ClickIndicator(Button(1));
+    EXPECT_EQ(Chosen(), "-x-1") << "a second click takes nothing back";
+    Radio(kChoice[1]).SetState(KivDlgUnchecked, 0);
+    Radio(kChoice[0]).SetSensitivity(KivDlgDisabled);
+    EXPECT_EQ(Chosen(), "---1");
+    Radio(kChoice[0]).SetSensitivity(KivDlgEnabled);
+    Radio(kChoice[0]).SetState(KivDlgChecked, 0);
+
+    Listener heard(Radio(kChoice[2]), Radio(kChoice[2]).GetRadBModifyNotification());
+    Radio(kChoice[1]).SetSensitivity(KivDlgDisabled);
+    Button(0)->setFocus();
+    for (const Qt::Key key :
+         {Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Left, Qt::Key_Right, Qt::Key_Up}) {
+        const bool wasFirst = Button(0)->isChecked();
+        QTest::keyClick(QApplication::focusWidget(), key);
+        EXPECT_EQ(Chosen(), wasFirst ? "--x2" : "x--0") << "they go round, past what is gray";
+        EXPECT_TRUE(static_cast<QAbstractButton*>(QApplication::focusWidget())->isChecked());
+    }
+    EXPECT_EQ(heard.heard, 3);
+    Radio(kChoice[1]).SetSensitivity(KivDlgEnabled);
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    QTest::keyClick(Button(0), Qt::Key_Left);
+    EXPECT_EQ(Chosen(), "-x-1");
+    QTest::keyClick(Button(1), Qt::Key_Right);
+    EXPECT_EQ(Chosen(), "x--0");
+    // The one button left has nowhere to go.
+    for (const std::size_t i : {1U, 2U}) Radio(kChoice[i]).SetSensitivity(KivDlgDisabled);
+    QTest::keyClick(Button(0), Qt::Key_Down);
+    EXPECT_EQ(Chosen(), "x--0");
+}
+
+TEST_F(NativeControls, EveryPointSymbolHasADrawingOfItsOwnAndAName)
+{
+    box.Write(file, "int DrwProject3DPts = 1\nint DrwProject3DSymbol = 1\n");
+    OpenAt("View");
+    QTest::keyClick(WidgetOf("project3DPtsPushButton"), Qt::Key_Space);
+    auto* const combo = WidgetOf<QComboBox>("comboSymbol");
+    EXPECT_GT(combo->count(), 8);
+    QList<QImage> seen;
+    for (int i = 0; i < combo->count(); ++i) {
+        const QImage drawing = combo->itemIcon(i).pixmap(QSize(32, 32)).toImage();
+        EXPECT_FALSE(seen.contains(drawing)) << i;
+        EXPECT_FALSE(combo->itemText(i).isEmpty());
+        seen << drawing;
+    }
+    Node<KivComboSymbol>("comboSymbol").SetVisibleTextWidth(5);
+    EXPECT_GT(combo->sizeHint().width(), combo->fontMetrics().horizontalAdvance("Concentric circles"));
+    QTest::keyClick(combo, Qt::Key_Down);
+    EXPECT_EQ(Node<KivDlgCombo>("comboSymbol").KivDlgCombo::GetSelect(), 1);
+}
+
+// Destroys the sender of a notification, as a page does that rebuilds itself.
+class Destroyer : public KivCommand {
+public:
+    explicit Destroyer(KivDialog* who) : KivCommand(nullptr, "destroyer"), victim(who) {}
+    void Hear(KivCommand*, KivNotification*, void*) { victim->RequestDelayedDestruction(); }
+    KivWeakPtr<KivDialog> victim;
+};
+
+TEST_F(NativeControls, NodesAndWidgetsMayGoInAnyOrder)
+{
+    delete WidgetOf("checkRuler");
+    EXPECT_FALSE(Check("checkRuler").GetView());
+    Check("checkRuler").SetState(KivDlgChecked, 1);
+
+    Destroyer destroyer(Check("checkAllowDistortions").GetParentDialog());
+    destroyer.AddAnalyseNotificationCB(&Check("checkAllowDistortions"),
+                                       Check("checkAllowDistortions").GetChkBModifyNotification(),
+                                       &Destroyer::Hear, nullptr);
+    const QPointer<QWidget> button = WidgetOf("checkAllowDistortions");
+    QTest::keyClick(button, Qt::Key_Space);
+    QTest::keyClick(button, Qt::Key_Space);
+    EXPECT_EQ(Stored("Drw_settings_AllowDistortions", 9), 1) << "a condemned control takes no more actions";
+    KivCommand::DrainDelayedDestruction();
+    Settle();
+    EXPECT_FALSE(button || destroyer.victim);
+
+    const QPointer<QWidget> spinner = WidgetOf("editorGridSpacing");
+    const QPointer<QWidget> group = WidgetOf(Node<KivDialog>("frameColor"));
+    QWidget* const label = WidgetOf(*Control("editorGridSpacing").GetLabel());
+    spinner->setFocus();
+    QTest::keyClicks(spinner, "7");
+    delete &Control("editorGridSpacing");
+    ASSERT_TRUE(spinner);
+    EXPECT_FALSE(spinner->isVisible());
+    QTest::keyClick(spinner, Qt::Key_Up);
+    EXPECT_TRUE(label->isEnabled());
+    delete &Node<KivDialog>("frameColor");
+    Settle();
+    EXPECT_FALSE(spinner || group);
+    OptionsPageView& view = View();
+    delete window->Session()->FindPage("General")->frame.Get();
+    Settle();
+    EXPECT_FALSE(view.widget());
 }
 
 } // namespace

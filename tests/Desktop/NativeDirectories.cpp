@@ -1,6 +1,6 @@
 #include "NativeDirectoryButton.h"
 #include "NativeEditor.h"
-#include "NativeFixture.h"
+#include "OptionsFixture.h"
 
 #include <QApplication>
 #include <QDir>
@@ -9,26 +9,27 @@
 
 namespace {
 
-class NativeDirectories : public NativeFixture {
+class NativeDirectories : public OptionsFixture {
 protected:
-    void SetUp() override
+    void Open() override
     {
-        tree.file->SetIsDirectory(true);
-        NativeFixture::SetUp();
-        field = static_cast<NativeEditor*>(WidgetOf(tree.file));
+        OpenAt("Layout");
+        node = &Node<KivDlgEditor>("editorTitleBlockPath_dialog");
+        field = WidgetOf<NativeEditor>(*node);
     }
     QString Path(const char* below) const { return place.path() + below; }
-    void Show(const QString& path) { tree.file->SetText(path.toUtf8().constData(), 0); }
-    NativeDirectoryButton* Button() const { return area->findChild<NativeDirectoryButton*>(); }
+    void Show(const QString& path) { node->SetText(path.toUtf8().constData(), 0); }
+    NativeDirectoryButton* Button() const { return window->findChild<NativeDirectoryButton*>(); }
 
     QTemporaryDir place;
+    KivDlgEditor* node = nullptr;
     NativeEditor* field = nullptr;
 };
 
 TEST_F(NativeDirectories, AMissingOneIsKeptAndMarkedAndFollowsTheDisk)
 {
-    QFile file(Path("/file"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    QFile plain(Path("/file"));
+    ASSERT_TRUE(plain.open(QIODevice::WriteOnly));
     const struct {
         QString path;
         bool missing;
@@ -41,30 +42,33 @@ TEST_F(NativeDirectories, AMissingOneIsKeptAndMarkedAndFollowsTheDisk)
         field->selectAll();
         field->insert(path);
         field->setModified(true);
-        QTest::keyClick(field, Qt::Key_Return);
-        EXPECT_EQ(QString::fromUtf8(tree.file->GetText().ConvertToChar()), field->text()) << "never refused";
+        QTest::keyClick(field, Qt::Key_Tab);
+        EXPECT_EQ(QString::fromUtf8(node->GetText().ConvertToChar()), field->text()) << "never refused";
         EXPECT_EQ(!field->Complaint().isEmpty(), missing) << path.toStdString();
     }
 
+    const int wide = field->sizeHint().width();
+    node->SetVisibleTextWidth(100);
+    EXPECT_GT(field->sizeHint().width(), wide) << "as wide as its page asks";
     Show(Path("/later"));
     EXPECT_EQ(field->accessibleDescription(), "There is no such directory: " + Path("/later"));
     EXPECT_TRUE(field->toolTip().contains(Path("/later")));
     QDir().mkdir(Path("/later"));
     QEvent activated(QEvent::WindowActivate);
-    QApplication::sendEvent(area.get(), &activated);
+    QApplication::sendEvent(window.get(), &activated);
     EXPECT_EQ(field->Complaint(), "");
-    EXPECT_EQ(field->accessibleDescription(), "Where symbols are looked for.");
+    EXPECT_NE(field->accessibleDescription(), "There is no such directory: " + Path("/later"));
     QDir().rmdir(Path("/later"));
-    QApplication::sendEvent(area.get(), &activated);
+    QApplication::sendEvent(window.get(), &activated);
     EXPECT_NE(field->Complaint(), "");
-    tree.file->SetSensitivity(KivDlgDisabled);
+    node->SetSensitivity(KivDlgDisabled);
     EXPECT_NE(field->accessibleDescription(), field->Complaint()) << "why it is gray comes first";
     EXPECT_FALSE(Button()->isEnabled());
     EXPECT_EQ(Button()->toolTip(), field->toolTip());
     EXPECT_EQ(Button()->accessibleDescription(), field->accessibleDescription());
-    tree.file->SetSensitivity(KivDlgEnabled);
+    node->SetSensitivity(KivDlgEnabled);
     EXPECT_EQ(Button()->toolTip(), "Choose a directory");
-    tree.file->SetVisibility(KivDlgHidden);
+    node->SetVisibility(KivDlgHidden);
     EXPECT_FALSE(Button()->isVisible());
 }
 
@@ -76,7 +80,7 @@ TEST_F(NativeDirectories, TheChooserBeginsWhereTheTextLeadsAndEntersWhatIsChosen
     field->setFocus();
     QTest::keyClick(field, Qt::Key_Tab);
     EXPECT_TRUE(Button()->hasFocus());
-    Listener typed(tree.file, tree.file->GetEditModifyNotification());
+    Listener typed(*node, node->GetEditModifyNotification());
     QTest::keyClick(Button(), Qt::Key_Space);
     const QPointer<QFileDialog> chooser = field->findChild<QFileDialog*>();
     ASSERT_TRUE(chooser);
@@ -91,13 +95,13 @@ TEST_F(NativeDirectories, TheChooserBeginsWhereTheTextLeadsAndEntersWhatIsChosen
     EXPECT_EQ(second->directory().absolutePath(), Path("/chosen")) << "what is typed and not entered yet";
     emit second->fileSelected(Path("/chosen"));
     EXPECT_EQ(field->text(), Path("/chosen"));
-    EXPECT_EQ(tree.file->GetText(), Path("/chosen").toUtf8().constData());
+    EXPECT_EQ(node->GetText(), Path("/chosen").toUtf8().constData());
     EXPECT_EQ(typed.heard, 1);
     EXPECT_EQ(field->Complaint(), "");
     second->close();
     // A tree that goes while its directory is being chosen takes the field along.
     QFileDialog* const third = field->OpenChooser();
-    page.reset();
+    delete window->Session()->FindPage("Layout")->frame.Get();
     emit third->fileSelected(Path("/chosen"));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -1,52 +1,68 @@
 #pragma once
 
+#include "Host/OptionsPages.h"
 #include "NativePiece.h"
 #include "NativeSpinner.h"
+#include "OptionsPageView.h"
 #include "OptionsWindow.h"
-#include "TestEditors.h"
 #include "TestHand.h"
 
 #include <QPushButton>
 #include <QTest>
-#include <gtest/gtest.h>
 
-#include <memory>
-
-// The options window over the test's own pages; libraries that are loaded may offer others beside them.
-class OptionsFixture : public testing::Test {
+// The options window over the drafting library's pages, in settings of its own with two locks of a site.
+class OptionsFixture : public OptionsPages {
 protected:
     void SetUp() override
     {
-        TestEditor::log.clear();
-        TestEditor::failing = false;
-        TestEditor::stored = 0.1;
+        box.NameLayers({"site"});
+        box.Write(box.File("site"), "lock int Drw_settings_GridSnapPt = 1\nlock BackgroundColorRedDitto\n");
         Open();
     }
     void TearDown() override
     {
         window.reset();
-        KivCommand::DrainDelayedDestruction();
-        EXPECT_EQ(KivBaseUnknown::LiveObjects(), before);
+        OptionsPages::TearDown();
     }
-    // On the page that is remembered, or else on the first of the test's.
-    void Open(const OptionsMemory& memory = OptionsMemory(QString()))
+    void Open() override { OpenAt("KivDrwOptGalEditor"); } // in any language
+    // On a page, or else on the one that is remembered.
+    void OpenAt(const char* page, const OptionsMemory& memory = OptionsMemory(QString()))
     {
-        window = std::make_unique<OptionsWindow>(OpenTestSession(), memory);
-        ASSERT_TRUE(!memory.Page().IsEmpty() || window->ShowPage("TestEditor"));
+        window.reset();
+        OptionsPages::Open();
+        window = std::make_unique<OptionsWindow>(std::move(session), memory);
+        ASSERT_TRUE(!page || window->ShowPage(page));
         window->show();
+        Activate(window.get());
     }
     static void Activate(QWidget* widget)
     {
         widget->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(widget));
     }
-    KivDialog* Frame(const char* page = "TestEditor")
+    // What was deleted later is gone.
+    static void Settle()
     {
-        return window->Session()->FindPage(page)->frame.Get();
+        QTest::qWait(1);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
-    KivDialog* Node(const char* name) { return Frame()->FindDialog(name); }
-    QWidget* WidgetOf(const char* name) { return NativePiece::Of(Node(name))->Widget(); }
-    NativeSpinner* Spinner() { return static_cast<NativeSpinner*>(WidgetOf("editorH_dialog")); }
+    KivDialog* Find(const std::string& name) override
+    {
+        return window->Session()->Root().FindDialog(name.c_str());
+    }
+    KivDlgLock& Lock(const std::string& row) { return Node<KivDlgLock>(row + "Lock"); }
+    OptionsPageView& View() { return window->PageView(window->CurrentPage()); }
+
+    template <class Widget = QWidget> static Widget* WidgetOf(const KivDialog& node)
+    {
+        return static_cast<Widget*>(NativePiece::Of(&node)->Widget());
+    }
+    // Of a row's control.
+    template <class Widget = QWidget> Widget* WidgetOf(const std::string& row)
+    {
+        return WidgetOf<Widget>(Control(row));
+    }
+    QPoint PlaceOf(const KivDialog& node) const { return WidgetOf(node)->mapTo(window.get(), QPoint()); }
     QPushButton* Button(const char* text)
     {
         for (QPushButton* button : window->findChildren<QPushButton*>())
@@ -54,6 +70,16 @@ protected:
         return nullptr;
     }
 
-    long before = KivBaseUnknown::LiveObjects();
     std::unique_ptr<OptionsWindow> window;
+};
+
+// Counts a control's notifications.
+class Listener : public KivCommand {
+public:
+    Listener(KivCommand& from, KivNotification* notification) : KivCommand(nullptr, "listener")
+    {
+        AddAnalyseNotificationCB(&from, notification, &Listener::Hear, nullptr);
+    }
+    void Hear(KivCommand*, KivNotification*, void*) { ++heard; }
+    int heard = 0;
 };

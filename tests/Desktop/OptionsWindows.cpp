@@ -1,90 +1,89 @@
 #include "OptionsFixture.h"
 #include "OptionsMessageStrip.h"
-#include "OptionsPageView.h"
 
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPointer>
 #include <QScreen>
 #include <QTemporaryDir>
 
 namespace {
 
-using Log = std::vector<std::string>;
-
 class OptionsWindows : public OptionsFixture {
 protected:
-    void SetUp() override
-    {
-        OptionsFixture::SetUp();
-        Activate(window.get());
-    }
-    int PageNumber(const char* name)
-    {
-        return static_cast<int>(window->Session()->FindPage(name) - window->Session()->Pages().data());
-    }
+    NativeSpinner* Spacing() { return WidgetOf<NativeSpinner>("editorGridSpacing"); }
 };
 
 TEST_F(OptionsWindows, PagesAreBuiltWhenFirstShownAndKeysWalkThem)
 {
-    const int first = PageNumber("TestEditor"), last = PageNumber("OtherTestEditor");
-    ASSERT_EQ(last, window->PageCount() - 1);
-    EXPECT_TRUE(window->PageView(first).IsBuilt());
-    EXPECT_FALSE(window->PageView(last).IsBuilt());
-    QTest::keyClick(Spinner(), Qt::Key_PageDown, Qt::ControlModifier);
-    EXPECT_EQ(window->CurrentPage(), last);
-    EXPECT_TRUE(window->PageView(last).IsBuilt());
-    EXPECT_TRUE(Button("Reset")->toolTip().contains("OtherTestEditor"));
+    const int last = window->PageCount() - 1;
+    EXPECT_TRUE(window->PageView(0).IsBuilt());
+    EXPECT_FALSE(window->PageView(1).IsBuilt());
+    QTest::keyClick(Spacing(), Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(window->CurrentPage(), 1);
+    EXPECT_TRUE(window->PageView(1).IsBuilt());
+    EXPECT_TRUE(Button("Reset")->toolTip().contains("Layout"));
+    ASSERT_TRUE(window->ShowPage(window->Session()->Pages().back().title));
     QTest::keyClick(window.get(), Qt::Key_PageDown, Qt::ControlModifier);
     EXPECT_EQ(window->CurrentPage(), last);
     QTest::keyClick(window.get(), Qt::Key_PageUp, Qt::ControlModifier);
-    EXPECT_EQ(window->CurrentPage(), first);
+    EXPECT_EQ(window->CurrentPage(), last - 1);
 }
 
 TEST_F(OptionsWindows, TabGoesFromTheListThroughThePageToTheButtons)
 {
-    for (const char* page : {"TestEditor", "OtherTestEditor", "TestEditor"}) {
+    // Closed padlocks take the place of their controls, also one that closes while the window is open; a
+    // choice is entered once, where it stands.
+    const std::pair<const char*, std::vector<const char*>> pages[] = {
+        {"General",
+         {"checkRuler", "checkGridLock", "checkSnapLock", "checkAllowDistortions", "editorGridSpacing",
+          "editorGridGraduation", "spinnerRotSnapAngle", "checkRotSnapAuto", "comboBackgroundColor",
+          "checkGraduatedColor", "comboBackgroundColorDDLock", "checkGraduatedColorDD",
+          "_checkTreeParameters", "_checkTreeFormulas", "checkViewReferential", "checkViewRefZoom",
+          "spinnerViewAxisSize", "chkHideStartWkb"}},
+        {"Layout",
+         {"checkViewName", "checkViewScale", "checkViewFrame", "comboCalloutSize", "checkViewOrientation",
+          "checkStrictPositioning", "checkGenPropagation", "checkBackgroundToCopy", "radioSheetOther",
+          "editorTitleBlockPath"}}};
+    box.Write(file, "int BackgroundViewToCopy = 1\nint SourceSheetType = 0\n");
+    Open();
+    KivSettingInfo locked;
+    locked.locked = true;
+    for (const auto& [page, names] : pages) {
         ASSERT_TRUE(window->ShowPage(page));
-        // A padlock that closes while the window is open takes its place.
-        KivDialog* frame = Frame(page);
-        static_cast<KivDlgLock*>(frame->FindDialog("checkGridLock"))->SetInfo(TestPage::LockedInfo("Grid"));
-        // A choice is entered once, where it stands: below the padlock of the one beside it.
-        static_cast<KivDlgRadioButton*>(frame->FindDialog("radioPoint1"))->SetState(KivDlgChecked, 0);
-        QList<QWidget*> order;
-        for (const char* name :
-             {"checkGridLock", "checkSnapLock", "checkAllowDistortions_dialog", "editorH_dialog",
-              "editorAngleLock", "comboBackground_dialog", "comboDetailLock", "comboType_dialog",
-              "comboDirection_dialog", "editorFile_dialog", "radioOtherLock", "radioPoint1",
-              "comboSymbol_dialog", "pushSettings_dialog"})
-            order << NativePiece::Of(frame->FindDialog(name))->Widget();
-        order << Button("Reset") << Button("OK") << Button("Cancel");
+        Lock("checkGrid").SetInfo(locked);
         window->findChild<QListWidget*>()->setFocus();
-        for (const QWidget* next : order) {
+        for (const char* name : names) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            ASSERT_EQ(QApplication::focusWidget(), next) << page << " " << next->objectName().toStdString();
+            ASSERT_EQ(QApplication::focusWidget(), WidgetOf(name)) << name;
+        }
+        if (names.back() == std::string("editorTitleBlockPath"))
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); // the button beside it
+        for (const char* button : {"Reset", "OK", "Cancel"}) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            ASSERT_EQ(QApplication::focusWidget(), Button(button)) << button;
         }
     }
 }
 
 TEST_F(OptionsWindows, EnterEntersTheFieldAndThenIsOK)
 {
-    TestHand::TypeOver(Spinner(), "wide");
-    QTest::keyClick(Spinner(), Qt::Key_Return);
+    TestHand::TypeOver(Spacing(), "wide");
+    QTest::keyClick(Spacing(), Qt::Key_Return);
     EXPECT_TRUE(window->isVisible());
     QTest::mouseClick(Button("OK"), Qt::LeftButton);
     EXPECT_TRUE(window->isVisible()) << "OK would have thrown the text away";
-    EXPECT_FALSE(Spinner()->Refusal().isEmpty());
-    QTest::keyClick(Spinner(), Qt::Key_Escape);
+    EXPECT_FALSE(Spacing()->Refusal().isEmpty());
+    QTest::keyClick(Spacing(), Qt::Key_Escape);
     EXPECT_TRUE(window->isVisible());
 
     int finished = -1;
     QObject::connect(window.get(), &QDialog::finished, [&](int result) { finished = result; });
-    TestHand::TypeOver(Spinner(), "20");
-    QTest::keyClick(Spinner(), Qt::Key_Return);
+    TestHand::TypeOver(Spacing(), "20");
+    QTest::keyClick(Spacing(), Qt::Key_Return);
     EXPECT_FALSE(window->isVisible());
     EXPECT_EQ(finished, QDialog::Accepted);
     EXPECT_FALSE(window->Session());
-    EXPECT_EQ(TestEditor::log, (Log{"commit", "commit", "close", "close"}));
+    EXPECT_NE(box.Bytes(file).find("double Drw_settings_GridPrimarySpacing = 20\n"), std::string::npos);
 }
 
 TEST_F(OptionsWindows, AnyOtherWayOfClosingCancels)
@@ -95,57 +94,64 @@ TEST_F(OptionsWindows, AnyOtherWayOfClosingCancels)
         [this] { QTest::mouseClick(Button("Cancel"), Qt::LeftButton); },
         [this] { window.reset(); },
     };
+    const int before = Stored("Drw_settings_GridDisplay", 1);
     for (const auto& close : ways) {
         Open();
-        TestEditor::log.clear();
+        TestHand::ClickIndicator(WidgetOf("checkGrid"));
+        EXPECT_NE(Stored("Drw_settings_GridDisplay", 1), before);
         close();
         EXPECT_FALSE(window && window->isVisible());
-        EXPECT_EQ(TestEditor::log, (Log{"cancel", "cancel", "close", "close"})) << &close - ways;
+        EXPECT_EQ(Stored("Drw_settings_GridDisplay", 1), before) << &close - ways;
+        EXPECT_FALSE(std::filesystem::exists(file));
+    }
+    for (const bool ok : {true, false}) {
+        Open();
+        const QPointer<OptionsWindow> own = window.release();
+        own->setAttribute(Qt::WA_DeleteOnClose);
+        ok ? own->accept() : own->reject();
+        Settle();
+        EXPECT_FALSE(own);
     }
 }
 
-TEST_F(OptionsWindows, WhatCouldNotBeSavedIsSaidAndTheWindowStays)
+TEST_F(OptionsWindows, WhatIsWrongIsSaidOnceAndPassedOnAndTheWindowStays)
 {
-    TestEditor::failing = true;
+    TestHand::ClickIndicator(WidgetOf("checkGrid"));
+    std::filesystem::remove_all(box.root / "user");
+    box.Write(box.root / "user", "a file where the directory was");
     QTest::mouseClick(Button("OK"), Qt::LeftButton);
     EXPECT_TRUE(window->isVisible());
     EXPECT_TRUE(window->Messages().isVisible());
-    EXPECT_TRUE(window->Messages().Messages().join(' ').contains("the disk is full"));
+    EXPECT_TRUE(window->Messages().Messages().join(' ').contains("not saved"));
     ASSERT_TRUE(window->Session());
-    TestEditor::failing = false;
-    QTest::mouseClick(Button("OK"), Qt::LeftButton);
-    EXPECT_FALSE(window->isVisible());
-}
-
-TEST_F(OptionsWindows, DiagnosticsAreShownAndPassedOn)
-{
-    window.reset();
-    std::vector<KivDiagnostic> heard;
-    const KivDiagnosticScope scope(heard);
-    Open();
-    heard.clear();
+    std::filesystem::remove(box.root / "user");
+    box.diagnostics.clear();
     for (int i = 0; i < 2; ++i) KivReport({.text = "odd", .file = "a.kivsettings", .line = 3});
     EXPECT_EQ(window->Messages().Messages().count("a.kivsettings:3: odd"), 1);
-    EXPECT_EQ(heard.size(), 2U);
+    EXPECT_EQ(box.diagnostics.size(), 2U);
+    QTest::mouseClick(Button("OK"), Qt::LeftButton);
+    EXPECT_FALSE(window->isVisible());
     window.reset();
     KivReport({.text = "later"});
-    EXPECT_EQ(heard.size(), 3U);
+    EXPECT_EQ(box.Said("later"), 1);
 }
 
-TEST_F(OptionsWindows, ResetFillsTheShownPage)
+TEST_F(OptionsWindows, ResetFillsTheShownPageAndF1ShowsTheLongHelp)
 {
+    box.Write(box.File("site"), "double Drw_settings_GridPrimarySpacing = 50\n");
+    box.Write(file, "double Drw_settings_GridPrimarySpacing = 70\n");
+    Open();
+    EXPECT_EQ(Spacing()->findChild<QLineEdit*>()->text(), "70 mm");
     QTest::mouseClick(Button("Reset"), Qt::LeftButton);
-    EXPECT_EQ(Spinner()->findChild<QLineEdit*>()->text(), "50 mm");
-}
+    EXPECT_EQ(Spacing()->findChild<QLineEdit*>()->text(), "50 mm");
 
-TEST_F(OptionsWindows, F1ShowsTheLongHelpOfTheField)
-{
-    QWidget* check = WidgetOf("checkGrid_dialog");
+    QWidget* check = WidgetOf("checkGrid");
     check->setFocus();
     QTest::keyClick(check, Qt::Key_F1);
     QWidget* panel = check->findChild<QWidget*>("NativePanel");
     ASSERT_TRUE(panel && panel->isVisible());
-    EXPECT_TRUE(panel->accessibleDescription().contains("never printed"));
+    EXPECT_TRUE(panel->accessibleDescription().contains(check->whatsThis()));
+    EXPECT_FALSE(check->whatsThis().isEmpty());
     QTest::keyClick(panel, Qt::Key_Escape);
     EXPECT_FALSE(panel->isVisible());
     EXPECT_TRUE(window->isVisible());
@@ -155,33 +161,22 @@ TEST_F(OptionsWindows, SizeAndPageAreRememberedAndNeverTooLarge)
 {
     const QTemporaryDir directory;
     const OptionsMemory memory(directory.filePath("desktop.ini"));
-    Open(memory);
+    OpenAt("General", memory);
     window->resize(window->screen()->availableGeometry().size() * 3 / 4);
     const QSize chosen = window->size();
-    window->ShowPage("OtherTestEditor");
+    window->ShowPage("Geometry");
+    const int page = window->CurrentPage();
     window->reject();
-    Open(memory);
+    OpenAt(nullptr, memory);
     EXPECT_EQ(window->size(), chosen);
-    EXPECT_EQ(window->CurrentPage(), PageNumber("OtherTestEditor"));
+    EXPECT_EQ(window->CurrentPage(), page);
     window->resize(100, 100000);
     window->reject();
-    Open(memory);
+    OpenAt(nullptr, memory);
     EXPECT_LE(window->height(), window->screen()->availableGeometry().height());
-    Open(OptionsMemory("/proc/nowhere/desktop.ini"));
+    OpenAt("General", OptionsMemory("/proc/nowhere/desktop.ini"));
     window->reject();
     EXPECT_FALSE(window->isVisible());
-}
-
-TEST_F(OptionsWindows, MayBeLeftToDeleteItself)
-{
-    for (const bool ok : {true, false}) {
-        const QPointer<OptionsWindow> own = new OptionsWindow(OpenTestSession(), OptionsMemory(QString()));
-        own->setAttribute(Qt::WA_DeleteOnClose);
-        own->open();
-        ok ? own->accept() : own->reject();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        EXPECT_FALSE(own);
-    }
 }
 
 } // namespace

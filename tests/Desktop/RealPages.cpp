@@ -1,77 +1,37 @@
 #include "Base/KivDirectory.h"
-#include "Base/KivEnvironment.h"
 #include "Base/KivTextCatalogue.h"
-#include "Component/KivLibrary.h"
-#include "Dialog/KivDlgCheckButton.h"
-#include "Dialog/KivDlgCombo.h"
-#include "Dialog/KivDlgDialog.h"
 #include "Dialog/KivDlgLabel.h"
-#include "Dialog/KivDlgPushButton.h"
-#include "Dialog/KivDlgRadioButton.h"
-#include "Dialog/KivUserHand.h"
+#include "DraftingScheme.h"
+#include "IconStore.h"
 #include "KivDrwSketcherSettings.h"
 #include "NativeEditor.h"
-#include "NativePiece.h"
+#include "OptionsFixture.h"
 #include "OptionsLayerStrip.h"
 #include "OptionsMessageStrip.h"
-#include "OptionsPageView.h"
-#include "OptionsWindow.h"
-#include "Support/KivSettingsSandbox.h"
-#include "TestHand.h"
+#include "SheetColors.h"
+#include "TestPicture.h"
 
-#include <QAbstractButton>
 #include <QAccessible>
-#include <QDir>
-#include <QFile>
+#include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QPixmap>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QTemporaryDir>
-#include <QTest>
 #include <future>
-#include <gtest/gtest.h>
 
 namespace {
 
-// The drafting library's own pages, loaded at run time, in the real window and on real files.
-class RealPages : public testing::Test {
+// How the library's pages look and sound in the native window.
+class RealPages : public OptionsFixture {
 protected:
-    void SetUp() override
+    void TearDown() override
     {
-        for (const char* library : {KIV_COMPONENT_LIBRARIES}) ASSERT_TRUE(KivLoadLibrary(library));
-        KivSettingsSandbox::Write(sandbox.File("site"), "lock int Drw_settings_GridSnapPt = 1\n");
-        sandbox.NameLayers({"site"});
-        KivSettingRepository::ForgetAll();
+        QApplication::setPalette(usual);
+        OptionsFixture::TearDown();
     }
-    void Open(const OptionsMemory& memory = OptionsMemory(QString()))
+    template <class Look> void LookAtEach(Look&& look)
     {
-        auto* const manager = new KivUserSettingsManager;
-        window = std::make_unique<OptionsWindow>(std::make_unique<KivOptionsSession>(*manager), memory);
-        manager->Release();
-        window->show();
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-        ASSERT_TRUE(window->ShowPage("KivDrwOptGalEditor"));
-        QTest::qWait(1);
-    }
-    KivDialog* Node(const char* name)
-    {
-        return window->Session()->FindPage("KivDrwOptGalEditor")->frame.Get()->FindDialog(name);
-    }
-    // On any page, and in any window of one.
-    template <class T> T& Find(const char* name)
-    {
-        return *static_cast<T*>(window->Session()->Root().FindDialog(name));
-    }
-    static void Store(const char* key, int value)
-    {
-        KivSettingRepository::GetRepository("DraftingOptions")->WriteSetting(key, &value, 1, 0);
-    }
-    QWidget* WidgetOf(const char* name) { return NativePiece::Of(Node(name))->Widget(); }
-    template <class Look> void LookAtEach(const char* picture, Look&& look)
-    {
-        const QString directory = qEnvironmentVariable("KIV_TEST_PICTURES");
         for (int page = 0; page < window->PageCount(); ++page) {
             const KivString editor = window->Session()->Pages()[static_cast<std::size_t>(page)].editor;
             SCOPED_TRACE(editor.ConvertToChar());
@@ -85,24 +45,21 @@ protected:
             }
             EXPECT_GE(shown.size(), 10);
             look(view, shown);
-            const QString file = QString("%1-%2.png").arg(picture).arg(page);
-            EXPECT_TRUE(directory.isEmpty() || window->grab().save(QDir(directory).filePath(file)));
         }
     }
+    static void Store(const char* key, int value) { Repository().WriteSetting(key, &value, 1, 0); }
 
-    KivSettingsSandbox sandbox;
-    std::unique_ptr<OptionsWindow> window;
+    const QPalette usual = QApplication::palette();
 };
 
 TEST_F(RealPages, AnAdministratorsPadlocksAreSwitches)
 {
-    KivSettingRepository::SetEditedLayer(KivUnicodeString((sandbox.root / "site").string()));
-    KivSettingRepository::ForgetAll();
+    KivSettingRepository::SetEditedLayer(KivUnicodeString((box.root / "site").string()));
     Open();
-    const QString layer = QString::fromStdString((sandbox.root / "site").string());
+    const QString layer = QString::fromStdString((box.root / "site").string());
     EXPECT_TRUE(window->windowTitle().contains(layer));
     EXPECT_TRUE(window->findChild<OptionsLayerStrip*>()->accessibleName().contains(layer));
-    auto* const lock = static_cast<QAbstractButton*>(WidgetOf("checkGridLock"));
+    auto* const lock = WidgetOf<QAbstractButton>(Lock("checkGrid"));
     const auto is = [lock](bool closed) {
         const QAccessibleInterface* const heard = QAccessible::queryAccessibleInterface(lock);
         EXPECT_EQ(heard->role(), QAccessible::CheckBox);
@@ -120,56 +77,88 @@ TEST_F(RealPages, AnAdministratorsPadlocksAreSwitches)
     is(false);
     QTest::mouseClick(lock, Qt::LeftButton);
     is(true);
-    EXPECT_TRUE(WidgetOf("checkGrid_dialog")->isEnabled());
+    EXPECT_TRUE(WidgetOf("checkGrid")->isEnabled());
     for (const char* value : {"Locked at Off", "Locked at On"}) {
-        QTest::keyClick(WidgetOf("checkGrid_dialog"), Qt::Key_Space);
+        QTest::keyClick(WidgetOf("checkGrid"), Qt::Key_Space);
         EXPECT_TRUE(lock->toolTip().contains(value)) << lock->toolTip().toStdString();
     }
     window->accept();
-    EXPECT_NE(sandbox.Bytes(sandbox.File("site")).find("lock int Drw_settings_GridDisplay = 1\n"),
-              std::string::npos)
-        << sandbox.Bytes(sandbox.File("site"));
+    EXPECT_NE(box.Bytes(box.File("site")).find("lock int Drw_settings_GridDisplay = 1\n"), std::string::npos)
+        << box.Bytes(box.File("site"));
 }
 
-TEST_F(RealPages, LineTheirFieldsUp)
+TEST_F(RealPages, LineTheirFieldsUpInEitherDirection)
 {
-    Open();
-    const auto left = [&](const char* name) { return WidgetOf(name)->mapTo(window.get(), QPoint()).x(); };
-    EXPECT_EQ(left("editorGridSpacing_dialog"), left("editorGridGraduation_dialog"));
-    EXPECT_EQ(left("editorGridSpacingV_dialog"), left("editorGridGraduationV_dialog"));
-    EXPECT_EQ(left("comboBackgroundColor_dialog"), left("comboBackgroundColorDD_dialog"));
+    const auto left = [&](const char* name) { return PlaceOf(Control(name)).x(); };
+    for (const auto& [one, other] : {std::pair("checkGridLock", "checkSnapLock"),
+                                     {"checkGridLock", "checkAllowDistortionsLock"},
+
+                                     {"editorGridSpacing", "editorGridGraduation"},
+                                     {"editorGridSpacingLock", "editorGridGraduationLock"},
+                                     {"editorGridSpacingV", "editorGridGraduationV"},
+                                     {"comboBackgroundColor", "comboBackgroundColorDD"}})
+        EXPECT_EQ(left(one), left(other)) << one;
+    EXPECT_EQ(left("checkGrid"), PlaceOf(*Spinner("editorGridSpacing").GetLabel()).x());
+    EXPECT_GT(left("editorGridSpacingV"), left("editorGridSpacing"));
+    EXPECT_EQ(PlaceOf(Control("editorGridSpacing")).y(), PlaceOf(Control("editorGridSpacingV")).y());
+    Spinner("editorGridSpacing").SetSensitivity(KivDlgDisabled);
+    EXPECT_FALSE(WidgetOf(*Spinner("editorGridSpacing").GetLabel())->isEnabled());
+    window->setLayoutDirection(Qt::RightToLeft);
+    QTest::qWait(1);
+    EXPECT_GT(left("checkGridLock"), left("checkGrid"));
+    EXPECT_GT(left("editorGridSpacing"), left("editorGridSpacingV"));
     EXPECT_EQ(window->findChild<OptionsLayerStrip*>(), nullptr) << "nobody but an administrator";
 
     // The empty rows of a page keep its groups apart.
     const auto gap = [&] {
-        const auto groups = window->PageView(window->CurrentPage()).findChildren<QGroupBox*>();
+        const auto groups = View().findChildren<QGroupBox*>();
         return groups[1]->y() - groups[0]->geometry().bottom();
     };
-    const int usual = gap();
-    ASSERT_TRUE(window->ShowPage("KivDrwOptGenEditor"));
+    const int narrow = gap();
+    OpenAt("Generation");
     QTest::qWait(1);
-    EXPECT_GT(gap(), usual);
+    EXPECT_GT(gap(), narrow);
+}
+
+TEST_F(RealPages, PadlocksFollowThePaletteAtOnceAndAMissingIconIsSaidOnce)
+{
+    const auto inked = [this](const char* row) {
+        const QColor ink = QApplication::palette().color(QPalette::WindowText);
+        return TestPicture::Count(TestPicture::Take(*WidgetOf(Lock(row)), 3), ink, 60);
+    };
+    EXPECT_GT(inked("checkSnap"), 500);
+    EXPECT_LT(inked("checkGrid"), 30) << "an open padlock is pale";
+    const QPalette dark(QColor(45, 46, 50));
+    ASSERT_EQ(dark.color(QPalette::WindowText), QColor(Qt::white));
+    QApplication::setPalette(dark);
+    QTest::qWait(10);
+    EXPECT_GT(inked("checkSnap"), 500);
+
+    IconStore store;
+    for (int i = 0; i < 3; ++i) EXPECT_TRUE(store.Icon("I_NobodyDrewThis").isNull());
+    EXPECT_TRUE(store.Picture("I_NobodyDrewThis", QSize(16, 16), Qt::black).isNull());
+    EXPECT_TRUE(store.Icon("").isNull());
+    EXPECT_EQ(box.Said("I_NobodyDrewThis"), 1);
 }
 
 TEST_F(RealPages, AreFilledWhenTurnedToButNotUnderTheUsersHand)
 {
-    Open();
-    ASSERT_TRUE(window->ShowPage("View"));
-    EXPECT_TRUE(KivUserHand::Press(Find<KivDlgPushButton>("pushGenFil")));
-    const auto& chosen = Find<KivDlgRadioButton>("radioProjEd");
-    EXPECT_TRUE(KivUserHand::Choose(Find<KivDlgRadioButton>("radioProjEd")));
+    OpenAt("View");
+    EXPECT_TRUE(Press("pushGenFil"));
+    const auto& chosen = Radio("radioProjEd");
+    EXPECT_TRUE(KivUserHand::Choose(Radio("radioProjEd")));
     const int vbx = 1;
-    EXPECT_TRUE(KivUserHand::Choose(Find<KivDlgCombo>("combViewMod_dialog"), vbx));
+    EXPECT_TRUE(KivUserHand::Choose(Combo("combViewMod"), vbx));
     EXPECT_TRUE(window->ShowPage("Generation"));
-    EXPECT_FALSE(Find<KivDialog>("checkGenDim_dialog").IsEnabled()) << "only exact views have dimensions";
+    EXPECT_FALSE(Node<KivDialog>("checkGenDim_dialog").IsEnabled()) << "only exact views have dimensions";
 
     Store("DrwExactPreview", 0);
     EXPECT_TRUE(window->ShowPage("View"));
     QTest::qWait(1);
-    const auto& preview = Find<KivDlgCheckButton>("chkExactPreview_dialog");
+    const auto& preview = Check("chkExactPreview");
     EXPECT_EQ(chosen.GetState(), KivDlgChecked) << "it is not stored yet";
     EXPECT_EQ(preview.GetState(), KivDlgChecked);
-    EXPECT_TRUE(KivUserHand::Close(Find<KivDlgDialog>("panelGenFilTitle")));
+    EXPECT_TRUE(KivUserHand::Close(Node<KivDlgDialog>("panelGenFilTitle")));
     QTest::qWait(1);
     EXPECT_EQ(preview.GetState(), KivDlgUnchecked);
 }
@@ -177,14 +166,13 @@ TEST_F(RealPages, AreFilledWhenTurnedToButNotUnderTheUsersHand)
 TEST_F(RealPages, WindowsOfOneNameHaveASizeOfTheirOwn)
 {
     const QTemporaryDir directory;
-    Open(OptionsMemory(directory.filePath("desktop.ini")));
-    ASSERT_TRUE(window->ShowPage("View"));
+    OpenAt("View", OptionsMemory(directory.filePath("desktop.ini")));
     // Resizes the window that belongs to a line of the mode, and answers how large it was.
     const auto show = [&](int line, const QSize& size) {
-        EXPECT_TRUE(KivUserHand::Choose(Find<KivDlgCombo>("combViewMod_dialog"), line));
-        EXPECT_TRUE(KivUserHand::Press(Find<KivDlgPushButton>("pushRasterOptions")));
-        auto& node = Find<KivDlgDialog>("panelRasterView");
-        auto* const native = static_cast<QDialog*>(NativePiece::Of(&node)->Widget());
+        EXPECT_TRUE(KivUserHand::Choose(Combo("combViewMod"), line));
+        EXPECT_TRUE(Press("pushRasterOptions"));
+        auto& node = Node<KivDlgDialog>("panelRasterView");
+        auto* const native = WidgetOf<QDialog>(node);
         const QSize shown = native->size();
         const auto* const area = native->findChild<QScrollArea*>();
         QTest::qWait(1); // bars come with an event
@@ -205,11 +193,10 @@ TEST_F(RealPages, WindowsOfOneNameHaveASizeOfTheirOwn)
 TEST_F(RealPages, WhoIsToldMayEndTheOptions)
 {
     for (const bool ok : {true, false}) {
-        KivSettingRepository::ForgetAll();
         Open();
         int told = 0;
         Store("Ruler", ok);
-        KivSettingRepository::GetRepository("DraftingOptions")->AddListener([&](const auto&) {
+        Repository().AddListener([&](const auto&) {
             ++told;
             window.reset();
         });
@@ -217,12 +204,10 @@ TEST_F(RealPages, WhoIsToldMayEndTheOptions)
         EXPECT_FALSE(window);
         EXPECT_EQ(told, 1);
     }
-    KivSettingRepository::ForgetAll();
 
     // Also of what was being typed, which OK enters first.
-    Open();
-    ASSERT_TRUE(window->ShowPage("Geometry"));
-    TestHand::TypeOver(NativePiece::Of(&Find<KivDialog>("spinnerCstRefSize_dialog"))->Widget(), "7");
+    OpenAt("Geometry");
+    TestHand::TypeOver(WidgetOf("spinnerCstRefSize"), "7");
     KivDrwSketcherSettings& sketcher = *KivDrwSketcherSettings::GetSketcherSettings();
     const KivCallbackId callback = sketcher.AddCallback(KivSketcherSettings::Visu3DUIModification(),
                                                         [this](auto...) { window->reject(); });
@@ -240,10 +225,9 @@ TEST_F(RealPages, MarkADirectoryAsSoonAsItsPlaceAnswers)
         answered.wait_for(std::chrono::seconds(20));
         return KivDirectoryLook();
     });
-    KivSettingsSandbox::Write(sandbox.File("user"), "string DrwFrameAndTitleBlockPath = \"/share\"\n");
-    Open();
-    ASSERT_TRUE(window->ShowPage("KivDrwOptLayoutEditor"));
-    auto* const field = window->findChild<NativeEditor*>("editorTitleBlockPath_dialog");
+    box.Write(file, "string DrwFrameAndTitleBlockPath = \"/share\"\n");
+    OpenAt("Layout");
+    auto* const field = WidgetOf<NativeEditor>("editorTitleBlockPath");
     EXPECT_TRUE(field->Complaint().contains("does not answer"));
     EXPECT_EQ(field->accessibleDescription(), field->Complaint());
     answers->set_value();
@@ -251,11 +235,36 @@ TEST_F(RealPages, MarkADirectoryAsSoonAsItsPlaceAnswers)
     KivSetDirectoryLooker(real);
 }
 
+// A box or button that is not ticked.
+TEST_F(RealPages, AnEmptyBoxCanBeToldFromTheWindow)
+{
+    for (const DraftingScheme scheme : {DraftingScheme::Light, DraftingScheme::Dark}) {
+        ApplyScheme(scheme);
+        const QColor surface = QApplication::palette().color(QPalette::Window);
+        QCheckBox check;
+        QRadioButton button;
+        for (QWidget* empty : {static_cast<QWidget*>(&check), static_cast<QWidget*>(&button)}) {
+            empty->resize(empty->sizeHint());
+            const QImage picture = TestPicture::Take(*empty);
+            int told = 0;
+            for (int i = 0; i < picture.width() * picture.height(); ++i) {
+                const QColor at = picture.pixelColor(i % picture.width(), i / picture.width());
+                told += at != QColor(Qt::white) && SheetColors::Contrast(at, surface) >= 3.0;
+            }
+            EXPECT_GT(told, 20) << empty->metaObject()->className();
+        }
+    }
+}
+
 TEST_F(RealPages, NameAndExplainEveryControl)
 {
-    Open();
+    // The letter of a label leads to its field.
+    const QString title =
+        QString::fromUtf8(Spinner("editorGridSpacing").GetLabel()->GetTitle().ConvertToChar());
+    QTest::keyClick(window.get(), title[title.indexOf('&') + 1].toLatin1(), Qt::AltModifier);
+    EXPECT_EQ(QApplication::focusWidget(), WidgetOf("editorGridSpacing"));
     EXPECT_GE(window->PageCount(), 10);
-    LookAtEach("page", [](OptionsPageView&, const QList<QWidget*>& shown) {
+    LookAtEach([](OptionsPageView&, const QList<QWidget*>& shown) {
         for (const QWidget* widget : shown) {
             const KivDialog* node = dynamic_cast<const NativePiece*>(widget)->Node();
             const std::string name = widget->objectName().toStdString();
@@ -285,11 +294,12 @@ TEST_F(RealPages, StillFitWhenTranslationsAreLonger)
         KivTextCatalogue::SetLanguage(language);
         KivTextCatalogue::SetResourceRoot("");
     };
+    window.reset();
     speak(KivTextCatalogue::kPseudoLanguage);
     Open();
     // This platform's screen is narrower than any real one; there the page scrolls.
     window->resize(1400, window->height());
-    LookAtEach("longer", [&](OptionsPageView& view, const QList<QWidget*>& shown) {
+    LookAtEach([&](OptionsPageView& view, const QList<QWidget*>& shown) {
         EXPECT_FALSE(view.horizontalScrollBar()->isVisible());
         QList<QWidget*> seen;
         for (QWidget* widget : shown) {

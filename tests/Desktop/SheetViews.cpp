@@ -1,29 +1,18 @@
-#include "KivDrwSketcherSettings.h"
 #include "Parameter/KivParmDictionary.h"
 #include "Parameter/KivParmEngine.h"
 #include "SheetAccessible.h"
+#include "SheetFixture.h"
 #include "SheetLayout.h"
-#include "SheetReaders.h"
 #include "SheetRotation.h"
 #include "SheetRuler.h"
-#include "SheetView.h"
 #include "TestHand.h"
-
-#include <gtest/gtest.h>
 
 namespace {
 
-class SheetViews : public testing::Test {
+using namespace KivDrwKeys;
+
+class SheetViews : public SheetFixture {
 protected:
-    void Show(QSize size = {700, 500})
-    {
-        settings = std::make_unique<SheetSettings>(readers, sketcher);
-        view = std::make_unique<SheetView>(*settings);
-        view->SelectView(false);
-        view->resize(size);
-        view->show();
-    }
-    QImage Grab() const { return view->grab().toImage(); }
     // The color of a place of the sheet (mm) in a grab.
     QColor At(double x, double y) const
     {
@@ -39,17 +28,12 @@ protected:
         TestHand::Drag(view.get(), arm.p2(), keys);
         QTest::mouseRelease(view.get(), Qt::LeftButton, {}, arm.p2().toPoint());
     }
-
-    SheetReaders readers;
-    KivDrwSketcherSettings sketcher;
-    std::unique_ptr<SheetSettings> settings;
-    std::unique_ptr<SheetView> view;
 };
 
 TEST_F(SheetViews, ThePictureShowsColorAndGrid)
 {
-    readers.parts = 1;
-    Show();
+    Write(Drw_settings_GridSecondaryStep, 1);
+    sketcher.GridModify();
     // A line of the grid, beside all that is drawn on the sheet; and a place between the lines.
     const auto isOnGrid = [&] {
         const QImage grab = Grab();
@@ -61,48 +45,28 @@ TEST_F(SheetViews, ThePictureShowsColorAndGrid)
     };
     EXPECT_EQ(At(250.0, 250.0), QColor(Qt::white));
     EXPECT_TRUE(isOnGrid());
-    readers.grid = false;
+    Write(Drw_settings_GridDisplay, 0);
     EXPECT_TRUE(isOnGrid()) << "not told yet";
     sketcher.GridModify();
     EXPECT_FALSE(isOnGrid());
-    readers.component = 0;
+    for (const auto& key : {BackgroundColorRed, BackgroundColorGreen, BackgroundColorBlue}) Write(key, 0.0F);
     sketcher.SnapModify();
     EXPECT_EQ(At(250.0, 250.0), QColor(Qt::black));
-    readers.graduated = true;
+    Write(GraduatedColor, 1);
     sketcher.GridModify();
     EXPECT_GT(At(250.0, 15.0).lightness(), At(250.0, 280.0).lightness());
     view->SetFormat(SheetFormat::Named("A4"), false);
     EXPECT_EQ(view->Camera().Sheet(), QSizeF(210.0, 297.0));
 }
 
-TEST_F(SheetViews, NothingThatIsStoredMakesPaintingSlow)
-{
-    for (const double value : {0.0, -1.0, SheetReaders::kNan, SheetReaders::kInfinite, SheetReaders::kHuge,
-                               SheetReaders::kTiny, 1.0e-6, 1.0e9})
-        for (const int parts : {INT_MIN, 0, INT_MAX})
-            for (const double zoom : {1.0e-9, 1.0, 1.0e9}) {
-                readers.spacing = readers.spacingV = readers.axis = readers.angle = value;
-                readers.parts = readers.partsV = parts;
-                Show({400, 300});
-                view->SelectView(true);
-                view->ZoomTo(zoom);
-                QTest::mouseMove(view.get(), QPoint(200, 150));
-                QElapsedTimer clock;
-                clock.start();
-                ASSERT_FALSE(Grab().isNull());
-                ASSERT_LT(clock.elapsed(), 500) << value << ", " << parts << ", " << zoom;
-            }
-}
-
 TEST_F(SheetViews, TheHandTurnsTheViewBySnapAngles)
 {
-    Show();
     view->SelectView(true);
     Turn(37.0);
     EXPECT_NEAR(view->Rotation(), 37.0, 1.5) << "free without Shift";
     Turn(10.0, Qt::ShiftModifier);
     EXPECT_DOUBLE_EQ(view->Rotation(), 45.0);
-    readers.always = true;
+    Write(RotSnapAuto, 1);
     sketcher.SnapModify();
     Turn(-63.0);
     EXPECT_DOUBLE_EQ(view->Rotation(), 345.0);
@@ -117,25 +81,25 @@ TEST_F(SheetViews, TheHandTurnsTheViewBySnapAngles)
     spoken.setCurrentValue(90.0);
     EXPECT_DOUBLE_EQ(view->Rotation(), 90.0);
 
-    for (const double angle : {0.0, -15.0, SheetReaders::kNan}) {
-        readers.angle = angle;
+    for (const double angle : {0.0, -15.0}) {
+        Write(RotSnapAngle, angle);
         sketcher.SnapModify();
-        EXPECT_DOUBLE_EQ(SheetRotation::Dragged(33.3, settings->Style(), true), 33.3);
-        EXPECT_DOUBLE_EQ(SheetRotation::Stepped(33.0, settings->Style(), 1), 34.0);
+        EXPECT_DOUBLE_EQ(SheetRotation::Dragged(33.3, settings.Style(), true), 33.3);
+        EXPECT_DOUBLE_EQ(SheetRotation::Stepped(33.0, settings.Style(), 1), 34.0);
     }
     EXPECT_DOUBLE_EQ(SheetRotation::Normal(-1.0e-20), 0.0);
-    EXPECT_DOUBLE_EQ(SheetRotation::Normal(SheetReaders::kNan), 0.0);
-    readers.angle = 100.0;
+    EXPECT_DOUBLE_EQ(SheetRotation::Normal(std::numeric_limits<double>::quiet_NaN()), 0.0);
+    Write(RotSnapAngle, 100.0);
     sketcher.SnapModify();
-    EXPECT_DOUBLE_EQ(SheetRotation::Dragged(-110.0, settings->Style(), true), 260.0);
-    EXPECT_DOUBLE_EQ(SheetRotation::Stepped(99.0, settings->Style(), 1), 100.0);
+    EXPECT_DOUBLE_EQ(SheetRotation::Dragged(-110.0, settings.Style(), true), 260.0);
+    EXPECT_DOUBLE_EQ(SheetRotation::Stepped(99.0, settings.Style(), 1), 100.0);
 }
 
 TEST_F(SheetViews, ThePlaceSnapsToTheGridAndIsSaidInTheUsersUnit)
 {
-    readers.spacing = 25.4;
-    readers.parts = 2;
-    Show();
+    Write(Drw_settings_GridPrimarySpacing, 25.4);
+    Write(Drw_settings_GridSecondaryStep, 2);
+    sketcher.GridModify();
     QString place;
     QObject::connect(view.get(), &SheetView::PlaceChanged, [&](const QString& words) { place = words; });
     const QPoint at = view->Camera().ToWindow({26.0, 52.0}).toPoint();
@@ -144,7 +108,7 @@ TEST_F(SheetViews, ThePlaceSnapsToTheGridAndIsSaidInTheUsersUnit)
     KivParmEngine::Instance().SetCurrentUnit(KivParmDictionary::LengthType, "INCH");
     EXPECT_EQ(place, "H 1 in   V 2 in");
     KivParmEngine::Instance().SetCurrentUnit(KivParmDictionary::LengthType, "MM");
-    readers.snaps = false;
+    Write(Drw_settings_GridSnapPt, 0);
     sketcher.SnapModify();
     EXPECT_NE(place, "H 25.4 mm   V 50.8 mm");
     QTest::mouseMove(view.get(), QPoint(1, 1) + QPoint(30, 30));
@@ -153,7 +117,6 @@ TEST_F(SheetViews, ThePlaceSnapsToTheGridAndIsSaidInTheUsersUnit)
 
 TEST_F(SheetViews, ZoomAndPanAreBounded)
 {
-    Show();
     const QPointF around = view->rect().center();
     const QPointF fixed = view->Camera().ToSheet(around);
     TestHand::Wheel(view.get());
