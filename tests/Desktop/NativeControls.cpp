@@ -47,8 +47,6 @@ TEST_F(NativeControls, ClicksAndKeysChangeTheTreeOnceAndItsChangesAreShown)
     EXPECT_EQ(ticked.heard, 2);
     grid.SetState(KivDlgUnchecked, 0);
     EXPECT_FALSE(button->isChecked());
-    grid.SetTitle("Other");
-    EXPECT_EQ(button->text(), "Other");
     grid.GetParentDialog()->SetVisibility(KivDlgHidden);
     EXPECT_FALSE(button->isVisible() || WidgetOf(Lock("checkGrid"))->isVisible());
     grid.GetParentDialog()->SetVisibility(KivDlgShown);

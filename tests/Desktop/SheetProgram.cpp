@@ -33,6 +33,14 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// What is behind the window of the program.
+struct Program {
+    KivDrwDraftingSettings drafting;
+    SheetSettings settings{drafting, *KivDrwSketcherSettings::GetSketcherSettings()};
+    DraftingDiagnostics diagnostics{false};
+    DraftingWindow window{settings, diagnostics, {}};
+};
+
 class SheetProgram : public testing::Test {
 protected:
     // Ends with this code, or -1 when the window would open.
@@ -86,10 +94,8 @@ TEST_F(SheetProgram, AWrongCommandLineIsExplained)
 TEST_F(SheetProgram, TheSheetFollowsOkAndGoesBackOnCancel)
 {
     ASSERT_EQ(Prepare({}), -1);
-    KivDrwDraftingSettings drafting;
-    SheetSettings settings(drafting, *KivDrwSketcherSettings::GetSketcherSettings());
-    const DraftingDiagnostics diagnostics(false);
-    DraftingWindow window(settings, diagnostics, {});
+    Program program;
+    DraftingWindow& window = program.window;
     window.show();
     auto* const tree = window.findChild<DraftingTree*>();
     QTreeWidgetItem* const parameters = tree->ViewItem()->child(0);
@@ -104,16 +110,16 @@ TEST_F(SheetProgram, TheSheetFollowsOkAndGoesBackOnCancel)
     EXPECT_EQ(window.Options().Current(), first) << "one at a time";
     ASSERT_TRUE(tick());
     first->accept();
-    EXPECT_FALSE(settings.Style().grid);
+    EXPECT_FALSE(program.settings.Style().grid);
     EXPECT_EQ(window.Options().Current(), nullptr);
 
     window.OpenOptions("General");
     ASSERT_TRUE(tick());
     KivDrwSketcherSettings::GetSketcherSettings()->GridModify(); // as if a page told the sheet meanwhile
-    EXPECT_TRUE(settings.Style().grid);
+    EXPECT_TRUE(program.settings.Style().grid);
     window.close();
     EXPECT_EQ(window.Options().Current(), nullptr);
-    EXPECT_FALSE(settings.Style().grid) << "closing the main window cancels";
+    EXPECT_FALSE(program.settings.Style().grid) << "closing the main window cancels";
     EXPECT_FALSE(parameters->isHidden());
 }
 
@@ -125,13 +131,10 @@ TEST_F(SheetProgram, WhatOthersSaveShowsWhileUncommittedChangesStayOnTop)
     ASSERT_EQ(Prepare({}), -1);
     KivSettingRepository& repository = *KivSettingRepository::GetRepository("DraftingOptions");
     ASSERT_EQ(repository.SaveRepository(nullptr), S_OK);
-    KivDrwDraftingSettings drafting;
-    KivDrwSketcherSettings& sketcher = *KivDrwSketcherSettings::GetSketcherSettings();
-    SheetSettings settings(drafting, sketcher);
-    const DraftingDiagnostics diagnostics(false);
-    DraftingWindow window(settings, diagnostics, {});
+    Program program;
+    DraftingWindow& window = program.window;
     const SettingsWatch watch(repository);
-    window.Follow(watch, sketcher);
+    window.Follow(watch, *KivDrwSketcherSettings::GetSketcherSettings());
     window.show();
     window.OpenOptions("General");
     OptionsWindow& options = *window.Options().Current();
@@ -145,11 +148,11 @@ TEST_F(SheetProgram, WhatOthersSaveShowsWhileUncommittedChangesStayOnTop)
         box.Write(box.root / "user" / "new", box.Bytes(box.File("user")) + lines);
         fs::rename(box.root / "user" / "new", box.File("user"));
     };
-    ASSERT_TRUE(isTicked("checkGrid_dialog") && settings.Style().grid);
+    ASSERT_TRUE(isTicked("checkGrid_dialog") && program.settings.Style().grid);
     ASSERT_TRUE(KivUserHand::Tick(*static_cast<KivDlgCheckButton*>(node("checkRotSnapAuto_dialog"))));
     const bool mine = isTicked("checkRotSnapAuto_dialog");
     save("int Drw_settings_GridDisplay = 0\nint RotSnapAuto = " + std::string(mine ? "0\n" : "1\n"));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !settings.Style().grid; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !program.settings.Style().grid; }));
     EXPECT_FALSE(isTicked("checkGrid_dialog"));
     EXPECT_EQ(isTicked("checkRotSnapAuto_dialog"), mine);
 
@@ -161,7 +164,7 @@ TEST_F(SheetProgram, WhatOthersSaveShowsWhileUncommittedChangesStayOnTop)
     QTest::keyClicks(field, "7");
     ASSERT_TRUE(field->IsTyping());
     save("int Drw_settings_GridDisplay = 1\ndouble Drw_settings_GridPrimarySpacing = 55\n");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return settings.Style().grid; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return program.settings.Style().grid; }));
     EXPECT_TRUE(field->IsTyping());
     EXPECT_FALSE(isTicked("checkGrid_dialog"));
     QTest::keyClick(field, Qt::Key_Tab);
@@ -172,7 +175,7 @@ TEST_F(SheetProgram, WhatOthersSaveShowsWhileUncommittedChangesStayOnTop)
 
     box.Write(box.File("site"), "lock int Drw_settings_GridDisplay = 0\n");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !node("checkGrid_dialog")->IsEnabled(); }));
-    EXPECT_FALSE(settings.Style().grid || isTicked("checkGrid_dialog"));
+    EXPECT_FALSE(program.settings.Style().grid || isTicked("checkGrid_dialog"));
     options.reject();
     KivSettingRepository::ForgetAll();
     int stored = -1;
@@ -183,10 +186,8 @@ TEST_F(SheetProgram, WhatOthersSaveShowsWhileUncommittedChangesStayOnTop)
 TEST_F(SheetProgram, TheWelcomeChangesTheSheetUnlessItIsHidden)
 {
     KivSettingRepository& repository = box.Reopen();
-    KivDrwDraftingSettings drafting;
-    SheetSettings settings(drafting, *KivDrwSketcherSettings::GetSketcherSettings());
-    const DraftingDiagnostics diagnostics(false);
-    DraftingWindow window(settings, diagnostics, {});
+    Program program;
+    DraftingWindow& window = program.window;
     window.Welcome();
     auto* const welcome = window.findChild<DraftingWelcome*>();
     ASSERT_TRUE(welcome);
@@ -228,21 +229,14 @@ TEST_F(SheetProgram, AnErrorStaysUntilItIsDismissedOrReplaced)
 // In the pseudo language whatever comes from no catalogue is without its mark.
 TEST_F(SheetProgram, EveryCommandHasItsTexts)
 {
-    const auto speak = [](const char* language) {
-        KivTextCatalogue::SetLanguage(language);
-        KivTextCatalogue::SetResourceRoot("");
-    };
-    speak(KivTextCatalogue::kPseudoLanguage);
-    KivDrwDraftingSettings drafting;
-    SheetSettings settings(drafting, *KivDrwSketcherSettings::GetSketcherSettings());
-    const DraftingDiagnostics diagnostics(false);
-    {
-        DraftingWindow window(settings, diagnostics, {});
-        for (const QAction* action : window.findChildren<QAction*>())
-            for (const QString& text : {action->text(), action->statusTip()})
-                EXPECT_TRUE(text.isEmpty() || text.startsWith('[')) << text.toStdString();
-    }
-    speak("English");
+    ASSERT_EQ(Prepare({"--language", KivTextCatalogue::kPseudoLanguage}), -1);
+    Program program;
+    DraftingWindow& window = program.window;
+    for (const QAction* action : window.findChildren<QAction*>())
+        for (const QString& text : {action->text(), action->statusTip()})
+            EXPECT_TRUE(text.isEmpty() || text.startsWith('[')) << text.toStdString();
+    KivTextCatalogue::SetLanguage("English");
+    KivTextCatalogue::SetResourceRoot("");
 }
 
 TEST_F(SheetProgram, ItDrawsPicturesAndEndsInOrder)

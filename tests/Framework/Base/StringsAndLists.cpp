@@ -4,15 +4,6 @@
 
 namespace {
 
-int NeverEqual(const KivUnicodeString* a, const KivUnicodeString* b)
-{
-    return *a > *b ? 1 : -1;
-}
-int AlwaysAfter(const KivUnicodeString*, const KivUnicodeString*)
-{
-    return 1;
-}
-
 TEST(Lists, DropDuplicatesAndBearComparisonsThatAreNoOrdering)
 {
     KivListOfUnicodeString list;
@@ -23,11 +14,11 @@ TEST(Lists, DropDuplicatesAndBearComparisonsThatAreNoOrdering)
     ASSERT_EQ(once.Size(), 250);
     EXPECT_TRUE(once[1] == "0" && once[2] == "169") << "the first of each, in place";
 
-    list.QuickSort(&NeverEqual);
+    list.QuickSort([](const auto* a, const auto* b) { return *a > *b ? 1 : -1; });
     ASSERT_EQ(list.Size(), 5000);
     for (int i = 2; i <= list.Size(); ++i) ASSERT_LE(list[i - 1].View(), list[i].View());
 
-    list.QuickSort(&AlwaysAfter);
+    list.QuickSort([](const auto*, const auto*) { return 1; });
     EXPECT_EQ(list.Size(), 5000);
 }
 

@@ -1,3 +1,4 @@
+#include "FaultyDisk.h"
 #include "Settings/KivSettingRepository.h"
 #include "Support/KivSettingsSandbox.h"
 
@@ -11,7 +12,6 @@
 #include <limits>
 #include <locale>
 #include <sys/file.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
@@ -293,14 +293,9 @@ TEST_F(Saving, ARefusedSaveKeepsEverythingForTheNextOne)
 
     // The disk is full; what another program stored before that is taken all the same.
     box.Write(file, "int A = 1\nint B = 1\n");
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit tiny{4, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &tiny);
+    FaultyDisk::fault = FaultyDisk::Fault::Write;
     EXPECT_EQ(Save(repository), Receipt::Refused);
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
+    FaultyDisk::fault = FaultyDisk::Fault::None;
     EXPECT_EQ(box.Said("the settings were not saved: the file cannot be written"), 1);
     EXPECT_EQ(box.Names("user").size(), 1U);
     EXPECT_EQ(box.Bytes(file), "int A = 1\nint B = 1\n");
