@@ -1,8 +1,8 @@
 #include "Component/KivLibrary.h"
 #include "HandWrittenDialog.h"
-#include "OffscreenPlatform.h"
 #include "Options/KivOptionsSession.h"
-#include "OptionsWindow.h"
+#include "Options/OptionsWindow.h"
+#include "Program/OffscreenPlatform.h"
 #include "Ratio.h"
 #include "Support/KivSettingsSandbox.h"
 

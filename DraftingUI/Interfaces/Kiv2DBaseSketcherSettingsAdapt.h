@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Settings/KivSketcherSettings.h"
+#include "Workbench/KivSketcherSettings.h"
 
 class KivSettingRepository;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Settings/KivDraftingSettings.h"
+#include "Workbench/KivDraftingSettings.h"
 
 class KivSettingRepository;
 

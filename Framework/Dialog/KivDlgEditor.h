@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Base/KivDirectoryWatch.h"
 #include "Dialog/KivDlgControl.h"
+#include "Disk/KivDirectoryWatch.h"
 
 // A field for a line of text.
 class KivDlgEditor : public KivClass<KivDlgEditor, KivDlgControl> {

@@ -1,6 +1,7 @@
 #include "Settings/KivSettingFile.h"
 
 #include "Base/KivDiagnostic.h"
+#include "Disk/KivFileContent.h"
 #include "Settings/KivSettingTable.h"
 
 #include <algorithm>
@@ -65,7 +66,7 @@ std::string_view WithoutEnd(std::string_view line)
 KivSettingFile::KivSettingFile(std::string text) : _text(std::make_unique<const std::string>(std::move(text)))
 {
     const std::string_view all = *_text;
-    _lines.reserve(std::min(all.size() / 32 + 2, MostLines / 64));
+    _lines.reserve(std::min(all.size() / 32 + 2, KivMostLines / 64));
     int number = 0;
     for (std::size_t begin = 0; begin < all.size();) {
         const void* found = std::memchr(all.data() + begin, '\n', all.size() - begin);

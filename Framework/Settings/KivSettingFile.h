@@ -12,9 +12,6 @@
 // change concerns is kept byte for byte.
 class KivSettingFile {
 public:
-    static constexpr std::size_t LargestSize = std::size_t{64} << 20;
-    static constexpr std::size_t MostLines = std::size_t{1} << 20; // each costs memory, however short it is
-
     KivSettingFile() : KivSettingFile(std::string()) {}
     explicit KivSettingFile(std::string text);
 

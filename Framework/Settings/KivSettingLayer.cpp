@@ -1,10 +1,10 @@
 #include "Settings/KivSettingLayer.h"
 
 #include "Base/KivDiagnostic.h"
-#include "Settings/KivHiddenName.h"
+#include "Disk/KivHiddenName.h"
+#include "Disk/KivTimedReading.h"
 #include "Settings/KivSettingLayerCopy.h"
 #include "Settings/KivSettingLayers.h"
-#include "Settings/KivTimedReading.h"
 
 #include <utility>
 

@@ -1,11 +1,11 @@
 #include "Settings/KivSettingLayerCopy.h"
 
 #include "Base/KivDiagnostic.h"
-#include "Settings/KivAtomicFile.h"
-#include "Settings/KivFileContent.h"
-#include "Settings/KivHiddenName.h"
-#include "Settings/KivQuotedText.h"
-#include "Settings/KivSettingFileLock.h"
+#include "Base/KivQuotedText.h"
+#include "Disk/KivAtomicFile.h"
+#include "Disk/KivFileContent.h"
+#include "Disk/KivFileLock.h"
+#include "Disk/KivHiddenName.h"
 #include "Settings/KivSettingLayers.h"
 
 #include <cstdint>
@@ -70,7 +70,7 @@ void KivSettingLayerCopy::Keep(std::string_view text) const
         return failed(KivErrorWords("no directory", error));
     }
     // Another program that is here at the same time keeps the same copy.
-    KivSettingFileLock lock(_path, std::chrono::milliseconds(50));
+    KivFileLock lock(_path, std::chrono::milliseconds(50));
     if (!lock.IsHeld()) return failed(lock.Reason());
     KivAtomicFile file(_path);
     if (!file.Write(Header(text).append(text), 0600) || !file.Rename()) failed(file.Reason());

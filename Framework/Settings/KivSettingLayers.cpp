@@ -3,7 +3,7 @@
 #include "Base/KivDiagnostic.h"
 #include "Base/KivEnvironment.h"
 #include "Base/KivToken.h"
-#include "Settings/KivFileContent.h"
+#include "Disk/KivFileContent.h"
 #include "Settings/KivSettingLayerCopy.h"
 
 #include <algorithm>

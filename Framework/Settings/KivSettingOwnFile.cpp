@@ -1,10 +1,10 @@
 #include "Settings/KivSettingOwnFile.h"
 
 #include "Base/KivDiagnostic.h"
-#include "Settings/KivAtomicFile.h"
-#include "Settings/KivHiddenName.h"
-#include "Settings/KivSettingDirectory.h"
-#include "Settings/KivSettingFileLock.h"
+#include "Disk/KivAtomicFile.h"
+#include "Disk/KivDirectoryTrouble.h"
+#include "Disk/KivFileLock.h"
+#include "Disk/KivHiddenName.h"
 
 #include <cerrno>
 #include <climits>
@@ -124,7 +124,7 @@ bool KivSettingOwnFile::SetAside(const KivUnicodeString& target) const
 
 bool KivSettingOwnFile::Write(const KivUnicodeString& target, std::string text, bool& isDurable)
 {
-    if (text.size() > KivSettingFile::LargestSize) {
+    if (text.size() > KivMostBytes) {
         return Refuse(KivUnicodeString("the file would have " + std::to_string(text.size()) +
                                        " bytes, too many to read it again"));
     }
@@ -152,7 +152,7 @@ KivSettingOwnFile::Outcome KivSettingOwnFile::Save(const std::function<Changes(b
         Refuse(trouble);
         return Outcome::Refused;
     }
-    const KivSettingFileLock lock(target, kLockPatience);
+    const KivFileLock lock(target, kLockPatience);
     if (!lock.IsHeld()) {
         Refuse(lock.Reason());
         return Outcome::Refused;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Settings/KivFileContent.h"
+#include "Disk/KivFileContent.h"
 #include "Settings/KivSettingFile.h"
 
 #include <functional>

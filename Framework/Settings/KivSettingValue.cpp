@@ -1,6 +1,6 @@
 #include "Settings/KivSettingValue.h"
 
-#include "Settings/KivQuotedText.h"
+#include "Base/KivQuotedText.h"
 
 #include <charconv>
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Settings/KivFileHandle.h"
+#include "Disk/KivFileHandle.h"
 
 #include "Base/KivUnicodeString.h"
 

@@ -1,6 +1,6 @@
 #include "Json.h"
 
-#include "Settings/KivQuotedText.h"
+#include "Base/KivQuotedText.h"
 
 namespace {
 

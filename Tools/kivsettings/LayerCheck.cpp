@@ -4,9 +4,9 @@
 #include "ValueText.h"
 
 #include "Base/KivDiagnosticScope.h"
+#include "Disk/KivTimedReading.h"
 #include "Settings/KivSettingFile.h"
 #include "Settings/KivSettingLayers.h"
-#include "Settings/KivTimedReading.h"
 
 #include <algorithm>
 #include <chrono>

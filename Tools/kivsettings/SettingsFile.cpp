@@ -2,7 +2,7 @@
 
 #include "Console.h"
 
-#include "Settings/KivFileContent.h"
+#include "Disk/KivFileContent.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -21,7 +21,7 @@ KivFileContent ReadStandardInput()
         if (count == 0) break;
         if (count < 0) content.reason = KivErrorWords("it cannot be read", errno);
         if (count > 0) content.text.append(buffer, static_cast<std::size_t>(count));
-        if (content.text.size() > KivSettingFile::LargestSize) content.reason = "it is too large";
+        if (content.text.size() > KivMostBytes) content.reason = "it is too large";
         if (!content.reason.IsEmpty()) {
             content.state = KivFileContent::State::Unreadable;
             return content;

@@ -1,7 +1,7 @@
 #include "ValueText.h"
 
+#include "Base/KivQuotedText.h"
 #include "KivDrwValueKind.h"
-#include "Settings/KivQuotedText.h"
 
 #include <algorithm>
 #include <charconv>

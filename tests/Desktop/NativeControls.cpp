@@ -1,7 +1,7 @@
 #include "Dialog/KivComboSymbol.h"
 #include "Dialog/KivDlgLabel.h"
-#include "NativeBubble.h"
-#include "NativeColorCombo.h"
+#include "Native/NativeBubble.h"
+#include "Native/NativeColorCombo.h"
 #include "OptionsFixture.h"
 
 #include <QClipboard>

@@ -1,5 +1,5 @@
-#include "NativeDirectoryButton.h"
-#include "NativeEditor.h"
+#include "Native/NativeDirectoryButton.h"
+#include "Native/NativeEditor.h"
 #include "OptionsFixture.h"
 
 #include <QApplication>

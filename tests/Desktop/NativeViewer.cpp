@@ -1,4 +1,4 @@
-#include "NativeViewer.h"
+#include "Native/NativeViewer.h"
 
 #include "OptionsFixture.h"
 #include "TestPicture.h"

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "Host/OptionsPages.h"
-#include "NativePiece.h"
-#include "NativeSpinner.h"
-#include "OptionsPageView.h"
-#include "OptionsWindow.h"
+#include "Native/NativePiece.h"
+#include "Native/NativeSpinner.h"
+#include "Options/OptionsPageView.h"
+#include "Options/OptionsWindow.h"
 #include "TestHand.h"
 
 #include <QPushButton>

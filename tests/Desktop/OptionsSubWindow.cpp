@@ -1,4 +1,4 @@
-#include "NativeDialog.h"
+#include "Native/NativeDialog.h"
 #include "OptionsFixture.h"
 
 #include <QTemporaryDir>

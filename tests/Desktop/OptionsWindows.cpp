@@ -1,5 +1,5 @@
+#include "Options/OptionsMessageStrip.h"
 #include "OptionsFixture.h"
-#include "OptionsMessageStrip.h"
 
 #include <QLineEdit>
 #include <QListWidget>

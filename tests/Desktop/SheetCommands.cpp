@@ -1,11 +1,11 @@
 #include "Command/KivCommandHeader.h"
 #include "Component/KivMetaClass.h"
-#include "DraftingCommands.h"
-#include "DraftingStart.h"
 #include "KivDrwDraftingSettings.h"
 #include "KivDrwSketcherSettings.h"
-#include "SheetSettings.h"
-#include "SheetView.h"
+#include "Program/DraftingCommands.h"
+#include "Program/DraftingStart.h"
+#include "Sheet/SheetSettings.h"
+#include "Sheet/SheetView.h"
 #include "Support/KivSettingsSandbox.h"
 
 #include <QAction>

@@ -4,7 +4,7 @@
 #include "KivDrwKeys.h"
 #include "KivDrwRepository.h"
 #include "KivDrwSketcherSettings.h"
-#include "SheetView.h"
+#include "Sheet/SheetView.h"
 #include "Support/KivSettingsSandbox.h"
 
 #include <QTest>

@@ -1,25 +1,25 @@
 #include "Base/KivTextCatalogue.h"
-#include "CommandLine.h"
+#include "Common/SettingsWatch.h"
 #include "Dialog/KivDlgCheckButton.h"
 #include "Dialog/KivUserHand.h"
-#include "DraftingDiagnostics.h"
-#include "DraftingLog.h"
-#include "DraftingMessage.h"
-#include "DraftingPictures.h"
-#include "DraftingStart.h"
-#include "DraftingTree.h"
-#include "DraftingWelcome.h"
-#include "DraftingWindow.h"
 #include "KivDrwDraftingSettings.h"
 #include "KivDrwSketcherSettings.h"
-#include "NativePiece.h"
-#include "NativeSpinner.h"
-#include "OptionsWindow.h"
+#include "Native/NativePiece.h"
+#include "Native/NativeSpinner.h"
+#include "Options/OptionsWindow.h"
 #include "Parameter/KivParmDictionary.h"
 #include "Parameter/KivParmEngine.h"
-#include "SettingsWatch.h"
-#include "SheetSettings.h"
-#include "SheetView.h"
+#include "Program/CommandLine.h"
+#include "Program/DraftingDiagnostics.h"
+#include "Program/DraftingLog.h"
+#include "Program/DraftingMessage.h"
+#include "Program/DraftingPictures.h"
+#include "Program/DraftingStart.h"
+#include "Program/DraftingTree.h"
+#include "Program/DraftingWelcome.h"
+#include "Program/DraftingWindow.h"
+#include "Sheet/SheetSettings.h"
+#include "Sheet/SheetView.h"
 #include "Support/KivSettingsSandbox.h"
 
 #include <QAction>
@@ -230,6 +230,7 @@ TEST_F(SheetProgram, AnErrorStaysUntilItIsDismissedOrReplaced)
 TEST_F(SheetProgram, EveryCommandHasItsTexts)
 {
     ASSERT_EQ(Prepare({"--language", KivTextCatalogue::kPseudoLanguage}), -1);
+    KivTextCatalogue::SetResourceRoot(""); // texts that an earlier case has read are read anew
     Program program;
     DraftingWindow& window = program.window;
     for (const QAction* action : window.findChildren<QAction*>())

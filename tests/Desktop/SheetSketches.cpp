@@ -1,7 +1,7 @@
-#include "SheetAccessible.h"
+#include "Sheet/SheetAccessible.h"
+#include "Sheet/SheetLayout.h"
+#include "Sheet/SheetPicture.h"
 #include "SheetFixture.h"
-#include "SheetLayout.h"
-#include "SheetPicture.h"
 #include "TestPicture.h"
 
 #include <QPainter>

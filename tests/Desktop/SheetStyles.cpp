@@ -1,6 +1,6 @@
-#include "SheetColors.h"
+#include "Common/SheetColors.h"
+#include "Sheet/SheetGrid.h"
 #include "SheetFixture.h"
-#include "SheetGrid.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 #include "Parameter/KivParmDictionary.h"
 #include "Parameter/KivParmEngine.h"
-#include "SheetAccessible.h"
+#include "Sheet/SheetAccessible.h"
+#include "Sheet/SheetLayout.h"
+#include "Sheet/SheetRotation.h"
+#include "Sheet/SheetRuler.h"
 #include "SheetFixture.h"
-#include "SheetLayout.h"
-#include "SheetRotation.h"
-#include "SheetRuler.h"
 #include "TestHand.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "Command/KivCommandHeader.h"
 #include "OptionsPages.h"
 #include "PageTables.h"
-#include "Settings/KivSketcherSettings.h"
+#include "Workbench/KivSketcherSettings.h"
 
 #include <dlfcn.h>
 

@@ -1,7 +1,7 @@
-#include "Base/KivDirectoryWatch.h"
 #include "Base/KivTextCatalogue.h"
 #include "Command/KivCommandHeader.h"
 #include "Dialog/KivDlgLabel.h"
+#include "Disk/KivDirectoryWatch.h"
 #include "OptionsPages.h"
 
 #include <atomic>

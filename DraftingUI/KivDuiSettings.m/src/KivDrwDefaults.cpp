@@ -1,8 +1,8 @@
 #include "KivDrwDefaults.h"
 
-#include "Base/KivDirectory.h"
 #include "Base/KivEnvironment.h"
 #include "Command/KivRecord.h"
+#include "Disk/KivDirectory.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "KivDrwDefaults.h"
 
-#include "Base/KivDirectory.h"
 #include "Base/KivEnvironment.h"
 #include "Base/KivToken.h"
+#include "Disk/KivDirectory.h"
 
 HRESULT GetGPSPath(KivListOfUnicodeString& directories)
 {

@@ -1,3 +1,4 @@
+#include "Disk/KivFileContent.h"
 #include "Settings/KivSettingFile.h"
 #include "Settings/KivSettingRepository.h"
 #include "Support/KivSettingsSandbox.h"
@@ -120,10 +121,10 @@ TEST_F(Damage, AFileThatCannotBeReadIsProtected)
     std::filesystem::remove(file);
 
     box.Write(file, "");
-    std::filesystem::resize_file(file, KivSettingFile::LargestSize + 1);
+    std::filesystem::resize_file(file, KivMostBytes + 1);
     isProtected("size");
     EXPECT_GT(box.Said("67108865 bytes"), 0);
-    box.Write(file, std::string(KivSettingFile::MostLines + 1, '\n'));
+    box.Write(file, std::string(KivMostLines + 1, '\n'));
     isProtected("lines");
     EXPECT_EQ(box.Names("user").size(), 1U);
 

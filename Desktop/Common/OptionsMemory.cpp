@@ -1,0 +1,47 @@
+#include "Common/OptionsMemory.h"
+
+#include <QSettings>
+#include <QStandardPaths>
+
+namespace {
+
+constexpr const char* kSize = "Options/Size";
+constexpr const char* kPage = "Options/Page";
+constexpr const char* kWindow = "Options/Window/";
+
+} // namespace
+
+QString OptionsMemory::UserFile()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/kiv/desktop.ini";
+}
+
+QSize OptionsMemory::Size() const
+{
+    return _file.isEmpty() ? QSize() : QSettings(_file, QSettings::IniFormat).value(kSize).toSize();
+}
+
+KivString OptionsMemory::Page() const
+{
+    if (_file.isEmpty()) return {};
+    const QString page = QSettings(_file, QSettings::IniFormat).value(kPage).toString();
+    return KivString(page.toStdString());
+}
+
+void OptionsMemory::Remember(const QSize& size, const KivString& page) const
+{
+    if (_file.isEmpty()) return;
+    QSettings file(_file, QSettings::IniFormat);
+    file.setValue(kSize, size);
+    file.setValue(kPage, QString::fromUtf8(page.ConvertToChar()));
+}
+
+QRect OptionsMemory::Window(const QString& name) const
+{
+    return _file.isEmpty() ? QRect() : QSettings(_file, QSettings::IniFormat).value(kWindow + name).toRect();
+}
+
+void OptionsMemory::RememberWindow(const QString& name, const QRect& place) const
+{
+    if (!_file.isEmpty()) QSettings(_file, QSettings::IniFormat).setValue(kWindow + name, place);
+}

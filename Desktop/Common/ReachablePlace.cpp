@@ -1,0 +1,22 @@
+#include "Common/ReachablePlace.h"
+
+#include "Common/NativeText.h"
+#include "Disk/KivTimedReading.h"
+
+#include <algorithm>
+#include <unistd.h>
+
+QString ReachablePlace(const KivUnicodeString& path)
+{
+    const auto look = [](const KivUnicodeString& wanted) {
+        KivFileContent found;
+        std::string_view at = wanted.View();
+        while (at.size() > 1 && access(std::string(at).c_str(), F_OK) != 0)
+            at = at.substr(0, std::max<std::size_t>(at.rfind('/'), 1));
+        found.text = at;
+        found.state = KivFileContent::State::Read;
+        return found;
+    };
+    const KivFileContent found = std::move(KivReadInTime({path}, std::chrono::milliseconds(200), look)[0]);
+    return found.state == KivFileContent::State::Read ? ToQt(KivUnicodeString(found.text)) : QString();
+}

@@ -1,9 +1,0 @@
-#include "DraftingText.h"
-
-#include "Base/KivTextCatalogue.h"
-#include "NativeText.h"
-
-QString DraftingText(const char* key)
-{
-    return ToQt(KivTextCatalogue::Open("KivDrafting").Text(key));
-}

@@ -1,0 +1,50 @@
+#include "Native/NativeDescription.h"
+
+#include "Common/NativeText.h"
+#include "Dialog/KivDlgLabel.h"
+
+#include <QWidget>
+
+namespace {
+
+// Whom a text is asked of: a label explains nothing that its control does not explain better.
+const KivDialog& Speaker(const KivDialog& node)
+{
+    if (!node.IsAKindOf(KivDlgLabel::Name)) return node;
+    const KivDialog* control = static_cast<const KivDlgLabel&>(node).GetLabeledControl();
+    return control ? *control : node;
+}
+
+// Tooltips would take a text with angle brackets for markup, and would not wrap a plain one.
+QString Wrapped(const KivUnicodeString& text)
+{
+    if (text.IsEmpty()) return {};
+    return "<qt>" + ToQt(text).toHtmlEscaped().replace(u'\n', "<br>") + "</qt>";
+}
+
+} // namespace
+
+QString NativeDescription::Name() const
+{
+    return ToQt(_node.GetSpokenName());
+}
+
+QString NativeDescription::Tip() const
+{
+    return ToQt(Speaker(_node).GetTip());
+}
+
+QString NativeDescription::LongHelp() const
+{
+    const KivDialog& speaker = Speaker(_node);
+    const KivUnicodeString help = speaker.GetLongHelp();
+    return ToQt(help.IsEmpty() ? speaker.GetHelp() : help);
+}
+
+void NativeDescription::ShowOn(QWidget& widget) const
+{
+    widget.setToolTip(Wrapped(Speaker(_node).GetTip()));
+    widget.setWhatsThis(LongHelp());
+    widget.setAccessibleName(Name());
+    widget.setAccessibleDescription(Tip());
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Dialog/KivDlgEditor.h"
+#include "Native/NativeField.h"
+#include "Native/NativePiece.h"
+
+#include <QLineEdit>
+
+class QFileDialog;
+
+// A field for a line of text, entered with Enter or by leaving it. Where the text is the path of a directory
+// and leads to none it is marked, not refused: it may be meant for later or for another machine.
+class NativeEditor : public QLineEdit, public NativePieceFor<KivDlgEditor>, public NativeField {
+public:
+    NativeEditor(KivDialog& node, QWidget* parent);
+
+    bool CommitText() override;
+    bool IsTyping() const override { return isModified(); }
+    QSize sizeHint() const override;
+
+    // Non-modal for the tree: the directory is entered when the dialog is accepted.
+    QFileDialog* OpenChooser();
+    // What is wrong with the path that is shown, else empty.
+    const QString& Complaint() const { return _complaint; }
+
+protected:
+    void ShowNode() override;
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void ShowText();
+    void Enter(const QString& text);
+    void ShowDirectory();
+    void Complain(const QString& complaint);
+    void Describe();
+
+    QString _shown; // as in NativeSpinner
+    QString _complaint;
+    QAction* _mark; // beside a path that leads nowhere, as far as is known
+};

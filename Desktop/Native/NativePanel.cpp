@@ -1,0 +1,82 @@
+#include "Native/NativePanel.h"
+
+#include "Common/NativeText.h"
+
+#include <QAccessible>
+#include <QAccessibleEvent>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kWidthInLetters = 48;
+
+} // namespace
+
+NativePanel* NativePanel::Open(QWidget& beside, const QString& name, const QString& text, Copy copy)
+{
+    auto* panel = new NativePanel(beside, name, text, copy);
+    panel->PutBeside(beside);
+    panel->show();
+    QAccessibleEvent alert(panel, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+    return panel;
+}
+
+void NativePanel::OpenLongHelp(const QWidget& window)
+{
+    QWidget* field = window.focusWidget();
+    while (field && field != &window && field->whatsThis().isEmpty()) field = field->parentWidget();
+    if (field && field != &window) Open(*field, WindowText("Help"), field->whatsThis(), Copy::NotOffered);
+}
+
+NativePanel::NativePanel(QWidget& beside, const QString& name, const QString& text, Copy copy)
+    : QFrame(&beside, Qt::Popup)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_WindowPropagation);
+    setObjectName("NativePanel");
+    setEnabled(true); // also beside a control that is not
+    setFrameShape(QFrame::Box);
+    setAccessibleName(name);
+    setAccessibleDescription(text);
+
+    auto* label = new QLabel(text, this);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    const QFontMetrics metrics(label->font());
+    const QRect widest(0, 0, kWidthInLetters * metrics.averageCharWidth(), QWIDGETSIZE_MAX);
+    label->setMinimumSize(metrics.boundingRect(widest, Qt::TextWordWrap, text).size() + QSize(2, 0));
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addWidget(label);
+    if (copy == Copy::NotOffered) return;
+    auto* button = new QPushButton(WindowText("Copy"), this);
+    button->setAccessibleDescription(WindowText("CopyHelp"));
+    button->setAutoDefault(true);
+    connect(button, &QPushButton::clicked, this, [this, text] {
+        QGuiApplication::clipboard()->setText(text);
+        close();
+    });
+    layout->addWidget(button, 0, Qt::AlignRight);
+    button->setFocus();
+}
+
+void NativePanel::PutBeside(const QWidget& widget)
+{
+    adjustSize();
+    const QRect free = widget.screen()->availableGeometry();
+    const QRect field(widget.mapToGlobal(QPoint()), widget.size());
+    QPoint place(isRightToLeft() ? field.right() - width() : field.left(), field.bottom());
+    if (place.y() + height() > free.bottom()) place.setY(field.top() - height());
+    place.setX(std::max(free.left(), std::min(place.x(), free.right() - width())));
+    place.setY(std::max(free.top(), place.y()));
+    move(place);
+}

@@ -1,0 +1,63 @@
+#include "Native/NativePiece.h"
+
+#include "Native/NativeDescription.h"
+
+#include <QWidget>
+
+NativePiece::NativePiece(KivDialog& node, QWidget* widget) : _node(&node), _widget(widget)
+{
+    if (_widget) _widget->setObjectName(QString::fromUtf8(node.KivCommand::GetName().ConvertToChar()));
+    node.SetView(this);
+}
+
+NativePiece::~NativePiece()
+{
+    if (_node && _node->GetView() == this) _node->SetView(nullptr);
+}
+
+NativePiece* NativePiece::Of(const KivDialog* node)
+{
+    return node ? dynamic_cast<NativePiece*>(node->GetView()) : nullptr;
+}
+
+void NativePiece::Refresh()
+{
+    if (!_node) return;
+    if (_widget) {
+        _widget->setEnabled(_node->IsEnabled() || StaysReachable());
+        NativeDescription(*_node).ShowOn(*_widget);
+    }
+    ShowNode();
+    if (_widget) ShowVisibility();
+}
+
+void NativePiece::NodeChanged(KivDialog&)
+{
+    Refresh();
+}
+
+void NativePiece::NodeDestroyed(KivDialog&)
+{
+    _node = nullptr;
+    if (!_widget) return;
+    // An event of the widget may be under way.
+    _widget->hide();
+    _widget->deleteLater();
+}
+
+void NativePiece::ShowVisibility()
+{
+    QSizePolicy policy = _widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(_node->GetVisibility() == KivDlgReserved);
+    if (policy != _widget->sizePolicy()) _widget->setSizePolicy(policy);
+
+    // Parents that have a widget hide what is in it; the others have to be asked.
+    bool shown = _node->GetVisibility() == KivDlgShown;
+    for (const KivDialog* parent = _node->GetParentDialog(); shown && parent;
+         parent = parent->GetParentDialog()) {
+        const NativePiece* piece = Of(parent);
+        if (!piece || piece->Widget()) break;
+        shown = parent->GetVisibility() == KivDlgShown;
+    }
+    _widget->setVisible(shown);
+}

@@ -1,0 +1,82 @@
+#include "Native/NativeRadioButton.h"
+
+#include "Common/IconStore.h"
+#include "Common/NativeText.h"
+#include "Dialog/KivUserHand.h"
+
+#include <QKeyEvent>
+
+#include <algorithm>
+
+namespace {
+
+bool IsUsable(const KivDlgRadioButton* button)
+{
+    return button->IsEnabled() && button->IsShown();
+}
+
+} // namespace
+
+NativeRadioButton::NativeRadioButton(KivDialog& node, QWidget* parent)
+    : QRadioButton(parent), NativePieceFor(node, this)
+{
+    setAutoExclusive(false);
+}
+
+void NativeRadioButton::ShowNode()
+{
+    setText(ToQt(TreeNode()->GetTitle()));
+    setIcon(IconStore::Shared().Icon(TreeNode()->GetIconName()));
+    setChecked(TreeNode()->GetState() == KivDlgChecked);
+    ShowTabStop();
+}
+
+// The one that Tab enters: the chosen one, else the first that can be chosen. It may be a neighbor that
+// heard nothing of the change.
+void NativeRadioButton::ShowTabStop()
+{
+    const std::vector<KivDlgRadioButton*> choices = TreeNode()->Choices();
+    auto stop = std::find_if(choices.begin(), choices.end(), [](const KivDlgRadioButton* button) {
+        return IsUsable(button) && button->GetState() == KivDlgChecked;
+    });
+    if (stop == choices.end()) stop = std::find_if(choices.begin(), choices.end(), &IsUsable);
+    for (auto choice = choices.begin(); choice != choices.end(); ++choice) {
+        if (const NativePiece* piece = Of(*choice))
+            piece->Widget()->setFocusPolicy(choice == stop ? Qt::StrongFocus : Qt::ClickFocus);
+    }
+}
+
+void NativeRadioButton::nextCheckState()
+{
+    if (TreeNode()) KivUserHand::Choose(*TreeNode());
+}
+
+void NativeRadioButton::keyPressEvent(QKeyEvent* event)
+{
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    switch (plain ? event->key() : 0) {
+    case Qt::Key_Down:
+        return ChooseNeighbor(true);
+    case Qt::Key_Up:
+        return ChooseNeighbor(false);
+    case Qt::Key_Right:
+        return ChooseNeighbor(!isRightToLeft());
+    case Qt::Key_Left:
+        return ChooseNeighbor(isRightToLeft());
+    default:
+        QRadioButton::keyPressEvent(event);
+    }
+}
+
+void NativeRadioButton::ChooseNeighbor(bool next)
+{
+    if (!TreeNode()) return;
+    std::vector<KivDlgRadioButton*> choices = TreeNode()->Choices();
+    if (!next) std::reverse(choices.begin(), choices.end());
+    // Round from this one, which comes last.
+    const auto own = std::find(choices.begin(), choices.end(), TreeNode());
+    std::rotate(choices.begin(), own + 1, choices.end());
+    KivDlgRadioButton* chosen = *std::find_if(choices.begin(), choices.end() - 1, &IsUsable);
+    if (const NativePiece* piece = Of(chosen)) piece->Widget()->setFocus(Qt::TabFocusReason);
+    KivUserHand::Choose(*chosen);
+}

@@ -1,0 +1,288 @@
+#include "Options/OptionsWindow.h"
+
+#include "Common/IconStore.h"
+#include "Common/NativeText.h"
+#include "Disk/KivDirectoryWatch.h"
+#include "Native/NativeField.h"
+#include "Native/NativePanel.h"
+#include "Options/OptionsLayerStrip.h"
+#include "Options/OptionsMessageStrip.h"
+#include "Options/OptionsPageView.h"
+#include "Options/OptionsSubWindows.h"
+#include "Settings/KivSettingRepository.h"
+
+#include <QAbstractEventDispatcher>
+#include <QApplication>
+#include <QBoxLayout>
+#include <QDialogButtonBox>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QStackedWidget>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kLettersWide = 148; // the pages in two columns
+constexpr int kLinesHigh = 34;
+constexpr int kLookAgain = 200; // milliseconds
+
+} // namespace
+
+OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, OptionsMemory memory,
+                             QWidget* parent)
+    : QDialog(parent), _session(std::move(session)), _memory(std::move(memory)), _list(new QListWidget(this)),
+      _stack(new QStackedWidget(this)), _messages(new OptionsMessageStrip(this)),
+      _diagnostics([this](const KivDiagnostic& diagnostic) {
+          // A note (an icon that nobody has drawn) is nothing that a user can mend.
+          if (diagnostic.severity != KivDiagnostic::Severity::Note) _messages->Add(ToQt(diagnostic.Words()));
+          return false;
+      }),
+      _windows(std::make_unique<OptionsSubWindows>(_session->Root(), _memory, *this))
+{
+    setSizeGripEnabled(true);
+    _list->setAccessibleName(WindowText("Pages"));
+    _list->setAccessibleDescription(WindowText("PagesHelp"));
+    _list->setWhatsThis(WindowText("PagesHelp"));
+    _list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+
+    auto* left = new QVBoxLayout;
+    left->addWidget(_list, 1);
+    auto* middle = new QHBoxLayout;
+    middle->addLayout(left);
+    middle->addWidget(_stack, 1);
+    auto* all = new QVBoxLayout(this);
+    const QString layer = ToQt(KivSettingRepository::EditedLayer());
+    setWindowTitle(layer.isEmpty() ? WindowText("OptionsTitle") : WindowText("OptionsTitleLayer").arg(layer));
+    if (!layer.isEmpty()) all->addWidget(_layer = new OptionsLayerStrip(layer, this));
+    all->addLayout(middle, 1);
+    all->addWidget(_messages);
+    all->addWidget(MakeButtons());
+
+    AddPages();
+    ListenToKeys();
+    // What pages asked to be destroyed goes when the events are done.
+    auto* events = QAbstractEventDispatcher::instance();
+    connect(events, &QAbstractEventDispatcher::aboutToBlock, this, [this] { TidyUp(); });
+    connect(events, &QAbstractEventDispatcher::awake, this, [this] { TidyUp(); });
+    _awaited.setSingleShot(true);
+    _awaited.setInterval(kLookAgain);
+
+    if (!ShowPage(KivUnicodeString(_memory.Page()))) _list->setCurrentRow(0);
+    const QSize remembered = _memory.Size();
+    resize((remembered.isValid() ? remembered : sizeHint()).boundedTo(FreeSize()));
+}
+
+OptionsWindow::~OptionsWindow()
+{
+    if (_session) _session->Cancel();
+}
+
+void OptionsWindow::AddPages()
+{
+    connect(_list, &QListWidget::currentRowChanged, this, [this](int row) { PageChosen(row); });
+    for (const KivOptionsSession::Page& page : _session->Pages()) {
+        auto* item = new QListWidgetItem(IconStore::Shared().Icon(page.icon), ToQt(page.title), _list);
+        item->setToolTip(ToQt(page.help));
+        _stack->addWidget(new OptionsPageView(page.frame.Get(), _stack));
+    }
+    const int bar = _list->style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, _list);
+    _list->setFixedWidth(_list->sizeHintForColumn(0) + bar + 2 * _list->frameWidth());
+}
+
+QWidget* OptionsWindow::MakeButtons()
+{
+    auto* box = new QDialogButtonBox(this);
+    _ok = box->addButton(WindowText("OK"), QDialogButtonBox::AcceptRole);
+    _cancel = box->addButton(WindowText("Cancel"), QDialogButtonBox::RejectRole);
+    _reset = box->addButton(WindowText("Reset"), QDialogButtonBox::ResetRole);
+    _ok->setDefault(true);
+    // A click keeps the focus in the field whose text it enters, so that a refused one is not lost.
+    for (QPushButton* button : {_ok, _reset}) button->setFocusPolicy(Qt::TabFocus);
+    connect(_ok, &QPushButton::clicked, this, [this] { accept(); });
+    connect(_cancel, &QPushButton::clicked, this, [this] { reject(); });
+    connect(_reset, &QPushButton::clicked, this, [this] { Reset(); });
+    return box;
+}
+
+void OptionsWindow::ListenToKeys()
+{
+    const auto onKey = [this](QKeySequence key, int pages) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, [this, pages] { Go(pages); });
+    };
+    onKey(Qt::CTRL | Qt::Key_PageUp, -1);
+    onKey(Qt::CTRL | Qt::Key_PageDown, 1);
+}
+
+void OptionsWindow::Go(int pages)
+{
+    const int page = _list->currentRow() + pages;
+    if (page >= 0 && page < _list->count()) _list->setCurrentRow(page);
+}
+
+bool OptionsWindow::ShowPage(const KivUnicodeString& name)
+{
+    const KivOptionsSession::Page* page = _session ? _session->FindPage(name) : nullptr;
+    if (page) _list->setCurrentRow(static_cast<int>(page - _session->Pages().data()));
+    return page;
+}
+
+int OptionsWindow::PageCount() const
+{
+    return _stack->count();
+}
+
+int OptionsWindow::CurrentPage() const
+{
+    return _stack->currentIndex();
+}
+
+OptionsPageView& OptionsWindow::PageView(int page) const
+{
+    return *static_cast<OptionsPageView*>(_stack->widget(page));
+}
+
+void OptionsWindow::PageChosen(int page)
+{
+    if (page < 0 || !_session) return;
+    _session->Refill(_session->Pages()[static_cast<std::size_t>(page)]);
+    PageView(page).Build();
+    _stack->setCurrentIndex(page);
+    const QString title = ToQt(_session->Pages()[static_cast<std::size_t>(page)].title);
+    PageView(page).setAccessibleName(title);
+    _reset->setToolTip(WindowText("ResetHelp").arg(title));
+    _reset->setAccessibleDescription(_reset->toolTip());
+    OrderTab();
+}
+
+// Pages are built late: without this their fields would come after the buttons.
+void OptionsWindow::OrderTab()
+{
+    QWidget* last = _list;
+    Qt::FocusPolicy lastPolicy = last->focusPolicy();
+    QList<QWidget*> order;
+    for (int page = 0; page < PageCount(); ++page) order << PageView(page).Fields();
+    order << _reset << _ok << _cancel;
+    for (QWidget* next : order) {
+        // An open padlock has a place as well, for when it closes; without a focus it would be passed over.
+        const Qt::FocusPolicy policy = next->focusPolicy();
+        next->setFocusPolicy(Qt::StrongFocus);
+        setTabOrder(last, next);
+        last->setFocusPolicy(lastPolicy);
+        lastPolicy = policy;
+        last = next;
+    }
+    last->setFocusPolicy(lastPolicy);
+}
+
+// Enters what is being typed, here and in the windows of the pages; a refused text keeps all of them open.
+// False too when somebody who was told of it has ended the options.
+bool OptionsWindow::CommitFields()
+{
+    const QPointer<QWidget> self(this);
+    NativeField* field = Field();
+    if (field && !field->CommitText()) return false;
+    return self && _windows && _windows->CommitFields() && self && _session;
+}
+
+// The field that has the focus, or null.
+NativeField* OptionsWindow::Field() const
+{
+    return dynamic_cast<NativeField*>(focusWidget());
+}
+
+void OptionsWindow::Refill()
+{
+    if (_session) _session->Refill();
+}
+
+// Pages hear what has come of the directories that they asked for; while an answer is awaited, the end of the
+// timer is an event.
+void OptionsWindow::TidyUp()
+{
+    KivCommand::DrainDelayedDestruction();
+    if (KivDirectoryWatch::Drain() && !_awaited.isActive()) _awaited.start();
+    if (_session) _session->RefillWaiting();
+}
+
+void OptionsWindow::accept()
+{
+    if (!_session || !CommitFields()) return;
+    _messages->Clear();
+    const QPointer<QWidget> self(this); // who is told of the commit may destroy it
+    const std::vector<KivDiagnostic> errors = _session->Commit();
+    if (!self) return;
+    if (errors.empty()) {
+        done(Accepted);
+        return;
+    }
+    _messages->Add(WindowText("NotSaved"));
+    for (const KivDiagnostic& error : errors) _messages->Add(ToQt(error.Words()));
+}
+
+void OptionsWindow::reject()
+{
+    const QPointer<QWidget> self(this); // as above
+    if (_session) _session->Cancel();
+    if (self) done(Rejected);
+}
+
+void OptionsWindow::done(int result)
+{
+    if (!_session) return;
+    _memory.Remember(size(), _session->Pages().empty()
+                                 ? KivString()
+                                 : _session->Pages()[static_cast<std::size_t>(CurrentPage())].editor);
+    hide();
+    // Hidden first: nobody has to watch how the pages are taken apart.
+    _windows.reset();
+    _session.reset();
+    QDialog::done(result);
+}
+
+void OptionsWindow::Reset()
+{
+    if (!_session || CurrentPage() < 0) return;
+    _session->Reset(_session->Pages()[static_cast<std::size_t>(CurrentPage())]);
+}
+
+void OptionsWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::HelpContents)) {
+        NativePanel::OpenLongHelp(*this);
+    } else {
+        QDialog::keyPressEvent(event);
+    }
+}
+
+void OptionsWindow::showEvent(QShowEvent* event)
+{
+    // The frame around it is known only now.
+    const QSize frame = frameGeometry().size() - size();
+    resize(size().boundedTo(FreeSize() - frame));
+    QDialog::showEvent(event);
+}
+
+QSize OptionsWindow::sizeHint() const
+{
+    // As large as the page that is shown needs.
+    const QFontMetrics metrics(font());
+    const QSize usual(kLettersWide * metrics.averageCharWidth(), kLinesHigh * metrics.lineSpacing());
+    const QWidget* surface = CurrentPage() >= 0 ? PageView(CurrentPage()).widget() : nullptr;
+    if (!surface) return usual;
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    const QMargins margins = layout()->contentsMargins();
+    const int beside = _list->width() + bar + 2 * (margins.left() + margins.right());
+    const int above = _layer ? _layer->sizeHint().height() : 0;
+    const int below = _ok->sizeHint().height() + 2 * (margins.top() + margins.bottom());
+    return usual.expandedTo(surface->sizeHint() + QSize(beside, above + below));
+}
+
+QSize OptionsWindow::FreeSize() const
+{
+    return screen()->availableGeometry().size();
+}

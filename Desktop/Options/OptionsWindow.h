@@ -1,0 +1,77 @@
+#pragma once
+
+#include "Base/KivDiagnosticScope.h"
+#include "Common/OptionsMemory.h"
+#include "Options/KivOptionsSession.h"
+
+#include <QDialog>
+#include <QTimer>
+
+#include <memory>
+
+class NativeField;
+class OptionsLayerStrip;
+class OptionsMessageStrip;
+class OptionsPageView;
+class OptionsSubWindows;
+class QListWidget;
+class QPushButton;
+class QStackedWidget;
+
+// The options dialog: a list of pages, the page that was chosen, and OK, Cancel and Reset. It ends the
+// session that it shows: OK commits it, any other way of closing cancels it; then the session is destroyed
+// and QDialog::finished is sent.
+class OptionsWindow : public QDialog {
+public:
+    OptionsWindow(std::unique_ptr<KivOptionsSession> session, OptionsMemory memory,
+                  QWidget* parent = nullptr);
+    ~OptionsWindow() override;
+
+    // Null after the end.
+    KivOptionsSession* Session() const { return _session.get(); }
+    // Shows the page of that name (see KivOptionsSession::FindPage). False when there is none.
+    bool ShowPage(const KivUnicodeString& name);
+    int PageCount() const;
+    int CurrentPage() const;
+    OptionsPageView& PageView(int page) const;
+    OptionsMessageStrip& Messages() const { return *_messages; }
+
+    // Shows what is in force after it was changed from elsewhere (see KivOptionsSession::Refill).
+    void Refill();
+
+    // OK. The window stays open when a field holds a refused text or something could not be saved.
+    void accept() override;
+    void reject() override;
+    void done(int result) override;
+    QSize sizeHint() const override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void AddPages();
+    QWidget* MakeButtons();
+    void ListenToKeys();
+    void Go(int pages);
+    void PageChosen(int page);
+    void OrderTab();
+    bool CommitFields();
+    NativeField* Field() const;
+    void Reset();
+    void TidyUp();
+    QSize FreeSize() const;
+
+    std::unique_ptr<KivOptionsSession> _session;
+    OptionsMemory _memory;
+    QListWidget* _list;
+    QStackedWidget* _stack;
+    OptionsLayerStrip* _layer = nullptr; // null for a user
+    OptionsMessageStrip* _messages;
+    QPushButton* _ok = nullptr;
+    QPushButton* _cancel = nullptr;
+    QPushButton* _reset = nullptr;
+    KivDiagnosticScope _diagnostics;
+    std::unique_ptr<OptionsSubWindows> _windows; // null after the end
+    QTimer _awaited; // runs while a directory that a page shows has still to answer
+};

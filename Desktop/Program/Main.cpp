@@ -1,0 +1,78 @@
+#include "Common/DraftingText.h"
+#include "Common/NativeText.h"
+#include "Common/SettingsWatch.h"
+#include "KivDrwDraftingSettings.h"
+#include "KivDrwRepository.h"
+#include "KivDrwSketcherSettings.h"
+#include "Program/DraftingDiagnostics.h"
+#include "Program/DraftingPictures.h"
+#include "Program/DraftingSignals.h"
+#include "Program/DraftingStart.h"
+#include "Program/DraftingWindow.h"
+#include "Program/OffscreenPlatform.h"
+#include "Settings/KivSettingRepository.h"
+#include "Sheet/SheetSettings.h"
+
+#include <QApplication>
+#include <iostream>
+#include <optional>
+#include <vector>
+
+namespace {
+
+bool HasScreen()
+{
+    for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        if (!qEnvironmentVariableIsEmpty(name)) return true;
+    return false;
+}
+
+int ShowWindow(DraftingWindow& window, const KivUnicodeString& page)
+{
+    const DraftingSignals ends;
+    QObject::connect(&ends, &DraftingSignals::EndWanted, &window, [&window] {
+        window.close();
+        QApplication::quit();
+    });
+    window.show();
+    window.Welcome();
+    if (!page.IsEmpty()) window.OpenOptions(page);
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    CommandLine line = CommandLine::Parse(arguments);
+    DraftingDiagnostics diagnostics(true);
+    if (const auto code = DraftingStart::Prepare(line, std::cout, std::cerr)) return *code;
+
+    if (!line.screenshots && !HasScreen()) {
+        line.screenshots = "screenshots";
+        std::cout << DraftingText("NoScreen").toStdString() << '\n';
+    }
+    if (line.screenshots) OffscreenPlatform::Choose();
+    if (line.scale != 1.0) qputenv("QT_SCALE_FACTOR", QByteArray::number(line.scale));
+
+    // The arguments are ours and have been read; the toolkit gets the name alone.
+    int names = 1;
+    const QApplication application(names, argv);
+    QApplication::setApplicationName("kivdrafting");
+    QApplication::setDesktopFileName("kivdrafting");
+    ApplyScheme(line.scheme == DraftingScheme::System && line.screenshots ? DraftingScheme::Light
+                                                                          : line.scheme);
+
+    SheetSettings settings(*KivDrwDraftingSettings::GetDraftingSettings(),
+                           *KivDrwSketcherSettings::GetSketcherSettings(), KivDrwRepository());
+    DraftingWindow window(settings, diagnostics, ToQt(KivSettingRepository::EditedLayer()));
+    std::optional<SettingsWatch> watch;
+    if (auto* const repository = KivSettingRepository::GetRepository("DraftingOptions")) {
+        window.Follow(watch.emplace(*repository), *KivDrwSketcherSettings::GetSketcherSettings());
+    }
+    const KivUnicodeString page(line.page);
+    if (!line.screenshots) return ShowWindow(window, page);
+    DraftingPictures pictures(*line.screenshots, std::cout, std::cerr);
+    return pictures.Write(window, page) ? DraftingStart::kDone : DraftingStart::kCannotWrite;
+}

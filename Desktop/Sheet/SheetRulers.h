@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Sheet/SheetCamera.h"
+
+#include <QFont>
+#include <QPalette>
+#include <optional>
+
+class QPainter;
+
+// The two rulers at the top and at the left of a sheet's window, in the user's unit of length.
+class SheetRulers {
+public:
+    SheetRulers(const SheetCamera& camera, const QFont& font, const QPalette& palette);
+
+    static int Thickness(const QFont& font);
+
+    // Around the camera's area; the cursor's place in the window is marked on both.
+    void Paint(QPainter& painter, std::optional<QPointF> cursor) const;
+
+private:
+    void PaintOne(QPainter& painter, Qt::Orientation orientation) const;
+
+    const SheetCamera& _camera;
+    QFont _font;
+    QPalette _palette;
+    int _thick;
+};
