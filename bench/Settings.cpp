@@ -17,7 +17,7 @@ struct Hash {
     using is_transparent = void;
     std::size_t operator()(std::string_view key) const { return std::hash<std::string_view>{}(key); }
 };
-using Table = std::unordered_map<std::string, KivDrwValue, Hash, std::equal_to<>>;
+using Table = std::unordered_map<std::string, KivSettingValue, Hash, std::equal_to<>>;
 
 Table BareTable()
 {
@@ -26,9 +26,9 @@ Table BareTable()
     return table;
 }
 
-std::vector<KivDrwValue> BareValues()
+std::vector<KivSettingValue> BareValues()
 {
-    std::vector<KivDrwValue> values;
+    std::vector<KivSettingValue> values;
     for (const KivDrwRow& row : KivDrwCatalogue::Rows()) values.push_back(row.makeDefault());
     return values;
 }
@@ -92,7 +92,7 @@ template <class T> void AddReadByKey(const std::string& name, const KivDrwKey<T>
                   }),
                   FromContainer<T>(
                       &BareValues, key.place,
-                      [](const std::vector<KivDrwValue>& values, std::size_t place) -> const auto& {
+                      [](const std::vector<KivSettingValue>& values, std::size_t place) -> const auto& {
                           return values[place];
                       }));
 }
@@ -121,18 +121,17 @@ void BareLocker(benchmark::State& state)
     }
 }
 
-void ReadAllKeys(const KivSettingRepository& repository, std::vector<KivDrwValue>& values)
+void ReadAllKeys(const KivSettingRepository& repository, std::vector<KivSettingValue>& values)
 {
     std::size_t i = 0;
-    for (const KivDrwRow& row : KivDrwCatalogue::Rows())
-        std::visit([&](auto& value) { repository.ReadSetting(row.key, &value, 1); }, values[i++]);
+    for (const KivDrwRow& row : KivDrwCatalogue::Rows()) repository.ReadSetting(row.key, &values[i++], 1);
 }
 
 void Open(benchmark::State& state)
 {
     KivSettingsSandbox box;
     FillFile(box);
-    std::vector<KivDrwValue> values = BareValues();
+    std::vector<KivSettingValue> values = BareValues();
     for (auto _ : state) {
         KivSettingRepository::ForgetAll();
         ReadAllKeys(*KivDrwRepository(), values);
@@ -164,7 +163,7 @@ void BareWriteAll(benchmark::State& state)
     Table table = BareTable();
     for (auto _ : state) {
         for (const KivDrwRow& row : KivDrwCatalogue::Rows()) {
-            const KivDrwValue value = table.find(std::string_view(row.key))->second;
+            const KivSettingValue value = table.find(std::string_view(row.key))->second;
             table.find(std::string_view(row.key))->second = value;
         }
     }

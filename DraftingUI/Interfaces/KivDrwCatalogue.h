@@ -4,7 +4,6 @@
 
 #include <span>
 #include <string_view>
-#include <variant>
 #include <vector>
 
 // The groups of settings, in writing order; each belongs to one options page.
@@ -21,13 +20,12 @@ enum class KivDrwGroup {
     Administration,
 };
 
-using KivDrwValue = std::variant<int, unsigned int, float, double, KivUnicodeString>;
-
 // One setting as data.
 struct KivDrwRow {
     KivDrwGroup group;
     const char* key;
-    KivDrwValue (*makeDefault)();
+    KivSettingValue (*makeDefault)();
+    const KivSettingKind& kind;
     bool onPage;             // edited on its group's page or one of its sub-dialogs
     const char* writtenFrom; // the key whose value a reset stores under this one
 };

@@ -5,8 +5,8 @@
 #include "Base/KivUnicodeString.h"
 
 // The default of each setting, in its stored type: what a reader shows while no layer knows the key.
-#define KIV_SETTING(group, type, key, function, value) type function();
-#define KIV_COMPUTED(group, type, key, function) type function();
+#define KIV_SETTING(group, type, key, function, value, kind) type function();
+#define KIV_COMPUTED(group, type, key, function, kind) type function();
 #include "KivDrwSettings.def"
 
 // Gathers a value for every key of the catalogue, the stored one or else the default, and, when write is not

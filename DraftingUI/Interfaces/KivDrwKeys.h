@@ -1,6 +1,7 @@
 #pragma once
 
 #include "KivDrwDefaults.h"
+#include "KivDrwKinds.h"
 
 #include <cstddef>
 
@@ -8,6 +9,7 @@
 template <class T> struct KivDrwKey {
     const char* name;
     T (*makeDefault)();
+    const KivSettingKind& kind;
     std::size_t place; // in kKivDrwKeyNames
 };
 
@@ -21,28 +23,29 @@ template <class Key> using KivDrwStored = typename KivDrwStoredIn<Key>::Type;
 // The place of every key in the catalogue.
 namespace KivDrwPlaces {
 enum Place : std::size_t {
-#define KIV_SETTING(group, type, key, function, value) key,
-#define KIV_COMPUTED(group, type, key, function) key,
-#define KIV_LITERAL(group, type, key, value) key,
+#define KIV_SETTING(group, type, key, function, value, kind) key,
+#define KIV_COMPUTED(group, type, key, function, kind) key,
+#define KIV_LITERAL(group, type, key, value, kind) key,
 #include "KivDrwSettings.def"
 };
 } // namespace KivDrwPlaces
 
 // Every key by its own name; no other code spells one out.
 namespace KivDrwKeys {
-#define KIV_SETTING(group, type, key, function, value)                                                       \
-    inline constexpr KivDrwKey<type> key{#key, &function, KivDrwPlaces::key};
-#define KIV_COMPUTED(group, type, key, function)                                                             \
-    inline constexpr KivDrwKey<type> key{#key, &function, KivDrwPlaces::key};
-#define KIV_LITERAL(group, type, key, value)                                                                 \
-    inline constexpr KivDrwKey<type> key{#key, [] { return type(value); }, KivDrwPlaces::key};
+#define KIV_SETTING(group, type, key, function, value, kind)                                                 \
+    inline constexpr KivDrwKey<type> key{#key, &function, KivDrwKinds::kind, KivDrwPlaces::key};
+#define KIV_COMPUTED(group, type, key, function, kind)                                                       \
+    inline constexpr KivDrwKey<type> key{#key, &function, KivDrwKinds::kind, KivDrwPlaces::key};
+#define KIV_LITERAL(group, type, key, value, kind)                                                           \
+    inline constexpr KivDrwKey<type> key{#key, [] { return type(value); }, KivDrwKinds::kind,                \
+                                         KivDrwPlaces::key};
 #include "KivDrwSettings.def"
 } // namespace KivDrwKeys
 
 // The names of all keys, each at its place: what a repository is bound to.
 inline constexpr const char* kKivDrwKeyNames[] = {
-#define KIV_SETTING(group, type, key, function, value) #key,
-#define KIV_COMPUTED(group, type, key, function) #key,
-#define KIV_LITERAL(group, type, key, value) #key,
+#define KIV_SETTING(group, type, key, function, value, kind) #key,
+#define KIV_COMPUTED(group, type, key, function, kind) #key,
+#define KIV_LITERAL(group, type, key, value, kind) #key,
 #include "KivDrwSettings.def"
 };

@@ -91,6 +91,18 @@ template <class T> HRESULT KivSettingRepository::Take(const KivSettingAttribute&
     return S_OK;
 }
 
+template <>
+HRESULT KivSettingRepository::Take(const KivSettingAttribute& attribute, KivSettingValue& value) const
+{
+    const KivSettingValue& shown = attribute.Shown();
+    if (!KivHasValue(shown) || (KivHasValue(value) && value.index() != shown.index())) {
+        Store().ReportOtherType(attribute, KivSettingTypeName(value));
+        return E_FAIL;
+    }
+    value = shown;
+    return S_OK;
+}
+
 template <class T> HRESULT KivSettingRepository::Read(const char* key, T* value, long count) const
 {
     const KivSettingAttribute* attribute = Store().Find(key);
@@ -136,6 +148,10 @@ HRESULT KivSettingRepository::ReadSetting(const char* key, KivUnicodeString* val
 {
     return Read(key, value, count);
 }
+HRESULT KivSettingRepository::ReadSetting(const char* key, KivSettingValue* value, long count) const
+{
+    return Read(key, value, count);
+}
 
 void KivSettingRepository::BindKeys(std::span<const char* const> keys)
 {
@@ -165,6 +181,11 @@ HRESULT KivSettingRepository::WriteSetting(const char* key, const KivUnicodeStri
                                            int reserved)
 {
     return Write(key, value, count, reserved);
+}
+HRESULT KivSettingRepository::WriteSetting(const char* key, const KivSettingValue* value, long count,
+                                           int reserved)
+{
+    return value && KivHasValue(*value) ? Write(key, value, count, reserved) : E_FAIL;
 }
 
 HRESULT KivSettingRepository::GetInfo(const char* key, KivSettingInfo* info, int) const

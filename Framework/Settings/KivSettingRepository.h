@@ -48,6 +48,8 @@ public:
     HRESULT ReadSetting(const char* key, float* value, long count) const;
     HRESULT ReadSetting(const char* key, double* value, long count) const;
     HRESULT ReadSetting(const char* key, KivUnicodeString* value, long count) const;
+    // The same for a value of the type that the variable holds, or of any type if it holds none.
+    HRESULT ReadSetting(const char* key, KivSettingValue* value, long count) const;
 
     // Writes one value into the working state as the user's; a value of another type is replaced. E_FAIL, and
     // nothing changed, when the key is locked, is no plain identifier, the value is not finite, or count is
@@ -57,6 +59,8 @@ public:
     HRESULT WriteSetting(const char* key, const float* value, long count, int reserved);
     HRESULT WriteSetting(const char* key, const double* value, long count, int reserved);
     HRESULT WriteSetting(const char* key, const KivUnicodeString* value, long count, int reserved);
+    // The same for a value of any type; no value fails.
+    HRESULT WriteSetting(const char* key, const KivSettingValue* value, long count, int reserved);
 
     // Fills the record of a key. E_FAIL, and the record left empty but for the names, when no layer knows the
     // key; the reserved argument is 0.

@@ -3,7 +3,6 @@
 #include "Settings/KivSettingLine.h"
 
 #include <algorithm>
-#include <type_traits>
 
 void KivSettingTransaction::Set(const KivString& key, KivSettingValue value)
 {
@@ -28,18 +27,12 @@ KivSettingRepository::Receipt KivSettingTransaction::Save()
     _refusals.clear();
     for (const auto& [key, value] : std::exchange(_changes, {})) {
         const char* const name = key.ConvertToChar();
-        const HRESULT result = std::visit(
-            [&](const auto& plain) {
-                if constexpr (std::is_same_v<std::decay_t<decltype(plain)>, std::monostate>) {
-                    KivSettingInfo info;
-                    _repository.GetInfo(name, &info, 0);
-                    return info.locked ? E_FAIL : _repository.ResetToAdminValues(&name, 1);
-                } else {
-                    return _repository.WriteSetting(name, &plain, 1, 0);
-                }
-            },
-            value);
-        if (result != S_OK) Refuse(key);
+        KivSettingInfo info;
+        if (!KivHasValue(value)) _repository.GetInfo(name, &info, 0);
+        const bool isDone = KivHasValue(value)
+                                ? _repository.WriteSetting(name, &value, 1, 0) == S_OK
+                                : !info.locked && _repository.ResetToAdminValues(&name, 1) == S_OK;
+        if (!isDone) Refuse(key);
     }
     _repository.SaveRepository(nullptr);
     return _repository.LastReceipt();

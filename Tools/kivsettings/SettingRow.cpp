@@ -1,6 +1,5 @@
 #include "SettingRow.h"
 
-#include "KivDrwValueKind.h"
 #include "ValueText.h"
 
 #include <algorithm>
@@ -73,7 +72,7 @@ JsonObject SettingAsJson(const Setting& setting)
     object.Add("key", setting.key).Add("type", setting.TypeWord()).Add("value", setting.value);
     object.Add("default", setting.fallback);
     if (setting.row) {
-        const KivDrwValueKind& kind = KivDrwCatalogue::KindOf(*setting.row);
+        const KivSettingKind& kind = setting.row->kind;
         object.Add("kind", kind.name);
         if (kind.HasRange()) {
             object.Add("minimum", KivSettingValue(kind.minimum))

@@ -1,30 +1,6 @@
 #include "Settings.h"
 
 #include "Console.h"
-#include "ValueText.h"
-
-#include <string_view>
-#include <type_traits>
-
-namespace {
-
-template <class T> KivSettingValue ReadAs(const KivSettingRepository& repository, const char* key)
-{
-    T value{};
-    return repository.ReadSetting(key, &value, 1) == S_OK ? KivSettingValue(value) : KivSettingValue();
-}
-
-// Delivers name and type of every attribute until told to stop.
-template <class Visitor> void ForEachAttribute(KivSettingRepository& repository, const Visitor& visit)
-{
-    char name[256], type[256];
-    long count = 0;
-    for (int restart = 1; repository.NextAttribute(name, type, &count, restart) == S_OK; restart = 0) {
-        if (name[0] && !visit(name, std::string_view(type))) return;
-    }
-}
-
-} // namespace
 
 // The name is a plain one, for which there is always a repository.
 Settings::Settings() : _repository(*KivSettingRepository::GetRepository(Name)) {}
@@ -34,54 +10,27 @@ Setting Settings::Describe(const std::string& key) const
     Setting setting;
     setting.key = key;
     setting.row = KivDrwCatalogue::Find(key);
-    if (setting.row) {
-        KivDrwValue value = setting.row->makeDefault();
-        setting.fallback = SettingValueOf(value);
-        std::visit([&](auto& plain) { _repository.ReadSetting(key.c_str(), &plain, 1); }, value);
-        setting.value = SettingValueOf(value);
-    } else {
-        setting.value = ValueOfUnknown(key);
-    }
+    if (setting.row) setting.value = setting.fallback = setting.row->makeDefault();
+    _repository.ReadSetting(key.c_str(), &setting.value, 1);
     _repository.GetInfo(key.c_str(), &setting.info, 0);
     if (setting.row) setting.info.ReadAs(KivSettingTypeName(setting.fallback));
     return setting;
 }
 
-KivSettingValue Settings::ValueOfUnknown(const std::string& key) const
-{
-    KivSettingValue value;
-    ForEachAttribute(_repository, [&](const char* name, std::string_view type) {
-        if (key != name) return true;
-        if (type == "int") value = ReadAs<int>(_repository, name);
-        if (type == "unsigned int") value = ReadAs<unsigned int>(_repository, name);
-        if (type == "float") value = ReadAs<float>(_repository, name);
-        if (type == "double") value = ReadAs<double>(_repository, name);
-        if (type == "string") value = ReadAs<KivUnicodeString>(_repository, name);
-        return false;
-    });
-    return value;
-}
-
 std::vector<std::string> Settings::UnknownKeys() const
 {
     std::vector<std::string> keys;
-    ForEachAttribute(_repository, [&keys](const char* name, std::string_view) {
-        if (!KivDrwCatalogue::Find(name)) keys.emplace_back(name);
-        return true;
-    });
+    char name[256], type[256];
+    long count = 0;
+    for (int restart = 1; _repository.NextAttribute(name, type, &count, restart) == S_OK; restart = 0) {
+        if (name[0] && !KivDrwCatalogue::Find(name)) keys.emplace_back(name);
+    }
     return keys;
 }
 
 bool Settings::Write(const std::string& key, const KivSettingValue& value)
 {
-    return std::visit(
-        [&](const auto& plain) {
-            if constexpr (std::is_same_v<std::decay_t<decltype(plain)>, std::monostate>)
-                return false;
-            else
-                return _repository.WriteSetting(key.c_str(), &plain, 1, 0) == S_OK;
-        },
-        value);
+    return _repository.WriteSetting(key.c_str(), &value, 1, 0) == S_OK;
 }
 
 void Settings::Drop(const std::vector<std::string>& keys)

@@ -54,7 +54,5 @@ public:
     ExitCode AfterReading() const;
 
 private:
-    KivSettingValue ValueOfUnknown(const std::string& key) const;
-
     KivSettingRepository& _repository;
 };

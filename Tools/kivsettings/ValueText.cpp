@@ -1,11 +1,9 @@
 #include "ValueText.h"
 
 #include "Base/KivQuotedText.h"
-#include "KivDrwValueKind.h"
 
 #include <algorithm>
 #include <charconv>
-#include <type_traits>
 
 namespace {
 
@@ -38,11 +36,6 @@ std::string PlainColor(std::string_view typed)
 
 } // namespace
 
-KivSettingValue SettingValueOf(const KivDrwValue& value)
-{
-    return std::visit([](const auto& plain) { return KivSettingValue(plain); }, value);
-}
-
 std::string ShownValue(const KivSettingValue& value)
 {
     const KivUnicodeString shown = KivShownSettingText(value);
@@ -64,11 +57,11 @@ std::string ReadTyped(std::string_view type, std::string_view typed, KivSettingV
 
 std::string ReadTyped(const KivDrwRow& row, std::string_view typed, KivSettingValue& value)
 {
-    const KivSettingValue fallback = SettingValueOf(row.makeDefault());
-    const bool isUnsigned = std::holds_alternative<unsigned int>(fallback);
+    const KivSettingValue fallback = row.makeDefault();
+    const bool isColor = row.kind.color == KivSettingKind::Color::Packed;
     KivSettingValue read;
     const std::string wrong =
-        ReadTyped(KivSettingTypeWord(fallback), isUnsigned ? PlainColor(typed) : std::string(typed), read);
+        ReadTyped(KivSettingTypeWord(fallback), isColor ? PlainColor(typed) : std::string(typed), read);
     if (!wrong.empty()) return wrong + " (" + KivSettingTypeWord(fallback) + ")";
     const std::string outside = WrongWith(row, read);
     if (outside.empty()) value = read;
@@ -77,22 +70,13 @@ std::string ReadTyped(const KivDrwRow& row, std::string_view typed, KivSettingVa
 
 std::string WrongWith(const KivDrwRow& row, const KivSettingValue& value)
 {
-    const KivDrwValue fallback = row.makeDefault();
-    if (value.index() != fallback.index() + 1) { // after "no value" both have the same types
+    const KivSettingValue fallback = row.makeDefault();
+    if (value.index() != fallback.index()) {
         return std::string("the value is of the type ") + KivSettingTypeWord(value) + " instead of " +
-               KivSettingTypeWord(SettingValueOf(fallback));
+               KivSettingTypeWord(fallback);
     }
-    const KivDrwValueKind& kind = KivDrwCatalogue::KindOf(row);
-    if (!kind.HasRange()) return {};
-    const bool isInside = std::visit(
-        [&kind](const auto& plain) {
-            if constexpr (std::is_same_v<std::decay_t<decltype(plain)>, std::monostate>)
-                return true;
-            else
-                return kind.Holds(plain);
-        },
-        value);
-    return isInside ? ""
-                    : "the value is out of range (" + std::string(kind.name) + ": " + Number(kind.minimum) +
-                          " to " + Number(kind.maximum) + ")";
+    const KivSettingKind& kind = row.kind;
+    if (kind.Holds(value)) return {};
+    return "the value is out of range (" + std::string(kind.name) + ": " + Number(kind.minimum) + " to " +
+           Number(kind.maximum) + ")";
 }

@@ -6,9 +6,6 @@
 #include <string>
 #include <string_view>
 
-// The same value as the repository holds it.
-KivSettingValue SettingValueOf(const KivDrwValue& value);
-
 // The value on one line: a text stands bare unless it holds control characters or broken UTF-8, or begins
 // with a quotation mark; then it is quoted as in a settings file.
 std::string ShownValue(const KivSettingValue& value);

@@ -1,16 +1,6 @@
 #include "Kiv2DBaseOptAdminFrm.h"
 
-namespace {
-
-// Any value but 0 takes the format from the style; choosing it stores 1.
-const KivFormRadios& SheetSources()
-{
-    static const auto& sources =
-        *new KivFormRadios{.buttons = {{"radSheetStyle", 1}, {"radSheetCurrent", 0}}, .otherwise = 1};
-    return sources;
-}
-
-} // namespace
+#include "KivDrwKinds.h"
 
 void Kiv2DBaseOptAdminFrm::Build()
 {
@@ -35,7 +25,7 @@ void Kiv2DBaseOptAdminFrm::BuildStyles()
     KivFormGroup styles = Group("toolDrwStyle", "");
     styles.Line().Check("chkStyleCreation", _useStyleCreateObjects);
     styles.Line().Label("lbl");
-    styles.Radios("frmRadio", _createNewSheetFrom, SheetSources());
+    styles.Radios("frmRadio", _createNewSheetFrom, KivDrwKinds::SheetFormat);
     styles.Line().Label("lblInv");
     styles.Line().Check("checkOnlyUserDefault", _lockUserDefault);
     // Its name says the opposite of its setting, deliberately: the value is shown as it is.

@@ -1,22 +1,10 @@
 #include "Kiv2DBaseOptAnnotFrm.h"
 
+#include "KivDrwKinds.h"
+
 namespace {
 
 constexpr unsigned long kComboStyle = 0x40000;
-
-const KivFormChoice& BalloonAssociations()
-{
-    static const auto& lines = *new KivFormChoice{.catalogue = "KivDrwFrameAnnot",
-                                                  .lines = {{"Number", 0}, {"Instance", 1}, {"Part", 2}}};
-    return lines;
-}
-
-const KivFormRadios& SnapModes()
-{
-    static const auto& modes = *new KivFormRadios{
-        .buttons = {{"radioAnnotSnapOnGrid", 0}, {"radioAnnotSnapOnOrient", 1}, {"radioAnnotSnapBoth", 2}}};
-    return modes;
-}
 
 } // namespace
 
@@ -60,7 +48,7 @@ void Kiv2DBaseOptAnnotFrm::BuildBalloon()
     // What a balloon shows of its part can be chosen only while balloons are associated with the 3D.
     _rules.AvailableWhile(
         [this] { return _balloon3DAssoc.cached != 0; },
-        {balloon.Choice("combBalAssocMod", _balloon3DAssocMod, BalloonAssociations(), kComboStyle)});
+        {balloon.Choice("combBalAssocMod", _balloon3DAssocMod, KivDrwKinds::BalloonText, kComboStyle)});
 }
 
 void Kiv2DBaseOptAnnotFrm::NotifPush(KivCommand* from, KivNotification*, void*)
@@ -80,7 +68,7 @@ void Kiv2DBaseOptAnnotFrm::BuildDlgSnap()
 {
     if (!_snapWindow) return;
     _form.Group(*_snapWindow, "frameAnnotActivSnap", "")
-        .Radios("frameRadioAnnotActivSnap", _snapMod, SnapModes());
+        .Radios("frameRadioAnnotActivSnap", _snapMod, KivDrwKinds::SnapMode);
     _form.ShowValue(_snapMod);
 }
 

@@ -1,11 +1,8 @@
 #include "Kiv2DBaseOptDimFrm.h"
 
-#include "KivMeasureSetups.h"
+#include "KivDrwKinds.h"
 
 namespace {
-
-constexpr KivSpinnerSetup kOffset = KivMillimeters(1.0);
-constexpr KivSpinnerSetup kAngle = KivDegrees(1.0);
 
 // The groups stand in two columns; the analysis is as high as the two groups beside it.
 enum Column : short { Left, Right };
@@ -43,7 +40,8 @@ void Kiv2DBaseOptDimFrm::BuildCreation()
 void Kiv2DBaseOptDimFrm::BuildLinePos()
 {
     KivFormGroup position = Group("frameDimLinePos", "I_Dim2D", 1, Left);
-    position.Line("labelDimLinePos").Spinner("spinnerDimLinePos", _dimLinePosValue, kOffset);
+    position.Line("labelDimLinePos")
+        .Spinner("spinnerDimLinePos", _dimLinePosValue, KivDrwKinds::SymbolLength);
     position.Line().At(0, 2).Check("checkDimLinePosRelative", _dimLinePosRelative);
     position.Line().At(0, 2).Check("checkDimLineUpEnds", _dimLineUpEnds);
 }
@@ -52,11 +50,11 @@ void Kiv2DBaseOptDimFrm::BuildLineUp()
 {
     KivFormGroup lineUp = Group("frameDimLineUp", "I_DrwLineUp", 2, Left);
     KivFormLine base = lineUp.Line("labelLineUpBase");
-    base.Spinner("spinnerLineUpBaseLength", _lineUpBaseOffsetLength, kOffset);
-    base.Spinner("spinnerLineUpBaseAngle", _lineUpBaseOffsetAngle, kAngle);
+    base.Spinner("spinnerLineUpBaseLength", _lineUpBaseOffsetLength, KivDrwKinds::SymbolLength);
+    base.Spinner("spinnerLineUpBaseAngle", _lineUpBaseOffsetAngle, KivDrwKinds::Angle);
     KivFormLine offset = lineUp.Line("labelLineUpOffset");
-    offset.Spinner("spinnerLineUpLength", _lineUpOffsetLength, kOffset);
-    offset.Spinner("spinnerLineUpAngle", _lineUpOffsetAngle, kAngle);
+    offset.Spinner("spinnerLineUpLength", _lineUpOffsetLength, KivDrwKinds::SymbolLength);
+    offset.Spinner("spinnerLineUpAngle", _lineUpOffsetAngle, KivDrwKinds::Angle);
     lineUp.Line().At(0, 3).Check("checkLineUpStack", _lineUpStackVal);
     lineUp.Line().At(0, 3).Check("checkLineUpCumul", _lineUpCumulVal);
     lineUp.Line().At(0, 3).Check("checkLineUpFunnel", _lineUpAutoFunnel);

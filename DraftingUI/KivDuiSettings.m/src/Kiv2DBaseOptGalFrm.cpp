@@ -1,21 +1,6 @@
 #include "Kiv2DBaseOptGalFrm.h"
 
-#include "KivMeasureSetups.h"
-
-namespace {
-
-constexpr KivSpinnerSetup kLength = KivMillimeters(5.0);
-constexpr KivCountSetup kGraduation{.minimum = 1.0F, .maximum = 100000.0F, .values = 100000};
-// Stored in degrees, shown in radians: 1 to 355 degrees by 1. The ceiling of 355 is deliberate.
-constexpr KivSpinnerSetup kSnapAngle{.magnitude = KivDlgMagnitudeAngle,
-                                     .minimum = 0.017453292519943393,
-                                     .maximum = 6.1959188445799045,
-                                     .step = 0.017453292519943393,
-                                     .shownPerStored = 0.017453292519943393,
-                                     .storedPerShown = 57.295779513082,
-                                     .initial = 1.0};
-
-} // namespace
+#include "KivDrwKinds.h"
 
 void Kiv2DBaseOptGalFrm::Build()
 {
@@ -41,12 +26,13 @@ void Kiv2DBaseOptGalFrm::BuildGrid()
     grid.Line().Check("checkAllowDistortions", _allowDistortions);
 
     KivFormLine spacing = grid.Line("labelGridSpacing");
-    spacing.Spinner("editorGridSpacing", _primSpaceH, kLength, [this] { MirrorSpacing(); });
-    _spacingV = spacing.Spinner("editorGridSpacingV", _primSpaceV, kLength);
+    spacing.Spinner("editorGridSpacing", _primSpaceH, KivDrwKinds::SheetLength, [this] { MirrorSpacing(); });
+    _spacingV = spacing.Spinner("editorGridSpacingV", _primSpaceV, KivDrwKinds::SheetLength);
 
     KivFormLine graduation = grid.Line("labelGridGraduation");
-    graduation.Spinner("editorGridGraduation", _gradH, kGraduation, [this] { MirrorGraduation(); });
-    _graduationV = graduation.Spinner("editorGridGraduationV", _gradV, kGraduation);
+    graduation.Spinner("editorGridGraduation", _gradH, KivDrwKinds::Graduation,
+                       [this] { MirrorGraduation(); });
+    _graduationV = graduation.Spinner("editorGridGraduationV", _gradV, KivDrwKinds::Graduation);
 
     // The vertical grid has a spacing and a graduation of its own only while distortions are allowed.
     _rules.AvailableWhile([this] { return _allowDistortions.cached != 0; },
@@ -56,7 +42,8 @@ void Kiv2DBaseOptGalFrm::BuildGrid()
 void Kiv2DBaseOptGalFrm::BuildRotation()
 {
     KivFormGroup rotation = Group("frameRotation", "I_Rotate");
-    rotation.Line("labelRotSnapAngle").Spinner("spinnerRotSnapAngle", _rotationSnapAngle, kSnapAngle);
+    rotation.Line("labelRotSnapAngle")
+        .Spinner("spinnerRotSnapAngle", _rotationSnapAngle, KivDrwKinds::SnapAngle);
     rotation.Line().Check("checkRotSnapAuto", _rotationAutoSnap);
 }
 
@@ -76,14 +63,14 @@ void Kiv2DBaseOptGalFrm::Build2DAxis()
     KivFormGroup axis = Group("frameViewReferential", "I_DisplayViewReferential");
     axis.Line().Check("checkViewReferential", _2DAxisDisplay);
     axis.Line().Check("checkViewRefZoom", _2DAxisZoom);
-    axis.Line("labelViewAxisSize").Spinner("spinnerViewAxisSize", _2DAxisLength, kLength);
+    axis.Line("labelViewAxisSize").Spinner("spinnerViewAxisSize", _2DAxisLength, KivDrwKinds::SheetLength);
 }
 
 // Without distortions the vertical grid follows the horizontal one; the spinner's notification stores it.
 void Kiv2DBaseOptGalFrm::MirrorSpacing()
 {
     if (!_allowDistortions.cached && _spacingV)
-        _spacingV->SetValue(_primSpaceH.cached * kLength.shownPerStored, 1);
+        _spacingV->SetValue(_primSpaceH.cached * KivDrwKinds::SheetLength.shownPerStored, 1);
 }
 
 void Kiv2DBaseOptGalFrm::MirrorGraduation()

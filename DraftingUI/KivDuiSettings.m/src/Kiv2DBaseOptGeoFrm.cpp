@@ -1,17 +1,8 @@
 #include "Kiv2DBaseOptGeoFrm.h"
 
-#include "KivMeasureSetups.h"
+#include "KivDrwKinds.h"
 
 namespace {
-
-constexpr KivSpinnerSetup kSymbolSize = KivMillimeters(1.0);
-
-const KivFormRadios& DragModes()
-{
-    static const auto& modes = *new KivFormRadios{
-        .buttons = {{"radioDragStandard", 0}, {"radioDragMinimum", 1}, {"radioDragRelaxation", 2}}};
-    return modes;
-}
 
 // The groups stand in two columns; constraints are as high as the two groups beside them.
 enum Column : short { Left, Right };
@@ -39,7 +30,8 @@ void Kiv2DBaseOptGeoFrm::BuildConstraint()
                           {constraint.Line().At(0, 2).Check("checkCstCreation", _cstCreation)});
     constraint.Line().At(0, 2).Check("checkCstVisu", _cstVisu);
     std::vector<KivDrwLockDialog*> shown = {
-        constraint.Line("labelCstRefSize").Spinner("spinnerCstRefSize", _cstRefSize, kSymbolSize),
+        constraint.Line("labelCstRefSize")
+            .Spinner("spinnerCstRefSize", _cstRefSize, KivDrwKinds::SymbolLength),
         constraint.Line("labelCstColor").Color("comboCstColor", _cstColor)};
     struct KindRow {
         const char* name;
@@ -63,7 +55,7 @@ void Kiv2DBaseOptGeoFrm::BuildDrag()
     KivFormGroup drag = Group("frameGeomDrag", "I_Select", 1, Left);
     drag.Line().Check("checkGeomManip", _allowGeomManip);
     KivDrwLockDialog* endPoints = drag.Line().Check("checkDragEndPts", _dragWithEndPts);
-    KivDrwLockDialog* modes = drag.Radios("frameDragMode", _dragSolveMode, DragModes());
+    KivDrwLockDialog* modes = drag.Radios("frameDragMode", _dragSolveMode, KivDrwKinds::DragMode);
     _rules.AvailableWhile([this] { return _allowGeomManip.cached; }, {endPoints, modes});
 }
 

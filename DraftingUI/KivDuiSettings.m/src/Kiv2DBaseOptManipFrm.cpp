@@ -1,10 +1,8 @@
 #include "Kiv2DBaseOptManipFrm.h"
 
-#include "KivMeasureSetups.h"
+#include "KivDrwKinds.h"
 
 namespace {
-
-constexpr KivSpinnerSetup kSize = KivMillimeters(1.0);
 
 constexpr unsigned int kFilledCentered = KivDlgAttachAllSidesCentered & ~KivDlgAttachRight;
 
@@ -33,7 +31,8 @@ void Kiv2DBaseOptManipFrm::Build()
 void Kiv2DBaseOptManipFrm::BuildManipulator()
 {
     KivFormGroup manipulator = Group("frameManip", "I_Select");
-    manipulator.Line("labelManipRefSize").Spinner("editorManipRefSize", _manipRefSize, kSize);
+    manipulator.Line("labelManipRefSize")
+        .Spinner("editorManipRefSize", _manipRefSize, KivDrwKinds::SymbolLength);
     manipulator.Line().Check("checkManipZoom", _manipZoom);
 }
 

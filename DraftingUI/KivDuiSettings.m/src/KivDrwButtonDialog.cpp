@@ -17,12 +17,11 @@ void KivDrwButtonDialog::Open()
 
 void KivDrwButtonDialog::InitValues()
 {
-    for (KivDrwPresetValue* value : _presets) value->Preset();
+    for (KivBoundValue* value : _values) value->LoadDefault();
 }
 
 void KivDrwButtonDialog::Init()
 {
-    InitValues();
     for (KivBoundValue* value : _values) value->Load();
     _form.ShowLocks();
     ShowValues();

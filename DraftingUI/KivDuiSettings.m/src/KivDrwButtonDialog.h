@@ -14,7 +14,7 @@ public:
     static constexpr const char* Name = "KivDrwButtonDialog";
     static constexpr const char* Framework = "DraftingUI";
 
-    // Takes the defaults of all values, in the order in which they are read; shows nothing.
+    // Takes the defaults of all values, which Init does for those that are not stored; shows nothing.
     void InitValues();
     // Takes the values in force, and shows them and their locks; what was chosen since is given up.
     void Init();
@@ -35,7 +35,6 @@ protected:
 
     KivSettingRepository* _repository = KivDrwRepository(); // may be null: the window then shows defaults
     KivBoundValues _values;                                 // in the order of reading and writing
-    std::vector<KivDrwPresetValue*> _presets;
     KivPageForm _form{*this};
 
 private:

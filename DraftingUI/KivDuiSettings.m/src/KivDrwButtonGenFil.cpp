@@ -1,18 +1,5 @@
 #include "KivDrwButtonGenFil.h"
 
-namespace {
-
-// Created in another order than they are shown and numbered, deliberately. Another value checks none.
-const KivFormRadios& Representations()
-{
-    static const auto& radios = *new KivFormRadios{
-        .buttons = {
-            {"radioBoundaries", 1, 0}, {"radioSymbo", 2, 1}, {"radioProjEd", 4, 3}, {"radioOrigEd", 3, 2}}};
-    return radios;
-}
-
-} // namespace
-
 KivDrwButtonGenFil::KivDrwButtonGenFil(KivDialog* parent, const KivString& name)
     : KivClass(parent, name, "KivDrwButtonGen")
 {
@@ -22,6 +9,13 @@ KivDrwButtonGenFil::KivDrwButtonGenFil(KivDialog* parent, const KivString& name)
 
 void KivDrwButtonGenFil::Build()
 {
-    _form.Group(*this, "frameButtonGenFil", "I_DrwFrontView")
-        .Radios("frameRadioGenFil", _representation, Representations());
+    const KivSettingKind& kind = _representation.Kind();
+    const KivDrwLockFrame* frame = _form.Group(*this, "frameButtonGenFil", "I_DrwFrontView")
+                                       .Radios("frameRadioGenFil", _representation, kind);
+    // They were created in another order than they stand, deliberately: each stands where its number says.
+    for (const KivSettingChoice& choice : kind.Choices()) {
+        frame->GetDialog()
+            ->FindDialog(choice.name)
+            ->SetGridConstraints(static_cast<short>(choice.value - 1), 0, 1, 1, KivDlgAttachAllSides);
+    }
 }

@@ -13,8 +13,8 @@
 namespace {
 
 constexpr const char* kCatalogue = "KivDrwButtonHRVView";
-constexpr int kLeast = 1;
-constexpr int kGreatest = 15;
+constexpr int kLeast = static_cast<int>(KivDrwKinds::DetailLevel.minimum);
+constexpr int kGreatest = static_cast<int>(KivDrwKinds::DetailLevel.maximum);
 constexpr double kUnitsPerLevel = 5.0; // along x
 
 constexpr int kPixels = 85; // width and height of the graph at scale 1
@@ -30,8 +30,7 @@ constexpr double kCaptionLeast = 38.0;
 constexpr double kCaptionGreatest = 55.0;
 
 constexpr unsigned int kTopAndBottom = KivDlgAttachTop | KivDlgAttachBottom;
-constexpr KivWholeSetup kLevel{
-    .minimum = kLeast, .maximum = kGreatest, .step = 1.0, .precision = 0, .width = 2, .style = 0x60000};
+constexpr KivSpinnerLook kLook{.width = 2, .style = 0x60000};
 
 } // namespace
 
@@ -47,7 +46,9 @@ void KivDrwButtonHRVView::Build()
     KivFormGroup options = _form.Group(*this, "frmHRVOptions", "");
     KivFormLine line = options.Line();
     line.Attached(kTopAndBottom).Label("lblHRVLOD");
-    _spinner = line.Attached(kTopAndBottom).Spinner("spinHRVLOD", _level, kLevel, [this] { MoveCursor(); });
+    _spinner = line.Attached(kTopAndBottom)
+                   .Spinner(
+                       "spinHRVLOD", _level, _level.Kind(), [this] { MoveCursor(); }, kLook);
     BuildViewer(&options.Frame());
 }
 

@@ -6,29 +6,8 @@
 
 namespace {
 
-constexpr const char* kCatalogue = "KivDrwButtonRasterView";
 constexpr int kCustom = 3; // the quality that is the user's own resolution
 constexpr const char* kPictures[] = {"I_HiddenLineDynamic", "I_Shading", "I_ShadingWithEdges"};
-
-constexpr KivWholeSetup kResolution{
-    .minimum = 1.0, .maximum = 1200.0, .step = 1.0, .initial = 5.0, .precision = 1};
-
-const KivFormChoice& Modes()
-{
-    static const auto& lines = *new KivFormChoice{
-        .catalogue = kCatalogue, .lines = {{"HRD_Mode", 0}, {"ShadingMode", 1}, {"ShadingWithEdgesMode", 2}}};
-    return lines;
-}
-
-const KivFormChoice& Qualities()
-{
-    static const auto& lines = *new KivFormChoice{.catalogue = kCatalogue,
-                                                  .lines = {{"LowQualityMode", 0},
-                                                            {"NormalQualityMode", 1},
-                                                            {"HighQualityMode", 2},
-                                                            {"CustomizeMode", kCustom}}};
-    return lines;
-}
 
 // A quarter of the dots an inch at which a line of weight 2 is two dots thick.
 double BaseResolution()
@@ -44,7 +23,7 @@ double BaseResolution()
 } // namespace
 
 KivDrwButtonRasterView::KivDrwButtonRasterView(KivDialog* parent, const KivString& name)
-    : KivClass(parent, name, kCatalogue), _baseResolution(BaseResolution())
+    : KivClass(parent, name, "KivDrwButtonRasterView"), _baseResolution(BaseResolution())
 {
     Build();
     Open();
@@ -54,7 +33,7 @@ void KivDrwButtonRasterView::Build()
 {
     KivFormGroup options = _form.Group(*this, "frmRasterOptions", "");
     KivFormLine mode = options.Line("lblRasterMode");
-    mode.Choice("combRasterMod", _mode, Modes(), 0x40, [this] { UpdateImage(); });
+    mode.Choice("combRasterMod", _mode, _mode.Kind(), 0x40, [this] { UpdateImage(); });
     _picture = mode.Picture("lblRasterModImage");
     options.Line().At(0, 3).Label("lblLOD");
     BuildMedium(options.Line("lblLODVisu"), "combLODVisu", 0x400, "spinLODVisu", _screen);
@@ -64,8 +43,9 @@ void KivDrwButtonRasterView::Build()
 void KivDrwButtonRasterView::BuildMedium(KivFormLine line, const char* combo, unsigned long comboStyle,
                                          const char* spinner, Medium& medium)
 {
-    line.Choice(combo, medium.quality, Qualities(), comboStyle, [this, &medium] { ShowResolution(medium); });
-    medium.spinner = line.Spinner(spinner, medium.resolution, kResolution);
+    line.Choice(combo, medium.quality, medium.quality.Kind(), comboStyle,
+                [this, &medium] { ShowResolution(medium); });
+    medium.spinner = line.Spinner(spinner, medium.resolution, medium.resolution.Kind());
 }
 
 void KivDrwButtonRasterView::ShowValues()

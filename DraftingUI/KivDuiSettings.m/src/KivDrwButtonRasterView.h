@@ -20,8 +20,8 @@ private:
 
     // What one of the two, screen or paper, consists of.
     struct Medium {
-        KivCachedValue<int>& quality;
-        KivCachedValue<int>& resolution;
+        KivDrwKeyValue<int>& quality;
+        KivDrwKeyValue<int>& resolution;
         KivWeakPtr<KivDrwLockSpinner> spinner;
     };
     void BuildMedium(KivFormLine line, const char* combo, unsigned long comboStyle, const char* spinner,

@@ -1,17 +1,5 @@
 #include "KivDrwButtonWireFrameMod.h"
 
-namespace {
-
-// Any value but 1 is visible.
-const KivFormRadios& Modes()
-{
-    static const auto& radios =
-        *new KivFormRadios{.buttons = {{"radioHidden", 1, 0, 2}, {"radioVisible", 2, 1}}, .otherwise = 2};
-    return radios;
-}
-
-} // namespace
-
 KivDrwButtonWireFrameMod::KivDrwButtonWireFrameMod(KivDialog* parent, const KivString& name)
     : KivClass(parent, name, "KivDrwButtonGen")
 {
@@ -22,11 +10,12 @@ KivDrwButtonWireFrameMod::KivDrwButtonWireFrameMod(KivDialog* parent, const KivS
 void KivDrwButtonWireFrameMod::Build()
 {
     const KivDrwLockFrame* frame =
-        _form.Group(*this, "frmWireFrameMod", "").Radios("radioFrmWireFrameMod", _mode, Modes());
+        _form.Group(*this, "frmWireFrameMod", "").Radios("radioFrmWireFrameMod", _mode, _mode.Kind());
     const auto radio = [&](const char* name) {
         return static_cast<KivDlgRadioButton*>(frame->GetDialog()->FindDialog(name));
     };
     _hidden = radio("radioHidden");
+    _hidden->SetGridConstraints(0, 0, 1, 2, KivDlgAttachAllSides);
     _visible = radio("radioVisible");
 }
 

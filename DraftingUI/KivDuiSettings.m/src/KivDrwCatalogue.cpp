@@ -6,18 +6,20 @@ namespace {
 
 using enum KivDrwGroup;
 
-template <const auto& key> KivDrwValue DefaultOf()
+template <const auto& key> KivSettingValue DefaultOf()
 {
     return key.makeDefault();
 }
 
 constexpr KivDrwRow kRows[] = {
-#define KIV_ROW(group, key, onPage, source) {group, #key, &DefaultOf<KivDrwKeys::key>, onPage, #source},
-#define KIV_SETTING(group, type, key, function, value) KIV_ROW(group, key, true, key)
-#define KIV_COMPUTED(group, type, key, function) KIV_ROW(group, key, true, key)
-#define KIV_RESET_ONLY(group, type, key, function, value) KIV_ROW(group, key, false, key)
-#define KIV_LITERAL(group, type, key, value) KIV_ROW(group, key, false, key)
-#define KIV_WRITTEN_FROM(group, type, key, function, value, source) KIV_ROW(group, key, true, source)
+#define KIV_ROW(group, key, kind, onPage, source)                                                            \
+    {group, #key, &DefaultOf<KivDrwKeys::key>, KivDrwKinds::kind, onPage, #source},
+#define KIV_SETTING(group, type, key, function, value, kind) KIV_ROW(group, key, kind, true, key)
+#define KIV_COMPUTED(group, type, key, function, kind) KIV_ROW(group, key, kind, true, key)
+#define KIV_RESET_ONLY(group, type, key, function, value, kind) KIV_ROW(group, key, kind, false, key)
+#define KIV_LITERAL(group, type, key, value, kind) KIV_ROW(group, key, kind, false, key)
+#define KIV_WRITTEN_FROM(group, type, key, function, value, kind, source)                                    \
+    KIV_ROW(group, key, kind, true, source)
 #include "KivDrwSettings.def"
 #undef KIV_ROW
 };

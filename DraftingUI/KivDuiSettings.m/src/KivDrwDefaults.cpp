@@ -7,12 +7,12 @@
 #include <algorithm>
 
 // The constant defaults, and from their rows alone.
-#define KIV_SETTING(group, type, key, function, value)                                                       \
+#define KIV_SETTING(group, type, key, function, value, kind)                                                 \
     type function()                                                                                          \
     {                                                                                                        \
         return value;                                                                                        \
     }
-#define KIV_COMPUTED(group, type, key, function)
+#define KIV_COMPUTED(group, type, key, function, kind)
 #include "KivDrwSettings.def"
 
 namespace {

@@ -2,11 +2,5 @@
 
 void KivDrwKeyPageFrame::InitDraftingValues()
 {
-    for (KivDrwPresetValue* value : _presets) value->Preset();
-}
-
-void KivDrwKeyPageFrame::Initialize()
-{
-    InitDraftingValues();
-    KivPageFrame::Initialize();
+    for (KivBoundValue* value : _values) value->LoadDefault();
 }

@@ -10,11 +10,9 @@ public:
     static constexpr const char* Name = "KivDrwKeyPageFrame";
     using KivClass::KivClass;
 
-    // Sets every cached value to its default.
+    // Sets every cached value to its default, which Initialize does for those that are not stored.
     void InitDraftingValues();
-    void Initialize() override;
 
 protected:
     KivSettingRepository* _repository = KivDrwRepository(); // may be null: the page then shows defaults
-    std::vector<KivDrwPresetValue*> _presets;
 };

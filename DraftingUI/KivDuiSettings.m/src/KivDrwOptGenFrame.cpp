@@ -1,16 +1,8 @@
 #include "KivDrwOptGenFrame.h"
 
-#include "KivDrwGenerationMode.h"
-
 namespace {
 
-constexpr KivWholeSetup kTimeOut{.unit = KivDlgUnitSecond,
-                                 .minimum = 1.0,
-                                 .maximum = 300.0,
-                                 .step = 1.0,
-                                 .precision = 4,
-                                 .width = 3,
-                                 .style = 0x60000};
+constexpr KivSpinnerLook kTimeOutLook{.width = 3, .style = 0x60000};
 
 // The groups stand apart: rows 0 and 2 of the page stay empty, deliberately.
 constexpr short kDimensionRow = 1;
@@ -38,7 +30,8 @@ void KivDrwOptGenFrame::BuildDimensions()
         KivFormLine line = dimensions.Line();
         // The label never grays, deliberately.
         line.Label("labelGenDimSemiAuto")->GetDialog()->SetGraysWithControl(false);
-        return line.Spinner("spinnerGenDimSemiAuto", _genDimSemiAutoTimeOut, kTimeOut);
+        return line.Spinner("spinnerGenDimSemiAuto", _genDimSemiAutoTimeOut, _genDimSemiAutoTimeOut.Kind(),
+                            {}, kTimeOutLook);
     };
     const std::vector<KivDrwLockDialog*> controls = {
         dimensions.Line().At(0, 2).Check("checkGenDim", _genDim),

@@ -6,20 +6,6 @@ namespace {
 
 constexpr int kPathWidth = 45; // characters
 
-const KivFormChoice& CalloutSizes()
-{
-    static const auto& sizes =
-        *new KivFormChoice{.catalogue = "KivDrwFrameLayout", .lines = {{"Scaled", 0}, {"Constant", 1}}};
-    return sizes;
-}
-
-const KivFormRadios& SheetSources()
-{
-    static const auto& sources =
-        *new KivFormRadios{.buttons = {{"radioSheetFirst", 1}, {"radioSheetOther", 0}}};
-    return sources;
-}
-
 } // namespace
 
 void KivDrwOptLayoutFrame::Build()
@@ -35,7 +21,7 @@ void KivDrwOptLayoutFrame::BuildViews()
     shown.Line().At(0, 2).Check("checkViewName", _viewName);
     shown.Line().At(0, 2).Check("checkViewScale", _viewScale);
     shown.Line().At(0, 2).Check("checkViewFrame", _viewFrame);
-    shown.Line("labelCalloutSize").Choice("comboCalloutSize", _calloutSize, CalloutSizes(), 0UL);
+    shown.Line("labelCalloutSize").Choice("comboCalloutSize", _calloutSize, _calloutSize.Kind(), 0UL);
 
     KivFormGroup placed = Group("frameViewPosition", "I_DrwViewPosition");
     placed.Line().Check("checkViewOrientation", _viewOrientation);
@@ -47,7 +33,7 @@ void KivDrwOptLayoutFrame::BuildSheets()
 {
     KivFormGroup sheet = Group("frameNewSheet", "I_DrwNewSheet");
     sheet.Line().Check("checkBackgroundToCopy", _backgroundViewToCopy);
-    KivDrwLockDialog* sources = sheet.Radios("frameSheetSource", _sourceSheetType, SheetSources());
+    KivDrwLockDialog* sources = sheet.Radios("frameSheetSource", _sourceSheetType, _sourceSheetType.Kind());
     _rules.AvailableWhile([this] { return _backgroundViewToCopy.cached; }, {sources});
 }
 

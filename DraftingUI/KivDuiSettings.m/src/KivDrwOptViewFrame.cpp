@@ -7,24 +7,8 @@
 #include "KivDrwButtonProject3DPts.h"
 #include "KivDrwButtonRasterView.h"
 #include "KivDrwButtonWireFrameMod.h"
-#include "KivDrwGenerationMode.h"
 
 namespace {
-
-// Modes 2 and 3 stand in the combo the other way round, deliberately.
-const KivFormChoice& ModeLines()
-{
-    static const auto& lines = *new KivFormChoice{.catalogue = "KivDrwOptView",
-                                                  .lines = {{"ExactView", KivDrwExactMode},
-                                                            {"VbxView", KivDrwVbxMode},
-                                                            {"HRV", KivDrwHrvMode},
-                                                            {"PictureView", KivDrwRasterMode}}};
-    return lines;
-}
-
-// The tolerance is stored in meters, as its spinner holds it: without a factor, deliberately.
-constexpr KivSpinnerSetup kTolerance{
-    .magnitude = KivDlgMagnitudeLength, .minimum = 0.0, .maximum = 1.0e12, .step = 0.001};
 
 constexpr unsigned long kComboStyle = 0x40000;
 
@@ -36,7 +20,7 @@ void KivDrwOptViewFrame::Build()
     BuildGeneration();
     Group("frameClipping", "I_DrwClippingView")
         .Line()
-        .Check("chkDimClipNoShow", _dimClipNoShow, {}, KivTicked::OnlyFor1);
+        .Check("chkDimClipNoShow", _dimClipNoShow, _dimClipNoShow.Kind());
     KivFormGroup view3D = Group("frameView3D", "I_DrwZekView");
     view3D.Line().Check("chkQmtAnnotLay", _qmtAnnotLay);
     view3D.Line().Check("chkGeomOf2DLView", _geomOf2DLView);
@@ -81,7 +65,7 @@ void KivDrwOptViewFrame::BuildGeneration()
     KivFormGroup generation = Group("frameGenView", "I_DrwFrontView");
     _form.SetCallback(&KivDrwOptViewFrame::GenFromVbxCallback);
     KivFormLine mode = generation.Part("frmViewMod", 2).Line("lbl");
-    mode.Choice("combViewMod", _mode, ModeLines(), kComboStyle);
+    mode.Choice("combViewMod", _mode, _mode.Kind(), kComboStyle);
     _form.SetCallback(&KivDrwOptViewFrame::Write);
     mode.Spacer("lbl1");
     BuildPush(mode, "pushRasterOptions", &KivDrwOptViewFrame::PushRasterOptions);
@@ -89,9 +73,9 @@ void KivDrwOptViewFrame::BuildGeneration()
     generation.Line().Check("chkExactPreview", _exactPreview);
     KivFormLine box = generation.Part("frmGenBox").Line();
     const KivDrwLockCheckButton* check = box.At(1).Check("checkGenBox", _genBox);
-    box.Spinner("spinGenBox", _genBoxTol, kTolerance)->SetLongHelp(check->GetLongHelp());
+    box.Spinner("spinGenBox", _genBoxTol, _genBoxTol.Kind())->SetLongHelp(check->GetLongHelp());
     generation.Line().Check("chkOcclusionCulling", _occlusionCulling);
-    generation.Line().Check("chkSelBodyInAss", _selBodyInAss, {}, KivTicked::OnlyFor1);
+    generation.Line().Check("chkSelBodyInAss", _selBodyInAss, _selBodyInAss.Kind());
 }
 
 void KivDrwOptViewFrame::BuildPush(KivFormLine line, const KivString& name, Callback callback)

@@ -23,15 +23,13 @@ int ResetAndWriteSettings(unsigned char write)
     if (!repository || !KivDrwSketcherSettings::GetSketcherSettings()) return 0;
     for (const KivDrwGroup group : KivDrwCatalogue::Groups()) {
         const auto rows = KivDrwCatalogue::Rows(group);
-        std::vector<KivDrwValue> values;
+        std::vector<KivSettingValue> values;
         values.reserve(rows.size());
         for (const KivDrwRow& row : rows) values.push_back(row.makeDefault());
-        for (std::size_t i = 0; i < rows.size(); ++i)
-            std::visit([&](auto& value) { repository->ReadSetting(rows[i].key, &value, 1); }, values[i]);
+        for (std::size_t i = 0; i < rows.size(); ++i) repository->ReadSetting(rows[i].key, &values[i], 1);
         if (!write) continue;
         for (const KivDrwRow& row : rows)
-            std::visit([&](auto& value) { repository->WriteSetting(row.key, &value, 1, 0); },
-                       values[IndexOf(rows, row.writtenFrom)]);
+            repository->WriteSetting(row.key, &values[IndexOf(rows, row.writtenFrom)], 1, 0);
     }
     return 1;
 }

@@ -25,7 +25,7 @@ KivFormGroup KivFormGroup::Part(const KivString& name, short columns)
 }
 
 KivDrwLockFrame* KivFormGroup::Radios(const KivString& name, KivCachedValue<int>& value,
-                                      const KivFormRadios& radios, KivFormLine::Rule rule)
+                                      const KivSettingKind& kind, KivFormLine::Rule rule)
 {
     const short line = _lines++;
     if (_form.LeavesOut(value)) return nullptr;
@@ -33,15 +33,13 @@ KivDrwLockFrame* KivFormGroup::Radios(const KivString& name, KivCachedValue<int>
     frame->SetGridConstraints(line, 0, 1, 1, KivDlgAttachAllSides);
     std::vector<KivRadioRow::Button> buttons;
     short row = 0;
-    for (const KivFormRadios::Button& declared : radios.buttons) {
-        auto* button = new KivDlgRadioButton(frame->GetDialog(), declared.name, 0UL);
-        button->SetGridConstraints(declared.row < 0 ? row : declared.row, 0, 1, declared.columns,
-                                   KivDlgAttachAllSides);
-        ++row;
+    for (const KivSettingChoice& choice : kind.Choices()) {
+        auto* button = new KivDlgRadioButton(frame->GetDialog(), choice.name, 0UL);
+        button->SetGridConstraints(row++, 0, 1, 1, KivDlgAttachAllSides);
         _form.Connect(button, button->GetRadBModifyNotification());
-        buttons.push_back({button, declared.value});
+        buttons.push_back({button, choice.value});
     }
     _form.Add(
-        std::make_unique<KivRadioRow>(frame, value, std::move(buttons), radios.otherwise, std::move(rule)));
+        std::make_unique<KivRadioRow>(frame, value, std::move(buttons), kind.otherwise, std::move(rule)));
     return frame;
 }

@@ -18,9 +18,9 @@ public:
     // A part of the group with lines of its own, in the place of the next line.
     KivFormGroup Part(const KivString& name, short columns = 1);
 
-    // Radio buttons under one padlock, in the place of the next line. The answered frame belongs to the
-    // dialog tree.
-    KivDrwLockFrame* Radios(const KivString& name, KivCachedValue<int>& value, const KivFormRadios& radios,
+    // Radio buttons under one padlock, one for each choice, in the place of the next line. The answered frame
+    // belongs to the dialog tree.
+    KivDrwLockFrame* Radios(const KivString& name, KivCachedValue<int>& value, const KivSettingKind& kind,
                             KivFormLine::Rule rule = {});
 
     KivDlgFrame& Frame() const { return _frame; }

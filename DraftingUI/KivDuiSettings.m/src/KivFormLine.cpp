@@ -3,7 +3,6 @@
 #include "DrwOptionsServices.h"
 #include "KivLineRows.h"
 #include "KivPageForm.h"
-#include "KivPageRows.h"
 #include "KivTextRow.h"
 
 #include <utility>
@@ -95,76 +94,68 @@ KivDlgPushButton* KivFormLine::Push(const KivString& name)
 KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivCachedValue<unsigned char>& value,
                                           Rule rule)
 {
-    return CheckOf(name, value, KivTicked::ForAnyBut0, std::move(rule));
+    return CheckOf(name, value, false, std::move(rule));
 }
 
-KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivCachedValue<int>& value, Rule rule,
-                                          KivTicked ticked)
+KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivCachedValue<int>& value, Rule rule)
 {
-    return CheckOf(name, value, ticked, std::move(rule));
+    return CheckOf(name, value, false, std::move(rule));
+}
+
+KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivCachedValue<int>& value,
+                                          const KivSettingKind& kind)
+{
+    return CheckOf(name, value, kind.isOnFor1Alone, {});
 }
 
 template <class T> KivDrwLockCheckButton*
-KivFormLine::CheckOf(const KivString& name, KivCachedValue<T>& value, KivTicked ticked, Rule rule)
+KivFormLine::CheckOf(const KivString& name, KivCachedValue<T>& value, bool isOnFor1Alone, Rule rule)
 {
     if (LeavesOut(value)) return nullptr;
     auto* button = new KivDrwLockCheckButton(&_frame, name, value.Info(), 0UL);
     Place(*button);
     Name(button->GetDialog());
     _form.Connect(button->GetDialog(), button->GetChkBModifyNotification());
-    _form.Add(std::make_unique<KivCheckRow<T>>(button, value, ticked, std::move(rule)));
+    _form.Add(std::make_unique<KivCheckRow<T>>(button, value, isOnFor1Alone, std::move(rule)));
     return button;
 }
 
-KivDrwLockSpinner* KivFormLine::BareSpinner(const KivString& name, const KivSettingInfo& info, int width,
-                                            unsigned long style)
+KivDrwLockSpinner* KivFormLine::BareSpinner(const KivString& name, const KivSettingInfo& info,
+                                            const KivSettingKind& kind, const KivSpinnerLook& look)
 {
-    auto* spinner = new KivDrwLockSpinner(&_frame, name, info, style);
+    auto* spinner = new KivDrwLockSpinner(&_frame, name, info, look.style);
     Place(*spinner);
     Name(spinner->GetDialog());
-    spinner->SetVisibleTextWidth(width);
+    spinner->SetVisibleTextWidth(look.width);
+    if (kind.format) spinner->SetFormat(kind.format);
+    spinner->SetPrecision(kind.decimals);
+    if (kind.magnitude == KivDlgMagnitudeLength)
+        DrwOptionsServices::SetControlUnitToPqeLength(spinner, kind.decimals);
+    if (kind.magnitude == KivDlgMagnitudeAngle)
+        DrwOptionsServices::SetControlUnitToPqeAngle(spinner, kind.decimals);
+    if (kind.magnitude == KivDlgMagnitudeTime) spinner->SetUnit(KivDlgUnitSecond);
+    spinner->SetValue(kind.initial, 0);
+    spinner->SetMinMaxStep(kind.minimum * kind.shownPerStored, kind.maximum * kind.shownPerStored,
+                           kind.step * kind.shownPerStored);
     if (_label) spinner->SetLongHelp(LabelHelp());
     _form.Connect(spinner->GetDialog(), spinner->GetSpinnerModifyNotification());
     return spinner;
 }
 
 KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivCachedValue<double>& value,
-                                        const KivSpinnerSetup& setup, Rule rule)
+                                        const KivSettingKind& kind, Rule rule, const KivSpinnerLook& look)
 {
     if (LeavesOut(value)) return nullptr;
-    KivDrwLockSpinner* spinner = BareSpinner(name, value.Info(), kKivSpinnerWidth);
-    spinner->SetValue(setup.initial, 0);
-    spinner->SetMinMaxStep(setup.minimum, setup.maximum, setup.step);
-    if (setup.magnitude == KivDlgMagnitudeAngle) {
-        DrwOptionsServices::SetControlUnitToPqeAngle(spinner, setup.precision);
-    } else {
-        DrwOptionsServices::SetControlUnitToPqeLength(spinner, setup.precision);
-    }
-    _form.Add(std::make_unique<KivMeasureRow>(spinner, value, setup.shownPerStored, setup.storedPerShown,
-                                              std::move(rule)));
+    KivDrwLockSpinner* spinner = BareSpinner(name, value.Info(), kind, look);
+    _form.Add(std::make_unique<KivMeasureRow>(spinner, value, kind, std::move(rule)));
     return spinner;
 }
 
 KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivCachedValue<int>& value,
-                                        const KivCountSetup& setup, Rule rule)
+                                        const KivSettingKind& kind, Rule rule, const KivSpinnerLook& look)
 {
     if (LeavesOut(value)) return nullptr;
-    KivDrwLockSpinner* spinner = BareSpinner(name, value.Info(), kKivSpinnerWidth);
-    spinner->SetFormat("%g");
-    spinner->SetRange(setup.minimum, setup.maximum, setup.values);
-    _form.Add(std::make_unique<KivWholeRow>(spinner, value, std::move(rule)));
-    return spinner;
-}
-
-KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivCachedValue<int>& value,
-                                        const KivWholeSetup& setup, Rule rule)
-{
-    if (LeavesOut(value)) return nullptr;
-    KivDrwLockSpinner* spinner = BareSpinner(name, value.Info(), setup.width, setup.style);
-    spinner->SetUnit(setup.unit);
-    spinner->SetPrecision(setup.precision);
-    spinner->SetValue(setup.initial, 0);
-    spinner->SetMinMaxStep(setup.minimum, setup.maximum, setup.step);
+    KivDrwLockSpinner* spinner = BareSpinner(name, value.Info(), kind, look);
     _form.Add(std::make_unique<KivWholeRow>(spinner, value, std::move(rule)));
     return spinner;
 }
@@ -195,11 +186,11 @@ KivDrwLockCombo* KivFormLine::BareCombo(const KivString& name, const KivSettingI
 }
 
 KivDrwLockCombo* KivFormLine::Choice(const KivString& name, KivCachedValue<int>& value,
-                                     const KivFormChoice& choice, unsigned long style, Rule rule)
+                                     const KivSettingKind& kind, unsigned long style, Rule rule)
 {
     if (LeavesOut(value)) return nullptr;
     KivDrwLockCombo* combo = BareCombo(name, value.Info(), style);
-    _form.Add(std::make_unique<KivChoiceRow>(combo, value, choice, std::move(rule)));
+    _form.Add(std::make_unique<KivChoiceRow>(combo, value, kind, std::move(rule)));
     return combo;
 }
 

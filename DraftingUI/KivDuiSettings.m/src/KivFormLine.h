@@ -11,12 +11,17 @@
 #include "KivDrwLockFrame.h"
 #include "KivDrwLockLabel.h"
 #include "KivDrwLockSpinner.h"
-#include "KivFormChoice.h"
-#include "KivPageRow.h"
+#include "KivPageRows.h"
 #include "KivPageValue.h"
-#include "KivSpinnerSetup.h"
+#include "KivSettingKind.h"
 
 class KivPageForm;
+
+// What a spinner looks like, whatever it shows.
+struct KivSpinnerLook {
+    int width = 5; // characters
+    unsigned long style = 0;
+};
 
 // A line of a group while it is declared, control by control from the left. A rule runs after the control's
 // value was stored. The answered control belongs to the dialog tree; it is null, and its cell stays empty,
@@ -33,16 +38,16 @@ public:
     KivFormLine& Attached(unsigned int attachment);
 
     KivDrwLockCheckButton* Check(const KivString& name, KivCachedValue<unsigned char>& value, Rule rule = {});
-    KivDrwLockCheckButton* Check(const KivString& name, KivCachedValue<int>& value, Rule rule = {},
-                                 KivTicked ticked = KivTicked::ForAnyBut0);
+    KivDrwLockCheckButton* Check(const KivString& name, KivCachedValue<int>& value, Rule rule = {});
+    KivDrwLockCheckButton* Check(const KivString& name, KivCachedValue<int>& value,
+                                 const KivSettingKind& kind); // of a switch that is on for 1 alone
+    // A measure, or a whole number: what is typed for that is cut.
     KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<double>& value,
-                               const KivSpinnerSetup& setup, Rule rule = {});
-    KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<int>& value, const KivCountSetup& setup,
-                               Rule rule = {});
-    KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<int>& value, const KivWholeSetup& setup,
-                               Rule rule = {});
+                               const KivSettingKind& kind, Rule rule = {}, const KivSpinnerLook& look = {});
+    KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<int>& value, const KivSettingKind& kind,
+                               Rule rule = {}, const KivSpinnerLook& look = {});
     KivDrwLockComboColor* Color(const KivString& name, KivCachedValue<KivPageColor>& value, Rule rule = {});
-    KivDrwLockCombo* Choice(const KivString& name, KivCachedValue<int>& value, const KivFormChoice& choice,
+    KivDrwLockCombo* Choice(const KivString& name, KivCachedValue<int>& value, const KivSettingKind& kind,
                             unsigned long style, Rule rule = {});
     KivDrwLockCombo* Names(const KivString& name, KivCachedValue<KivUnicodeString>& value, KivFormNames names,
                            Rule rule = {});
@@ -69,11 +74,11 @@ public:
                            Rule rule = {});
 
 private:
-    KivDrwLockSpinner* BareSpinner(const KivString& name, const KivSettingInfo& info, int width,
-                                   unsigned long style = 0);
+    KivDrwLockSpinner* BareSpinner(const KivString& name, const KivSettingInfo& info,
+                                   const KivSettingKind& kind, const KivSpinnerLook& look);
     KivDrwLockCombo* BareCombo(const KivString& name, const KivSettingInfo& info, unsigned long style);
     template <class T> KivDrwLockCheckButton* CheckOf(const KivString& name, KivCachedValue<T>& value,
-                                                      KivTicked ticked, Rule rule);
+                                                      bool isOnFor1Alone, Rule rule);
     bool LeavesOut(const KivBoundValue& value);
     void Place(KivDialog& control);
     void PlaceNamed(KivDrwLockDialog& wrapper, KivDlgCombo* combo);

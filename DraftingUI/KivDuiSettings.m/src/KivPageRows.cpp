@@ -7,21 +7,20 @@
 #include <algorithm>
 #include <utility>
 
-KivMeasureRow::KivMeasureRow(KivDrwLockSpinner* spinner, KivCachedValue<double>& value, double shownPerStored,
-                             double storedPerShown, Rule rule)
-    : KivValueRow(spinner, value, std::move(rule)), _shownPerStored(shownPerStored),
-      _storedPerShown(storedPerShown)
+KivMeasureRow::KivMeasureRow(KivDrwLockSpinner* spinner, KivCachedValue<double>& value,
+                             const KivSettingKind& kind, Rule rule)
+    : KivValueRow(spinner, value, std::move(rule)), _kind(kind)
 {}
 
 void KivMeasureRow::ShowValue(KivDrwLockSpinner& spinner, const double& value)
 {
-    KivDrwSettingsServices::UpdateSpinner(&spinner, value * _shownPerStored);
+    KivDrwSettingsServices::UpdateSpinner(&spinner, value * _kind.shownPerStored);
 }
 
 std::optional<double> KivMeasureRow::Reading(KivDrwLockSpinner& spinner)
 {
     double value = 0.0;
-    KivDrwSettingsServices::GetValueFromSpinner(&spinner, spinner.GetDialog(), _storedPerShown, value);
+    KivDrwSettingsServices::GetValueFromSpinner(&spinner, spinner.GetDialog(), _kind.storedPerShown, value);
     return value;
 }
 
@@ -62,21 +61,21 @@ std::optional<KivPageColor> KivColorRow::Reading(KivDrwLockComboColor& combo)
     return color;
 }
 
-KivChoiceRow::KivChoiceRow(KivDrwLockCombo* combo, KivCachedValue<int>& value, const KivFormChoice& choice,
+KivChoiceRow::KivChoiceRow(KivDrwLockCombo* combo, KivCachedValue<int>& value, const KivSettingKind& kind,
                            Rule rule)
-    : KivValueRow(combo, value, std::move(rule)), _choice(choice)
+    : KivValueRow(combo, value, std::move(rule)), _kind(kind)
 {}
 
 void KivChoiceRow::ShowValue(KivDrwLockCombo& control, const int& value)
 {
     KivDlgCombo* combo = control.GetCombo();
     if (!combo) return;
-    const KivTextCatalogue& texts = KivTextCatalogue::Open(_choice.catalogue);
+    const KivTextCatalogue& texts = KivTextCatalogue::Open(_kind.catalogue);
     const KivDialog::ChangesAsOne asOne(*combo);
     combo->ClearLine();
-    for (const KivFormChoice::Line& line : _choice.lines) {
-        combo->SetLine(texts.Text(line.key), -1);
-        if (line.value == value) combo->SetSelect(combo->GetLineCount() - 1);
+    for (const KivSettingChoice& choice : _kind.Choices()) {
+        combo->SetLine(texts.Text(choice.name), -1);
+        if (choice.value == value) combo->SetSelect(combo->GetLineCount() - 1);
     }
 }
 
@@ -84,7 +83,7 @@ std::optional<int> KivChoiceRow::Reading(KivDrwLockCombo& control)
 {
     const int line = control.GetCombo() ? control.GetCombo()->GetSelect() : -1;
     if (line < 0) return {};
-    return _choice.lines[static_cast<std::size_t>(line)].value;
+    return _kind.Choices()[static_cast<std::size_t>(line)].value;
 }
 
 KivNameRow::KivNameRow(KivDrwLockCombo* combo, KivCachedValue<KivUnicodeString>& value, KivFormNames names,

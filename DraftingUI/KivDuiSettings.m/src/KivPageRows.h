@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Base/KivListOfUnicodeString.h"
+#include "Base/KivResult.h"
 #include "Dialog/KivDlgRadioButton.h"
 #include "KivDrwLockCheckButton.h"
 #include "KivDrwLockCombo.h"
@@ -7,23 +9,23 @@
 #include "KivDrwLockFrame.h"
 #include "KivDrwLockSpinner.h"
 #include "KivDrwSettingsServices.h"
-#include "KivFormChoice.h"
 #include "KivPageRow.h"
+#include "KivSettingKind.h"
 
 // The kinds of rows, by the control that they have.
 
 // A switch: it is read as 1 or 0.
 template <class T> class KivCheckRow final : public KivValueRow<KivDrwLockCheckButton, T> {
 public:
-    KivCheckRow(KivDrwLockCheckButton* button, KivCachedValue<T>& value, KivTicked ticked,
+    KivCheckRow(KivDrwLockCheckButton* button, KivCachedValue<T>& value, bool isOnFor1Alone,
                 KivPageRow::Rule rule)
-        : KivValueRow<KivDrwLockCheckButton, T>(button, value, std::move(rule)), _ticked(ticked)
+        : KivValueRow<KivDrwLockCheckButton, T>(button, value, std::move(rule)), _isOnFor1Alone(isOnFor1Alone)
     {}
 
 private:
     void ShowValue(KivDrwLockCheckButton& button, const T& value) override
     {
-        const bool isOn = _ticked == KivTicked::OnlyFor1 ? value == 1 : value != 0;
+        const bool isOn = _isOnFor1Alone ? value == 1 : value != 0;
         KivDrwSettingsServices::UpdateCheckButton(&button, isOn);
     }
     std::optional<T> Reading(KivDrwLockCheckButton& button) override
@@ -33,22 +35,20 @@ private:
         return static_cast<T>(isOn);
     }
 
-    KivTicked _ticked;
+    bool _isOnFor1Alone;
 };
 
-// A measure: shown in the spinner's unit, stored in another. The two factors are stated, not computed from
-// one another, so that each direction rounds as it always has.
+// A measure: shown in the spinner's unit, stored in another.
 class KivMeasureRow final : public KivValueRow<KivDrwLockSpinner, double> {
 public:
-    KivMeasureRow(KivDrwLockSpinner* spinner, KivCachedValue<double>& value, double shownPerStored,
-                  double storedPerShown, Rule rule);
+    KivMeasureRow(KivDrwLockSpinner* spinner, KivCachedValue<double>& value, const KivSettingKind& kind,
+                  Rule rule);
 
 private:
     void ShowValue(KivDrwLockSpinner& spinner, const double& value) override;
     std::optional<double> Reading(KivDrwLockSpinner& spinner) override;
 
-    double _shownPerStored;
-    double _storedPerShown;
+    const KivSettingKind& _kind;
 };
 
 // A whole number that is typed as a real one: what is typed is cut towards zero and shown so.
@@ -88,14 +88,17 @@ private:
 // A choice from words.
 class KivChoiceRow final : public KivValueRow<KivDrwLockCombo, int> {
 public:
-    KivChoiceRow(KivDrwLockCombo* combo, KivCachedValue<int>& value, const KivFormChoice& choice, Rule rule);
+    KivChoiceRow(KivDrwLockCombo* combo, KivCachedValue<int>& value, const KivSettingKind& kind, Rule rule);
 
 private:
     void ShowValue(KivDrwLockCombo& combo, const int& value) override;
     std::optional<int> Reading(KivDrwLockCombo& combo) override;
 
-    KivFormChoice _choice;
+    const KivSettingKind& _kind;
 };
+
+// Delivers names that are found anew whenever the page is shown.
+using KivFormNames = HRESULT (*)(KivListOfUnicodeString& names);
 
 // A choice from names that are found when the page is shown, such as files on the disk.
 class KivNameRow final : public KivValueRow<KivDrwLockCombo, KivUnicodeString> {

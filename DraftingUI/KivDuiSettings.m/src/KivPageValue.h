@@ -10,6 +10,8 @@ class KivBoundValue {
 public:
     // Takes the value in force into the cache; what an accessor answers does not matter.
     virtual void Load() = 0;
+    // Takes the default into the cache; nothing happens where only the accessors know it.
+    virtual void LoadDefault() {}
     // Stores the cached value. One that is still as it was loaded was chosen by nobody.
     virtual void Save() = 0;
     // The lock record of the setting; without one it fails and leaves the record untouched.
