@@ -4,13 +4,13 @@
 #include "Dialog/KivDlgRadioButton.h"
 #include "Dialog/KivDlgSpinner.h"
 #include "Dialog/KivUserHand.h"
-#include "Kiv2DBaseOptGalFrm.h"
-#include "KivDrwOptAnnotFrm.h"
-#include "KivDrwOptGeoEditor.h"
-#include "KivDrwOptIntFrm.h"
 #include "KivDrwRepository.h"
 #include "KivDrwSettingAccess.h"
+#include "Pages/Kiv2DBaseOptGalFrm.h"
+#include "Pages/KivDrwOptAnnotFrm.h"
+#include "Pages/KivDrwOptIntFrm.h"
 #include "SketcherTest.h"
+#include "Tabs/KivDrwOptGeoEditor.h"
 
 namespace {
 

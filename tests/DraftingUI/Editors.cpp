@@ -1,8 +1,8 @@
-#include "KivDrwCommitSettingEditor.h"
 #include "KivDrwRepository.h"
-#include "KivDrwTabs.h"
 #include "Options/KivOptionsSession.h"
 #include "SketcherTest.h"
+#include "Tabs/KivDrwCommitSettingEditor.h"
+#include "Tabs/KivDrwTabs.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "KivDrwOptManipFrm.h"
+#include "Pages/KivDrwOptManipFrm.h"
 #include "Support/KivSettingsSandbox.h"
 
 #include <gtest/gtest.h>

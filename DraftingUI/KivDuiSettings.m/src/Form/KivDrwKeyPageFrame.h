@@ -1,0 +1,18 @@
+#pragma once
+
+#include "Form/KivDrwKeyValue.h"
+#include "Form/KivPageFrame.h"
+#include "KivDrwRepository.h"
+
+// A page without a generic frame and without accessors: it reads and writes the keys themselves.
+class KivDrwKeyPageFrame : public KivClass<KivDrwKeyPageFrame, KivPageFrame> {
+public:
+    static constexpr const char* Name = "KivDrwKeyPageFrame";
+    using KivClass::KivClass;
+
+    // Sets every cached value to its default, which Initialize does for those that are not stored.
+    void InitDraftingValues();
+
+protected:
+    KivSettingRepository* _repository = KivDrwRepository(); // may be null: the page then shows defaults
+};

@@ -1,0 +1,244 @@
+#include "Form/KivFormLine.h"
+
+#include "DrwOptionsServices.h"
+#include "Form/KivLineRows.h"
+#include "Form/KivPageForm.h"
+#include "Form/KivTextRow.h"
+
+#include <utility>
+
+namespace {
+
+// Of the combos of line types and weights, in characters and lines.
+constexpr int kLineWidth = 8;
+constexpr int kLinesHigh = 8;
+
+} // namespace
+
+KivFormLine& KivFormLine::At(short column, short columns)
+{
+    _column = column;
+    _columns = columns;
+    return *this;
+}
+
+KivFormLine& KivFormLine::Attached(unsigned int attachment)
+{
+    _attachment = attachment;
+    return *this;
+}
+
+void KivFormLine::Place(KivDialog& control)
+{
+    control.SetGridConstraints(_line, _column, 1, _columns, _attachment);
+    _column = static_cast<short>(_column + _columns);
+    _columns = 1;
+    _attachment = KivDlgAttachAllSides;
+}
+
+bool KivFormLine::LeavesOut(const KivBoundValue& value)
+{
+    if (!_form.LeavesOut(value)) return false;
+    At(static_cast<short>(_column + _columns)).Attached(KivDlgAttachAllSides);
+    return true;
+}
+
+void KivFormLine::Name(KivDialog* control)
+{
+    if (_label) _label->AddLabeledControl(control);
+}
+
+KivUnicodeString KivFormLine::LabelHelp() const
+{
+    return _label ? _label->GetLongHelp() : KivUnicodeString();
+}
+
+KivDrwLockLabel* KivFormLine::Label(const KivString& name)
+{
+    auto* label = new KivDrwLockLabel(&_frame, name, 1);
+    _label = label->GetDialog();
+    Place(*label);
+    return label;
+}
+
+KivDlgLabel* KivFormLine::PlainLabel(const KivString& name)
+{
+    auto* label = new KivDlgLabel(&_frame, name, 0UL);
+    _label = label;
+    Place(*label);
+    return label;
+}
+
+KivDrwLockLabel* KivFormLine::Picture(const KivString& name)
+{
+    auto* picture = new KivDrwLockLabel(&_frame, name, 1);
+    picture->SetTitle("");
+    Place(*picture);
+    return picture;
+}
+
+KivDrwLockLabel* KivFormLine::Spacer(const KivString& name)
+{
+    auto* spacer = new KivDrwLockLabel(&_frame, name, 0);
+    Place(*spacer);
+    return spacer;
+}
+
+KivDlgPushButton* KivFormLine::Push(const KivString& name)
+{
+    auto* button = new KivDlgPushButton(&_frame, name, 0UL);
+    Place(*button);
+    return button;
+}
+
+KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivCachedValue<unsigned char>& value,
+                                          Rule rule)
+{
+    return CheckOf(name, value, false, std::move(rule));
+}
+
+KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivCachedValue<int>& value, Rule rule)
+{
+    return CheckOf(name, value, false, std::move(rule));
+}
+
+KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivCachedValue<int>& value,
+                                          const KivSettingKind& kind)
+{
+    return CheckOf(name, value, kind.isOnFor1Alone, {});
+}
+
+template <class T> KivDrwLockCheckButton*
+KivFormLine::CheckOf(const KivString& name, KivCachedValue<T>& value, bool isOnFor1Alone, Rule rule)
+{
+    if (LeavesOut(value)) return nullptr;
+    auto* button = new KivDrwLockCheckButton(&_frame, name, value.Info(), 0UL);
+    Place(*button);
+    Name(button->GetDialog());
+    _form.Connect(button->GetDialog(), button->GetChkBModifyNotification());
+    _form.Add(std::make_unique<KivCheckRow<T>>(button, value, isOnFor1Alone, std::move(rule)));
+    return button;
+}
+
+KivDrwLockSpinner* KivFormLine::BareSpinner(const KivString& name, const KivSettingInfo& info,
+                                            const KivSettingKind& kind, const KivSpinnerLook& look)
+{
+    auto* spinner = new KivDrwLockSpinner(&_frame, name, info, look.style);
+    Place(*spinner);
+    Name(spinner->GetDialog());
+    spinner->SetVisibleTextWidth(look.width);
+    if (kind.format) spinner->SetFormat(kind.format);
+    spinner->SetPrecision(kind.decimals);
+    if (kind.magnitude == KivDlgMagnitudeLength)
+        DrwOptionsServices::SetControlUnitToPqeLength(spinner, kind.decimals);
+    if (kind.magnitude == KivDlgMagnitudeAngle)
+        DrwOptionsServices::SetControlUnitToPqeAngle(spinner, kind.decimals);
+    if (kind.magnitude == KivDlgMagnitudeTime) spinner->SetUnit(KivDlgUnitSecond);
+    spinner->SetValue(kind.initial, 0);
+    spinner->SetMinMaxStep(kind.minimum * kind.shownPerStored, kind.maximum * kind.shownPerStored,
+                           kind.step * kind.shownPerStored);
+    if (_label) spinner->SetLongHelp(LabelHelp());
+    _form.Connect(spinner->GetDialog(), spinner->GetSpinnerModifyNotification());
+    return spinner;
+}
+
+KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivCachedValue<double>& value,
+                                        const KivSettingKind& kind, Rule rule, const KivSpinnerLook& look)
+{
+    if (LeavesOut(value)) return nullptr;
+    KivDrwLockSpinner* spinner = BareSpinner(name, value.Info(), kind, look);
+    _form.Add(std::make_unique<KivMeasureRow>(spinner, value, kind, std::move(rule)));
+    return spinner;
+}
+
+KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivCachedValue<int>& value,
+                                        const KivSettingKind& kind, Rule rule, const KivSpinnerLook& look)
+{
+    if (LeavesOut(value)) return nullptr;
+    KivDrwLockSpinner* spinner = BareSpinner(name, value.Info(), kind, look);
+    _form.Add(std::make_unique<KivWholeRow>(spinner, value, std::move(rule)));
+    return spinner;
+}
+
+KivDrwLockComboColor* KivFormLine::Color(const KivString& name, KivCachedValue<KivPageColor>& value,
+                                         Rule rule)
+{
+    if (LeavesOut(value)) return nullptr;
+    auto* combo = new KivDrwLockComboColor(&_frame, name, value.Info());
+    PlaceNamed(*combo, combo->GetCombo());
+    _form.Add(std::make_unique<KivColorRow>(combo, value, std::move(rule)));
+    return combo;
+}
+
+void KivFormLine::PlaceNamed(KivDrwLockDialog& wrapper, KivDlgCombo* combo)
+{
+    Place(wrapper);
+    Name(wrapper.GetDialog());
+    if (combo) _form.Connect(combo, combo->GetComboSelectNotification());
+}
+
+KivDrwLockCombo* KivFormLine::BareCombo(const KivString& name, const KivSettingInfo& info,
+                                        unsigned long style)
+{
+    auto* combo = new KivDrwLockCombo(&_frame, name, info, style);
+    PlaceNamed(*combo, combo->GetCombo());
+    return combo;
+}
+
+KivDrwLockCombo* KivFormLine::Choice(const KivString& name, KivCachedValue<int>& value,
+                                     const KivSettingKind& kind, unsigned long style, Rule rule)
+{
+    if (LeavesOut(value)) return nullptr;
+    KivDrwLockCombo* combo = BareCombo(name, value.Info(), style);
+    _form.Add(std::make_unique<KivChoiceRow>(combo, value, kind, std::move(rule)));
+    return combo;
+}
+
+KivDrwLockCombo* KivFormLine::Names(const KivString& name, KivCachedValue<KivUnicodeString>& value,
+                                    KivFormNames names, Rule rule)
+{
+    if (LeavesOut(value)) return nullptr;
+    KivDrwLockCombo* combo = BareCombo(name, value.Info(), 0UL);
+    _form.Add(std::make_unique<KivNameRow>(combo, value, names, std::move(rule)));
+    return combo;
+}
+
+KivDrwLockComboDashed* KivFormLine::LineType(const KivString& name, KivCachedValue<unsigned int>& value,
+                                             KivSettingRepository* repository, const KivString& key)
+{
+    constexpr char kWithBreakLine = 1;
+    auto* combo = new KivDrwLockComboDashed(repository, key, &_frame, name, kWithBreakLine, 0UL, 0U);
+    PlaceNamed(*combo, combo->GetCombo());
+    combo->SetVisibleTextWidth(kLineWidth);
+    combo->SetVisibleTextHeight(kLinesHigh);
+    _form.Add(std::make_unique<KivLineTypeRow>(combo, value, Rule()));
+    return combo;
+}
+
+KivDrwLockComboWeight* KivFormLine::LineWeight(const KivString& name, KivCachedValue<unsigned int>& value,
+                                               KivSettingRepository* repository, const KivString& key)
+{
+    auto* combo = new KivDrwLockComboWeight(repository, key, &_frame, name, 0UL, 0U);
+    PlaceNamed(*combo, combo->GetCombo());
+    if (KivDlgCombo* inner = combo->GetCombo()) {
+        inner->SetVisibleTextHeight(kLinesHigh);
+        inner->SetVisibleTextWidth(kLineWidth);
+    }
+    _form.Add(std::make_unique<KivLineWeightRow>(combo, value, Rule()));
+    return combo;
+}
+
+KivDrwLockEditor* KivFormLine::Text(const KivString& name, KivCachedValue<KivUnicodeString>& value, int width,
+                                    Rule rule)
+{
+    if (LeavesOut(value)) return nullptr;
+    auto* editor = new KivDrwLockEditor(&_frame, name, value.Info(), 0UL);
+    Place(*editor);
+    Name(editor->GetDialog());
+    if (KivDlgEditor* field = editor->GetEditor()) {
+        field->SetVisibleTextWidth(width);
+        _form.Connect(field, field->GetEditModifyNotification());
+    }
+    _form.Add(std::make_unique<KivTextRow>(editor, value, std::move(rule)));
+    return editor;
+}

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "Dialog/KivDlgFrame.h"
+#include "Dialog/KivDlgPushButton.h"
+#include "Form/KivPageRows.h"
+#include "Form/KivPageValue.h"
+#include "KivSettingKind.h"
+#include "Lock/KivDrwLockCheckButton.h"
+#include "Lock/KivDrwLockCombo.h"
+#include "Lock/KivDrwLockComboColor.h"
+#include "Lock/KivDrwLockComboDashed.h"
+#include "Lock/KivDrwLockComboWeight.h"
+#include "Lock/KivDrwLockEditor.h"
+#include "Lock/KivDrwLockFrame.h"
+#include "Lock/KivDrwLockLabel.h"
+#include "Lock/KivDrwLockSpinner.h"
+
+class KivPageForm;
+
+// What a spinner looks like, whatever it shows.
+struct KivSpinnerLook {
+    int width = 5; // characters
+    unsigned long style = 0;
+};
+
+// A line of a group while it is declared, control by control from the left. A rule runs after the control's
+// value was stored. The answered control belongs to the dialog tree; it is null, and its cell stays empty,
+// when the form leaves out what has no lock record.
+class KivFormLine {
+public:
+    using Rule = KivPageRow::Rule;
+
+    KivFormLine(KivPageForm& form, KivDlgFrame& frame, short line) : _form(form), _frame(frame), _line(line)
+    {}
+
+    // Where the next control stands, over how many columns, and how it is attached there.
+    KivFormLine& At(short column, short columns = 1);
+    KivFormLine& Attached(unsigned int attachment);
+
+    KivDrwLockCheckButton* Check(const KivString& name, KivCachedValue<unsigned char>& value, Rule rule = {});
+    KivDrwLockCheckButton* Check(const KivString& name, KivCachedValue<int>& value, Rule rule = {});
+    KivDrwLockCheckButton* Check(const KivString& name, KivCachedValue<int>& value,
+                                 const KivSettingKind& kind); // of a switch that is on for 1 alone
+    // A measure, or a whole number: what is typed for that is cut.
+    KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<double>& value,
+                               const KivSettingKind& kind, Rule rule = {}, const KivSpinnerLook& look = {});
+    KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<int>& value, const KivSettingKind& kind,
+                               Rule rule = {}, const KivSpinnerLook& look = {});
+    KivDrwLockComboColor* Color(const KivString& name, KivCachedValue<KivPageColor>& value, Rule rule = {});
+    KivDrwLockCombo* Choice(const KivString& name, KivCachedValue<int>& value, const KivSettingKind& kind,
+                            unsigned long style, Rule rule = {});
+    KivDrwLockCombo* Names(const KivString& name, KivCachedValue<KivUnicodeString>& value, KivFormNames names,
+                           Rule rule = {});
+    // A line type and a line weight; the lock record is that of the key.
+    KivDrwLockComboDashed* LineType(const KivString& name, KivCachedValue<unsigned int>& value,
+                                    KivSettingRepository* repository, const KivString& key);
+    KivDrwLockComboWeight* LineWeight(const KivString& name, KivCachedValue<unsigned int>& value,
+                                      KivSettingRepository* repository, const KivString& key);
+    // A button that opens something: the owner connects it.
+    KivDlgPushButton* Push(const KivString& name);
+
+    // A text that names the next control, under the padlocks' column or without it.
+    KivDrwLockLabel* Label(const KivString& name);
+    KivDlgLabel* PlainLabel(const KivString& name);
+    // A picture without a text; its icon is to be set.
+    KivDrwLockLabel* Picture(const KivString& name);
+    // Leaves the padlocks' column of this cell empty.
+    KivDrwLockLabel* Spacer(const KivString& name);
+    // The help of the text that names this line's controls.
+    KivUnicodeString LabelHelp() const;
+
+    // A field for a text, so many characters wide.
+    KivDrwLockEditor* Text(const KivString& name, KivCachedValue<KivUnicodeString>& value, int width,
+                           Rule rule = {});
+
+private:
+    KivDrwLockSpinner* BareSpinner(const KivString& name, const KivSettingInfo& info,
+                                   const KivSettingKind& kind, const KivSpinnerLook& look);
+    KivDrwLockCombo* BareCombo(const KivString& name, const KivSettingInfo& info, unsigned long style);
+    template <class T> KivDrwLockCheckButton* CheckOf(const KivString& name, KivCachedValue<T>& value,
+                                                      bool isOnFor1Alone, Rule rule);
+    bool LeavesOut(const KivBoundValue& value);
+    void Place(KivDialog& control);
+    void PlaceNamed(KivDrwLockDialog& wrapper, KivDlgCombo* combo);
+    void Name(KivDialog* control);
+
+    KivPageForm& _form;
+    KivDlgFrame& _frame;
+    short _line;
+    short _column = 0;
+    short _columns = 1;
+    unsigned int _attachment = KivDlgAttachAllSides;
+    KivWeakPtr<KivDlgLabel> _label;
+};

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "Form/KivFormGroup.h"
+#include "Form/KivPageRow.h"
+
+#include <memory>
+#include <vector>
+
+// The groups and rows of a page or of a window of it, as they are declared: builds each control from its
+// setting's lock record, connects it to the owner's callback, and moves values both ways.
+class KivPageForm {
+public:
+    // Whether a control is made whose lock record is refused.
+    enum class Refused { Build, LeaveOut };
+
+    explicit KivPageForm(KivCommand& owner, Refused refused = Refused::Build)
+        : _owner(owner), _refused(refused)
+    {}
+
+    // The method of the owner that the controls declared from now on are connected to.
+    template <class Owner> void SetCallback(void (Owner::*callback)(KivCommand*, KivNotification*, void*))
+    {
+        _callback = static_cast<KivCommand::Method>(callback);
+    }
+
+    // A titled group on a surface, from the given cell of its grid downwards. The icon's name may be empty.
+    KivFormGroup Group(KivDialog& surface, const KivString& name, const KivString& icon, short row = 0,
+                       short column = 0, short rows = 1);
+
+    // Shows every lock record.
+    void ShowLocks();
+    // Shows every cached value.
+    void Show();
+    // Shows one value wherever it is shown.
+    void ShowValue(const KivBoundValue& value);
+    // Stores the value of the control that sent a notification, and shows it wherever else it is shown.
+    void Take(KivCommand* from);
+    // Stores those of these values that have a control, in this order; what the controls show was taken
+    // before. The rows show then what is in force.
+    void Store(const KivBoundValues& values);
+    // Takes what the sender shows into the cached value, runs its rule, and stores nothing.
+    void Read(const KivCommand* from);
+    // Takes what every control shows into the cached values, and stores nothing.
+    void ReadAll();
+    // Whether a control of this value sent a notification.
+    bool IsSender(const KivBoundValue& value, const KivCommand* from) const;
+
+    // For rows that are being declared.
+    bool LeavesOut(const KivBoundValue& value) const;
+    void Add(std::unique_ptr<KivPageRow> row);
+    void Connect(KivCommand* control, KivNotification* notification);
+
+private:
+    KivCommand& _owner;
+    KivCommand::Method _callback = nullptr;
+    Refused _refused;
+    std::vector<std::unique_ptr<KivPageRow>> _rows;
+};

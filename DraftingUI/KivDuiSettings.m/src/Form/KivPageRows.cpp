@@ -1,0 +1,141 @@
+#include "Form/KivPageRows.h"
+
+#include "Base/KivTextCatalogue.h"
+#include "Form/KivWholeOf.h"
+#include "Settings/KivDrwStoredColor.h"
+
+#include <algorithm>
+#include <utility>
+
+KivMeasureRow::KivMeasureRow(KivDrwLockSpinner* spinner, KivCachedValue<double>& value,
+                             const KivSettingKind& kind, Rule rule)
+    : KivValueRow(spinner, value, std::move(rule)), _kind(kind)
+{}
+
+void KivMeasureRow::ShowValue(KivDrwLockSpinner& spinner, const double& value)
+{
+    KivDrwSettingsServices::UpdateSpinner(&spinner, value * _kind.shownPerStored);
+}
+
+std::optional<double> KivMeasureRow::Reading(KivDrwLockSpinner& spinner)
+{
+    double value = 0.0;
+    KivDrwSettingsServices::GetValueFromSpinner(&spinner, spinner.GetDialog(), _kind.storedPerShown, value);
+    return value;
+}
+
+KivWholeRow::KivWholeRow(KivDrwLockSpinner* spinner, KivCachedValue<int>& value, Rule rule)
+    : KivValueRow(spinner, value, std::move(rule))
+{}
+
+void KivWholeRow::ShowValue(KivDrwLockSpinner& spinner, const int& value)
+{
+    KivDrwSettingsServices::UpdateSpinner(&spinner, static_cast<double>(value));
+}
+
+std::optional<int> KivWholeRow::Reading(KivDrwLockSpinner& spinner)
+{
+    const int whole = KivWholeOf(spinner.GetValue());
+    // What is typed is shown as it counts.
+    if (spinner.GetValue() != static_cast<double>(whole)) ShowValue(spinner, whole);
+    return whole;
+}
+
+KivColorRow::KivColorRow(KivDrwLockComboColor* combo, KivCachedValue<KivPageColor>& value, Rule rule)
+    : KivValueRow(combo, value, std::move(rule))
+{}
+
+void KivColorRow::ShowValue(KivDrwLockComboColor& combo, const KivPageColor& color)
+{
+    if (KivDrwSettingsServices::UpdateComboColor(&combo, color.red, color.green, color.blue) == S_OK) return;
+    if (KivDlgCombo* lines = combo.GetCombo()) lines->SetSelect(-1);
+}
+
+std::optional<KivPageColor> KivColorRow::Reading(KivDrwLockComboColor& combo)
+{
+    KivPageColor color;
+    if (!combo.GetCombo() || combo.GetCombo()->GetSelect() < 0 ||
+        KivDrwSettingsServices::GetValueFromComboColor(&combo, combo.GetDialog(), color.red, color.green,
+                                                       color.blue) != S_OK)
+        return {};
+    return color;
+}
+
+KivChoiceRow::KivChoiceRow(KivDrwLockCombo* combo, KivCachedValue<int>& value, const KivSettingKind& kind,
+                           Rule rule)
+    : KivValueRow(combo, value, std::move(rule)), _kind(kind)
+{}
+
+void KivChoiceRow::ShowValue(KivDrwLockCombo& control, const int& value)
+{
+    KivDlgCombo* combo = control.GetCombo();
+    if (!combo) return;
+    const KivTextCatalogue& texts = KivTextCatalogue::Open(_kind.catalogue);
+    const KivDialog::ChangesAsOne asOne(*combo);
+    combo->ClearLine();
+    for (const KivSettingChoice& choice : _kind.Choices()) {
+        combo->SetLine(texts.Text(choice.name), -1);
+        if (choice.value == value) combo->SetSelect(combo->GetLineCount() - 1);
+    }
+}
+
+std::optional<int> KivChoiceRow::Reading(KivDrwLockCombo& control)
+{
+    const int line = control.GetCombo() ? control.GetCombo()->GetSelect() : -1;
+    if (line < 0) return {};
+    return _kind.Choices()[static_cast<std::size_t>(line)].value;
+}
+
+KivNameRow::KivNameRow(KivDrwLockCombo* combo, KivCachedValue<KivUnicodeString>& value, KivFormNames names,
+                       Rule rule)
+    : KivValueRow(combo, value, std::move(rule)), _names(names)
+{}
+
+void KivNameRow::ShowValue(KivDrwLockCombo& control, const KivUnicodeString& value)
+{
+    KivDlgCombo* combo = control.GetCombo();
+    if (!combo) return;
+    KivListOfUnicodeString names;
+    _names(names);
+    const KivDialog::ChangesAsOne asOne(*combo);
+    combo->ClearLine();
+    for (const KivUnicodeString& name : names) combo->SetLine(name, -1);
+    combo->SetSelect(value);
+}
+
+std::optional<KivUnicodeString> KivNameRow::Reading(KivDrwLockCombo& control)
+{
+    const KivDlgCombo* combo = control.GetCombo();
+    KivUnicodeString name;
+    if (!combo || !combo->GetLine(name, combo->GetSelect())) return {};
+    return name;
+}
+
+KivRadioRow::KivRadioRow(KivDrwLockFrame* frame, KivCachedValue<int>& value, std::vector<Button> buttons,
+                         std::optional<int> otherwise, Rule rule)
+    : KivValueRow(frame, value, std::move(rule)), _buttons(std::move(buttons)), _otherwise(otherwise)
+{}
+
+void KivRadioRow::ShowValue(KivDrwLockFrame&, const int& wanted)
+{
+    const bool isThere = std::any_of(_buttons.begin(), _buttons.end(),
+                                     [wanted](const Button& button) { return button.value == wanted; });
+    const std::optional<int> shown = isThere ? wanted : _otherwise;
+    for (const auto& [button, value] : _buttons) {
+        if (button) button->SetState(shown == value ? KivDlgChecked : KivDlgUnchecked, 0);
+    }
+}
+
+std::optional<int> KivRadioRow::Reading(KivDrwLockFrame&)
+{
+    for (const auto& [button, value] : _buttons) {
+        if (button && button->GetState() == KivDlgChecked) return value;
+    }
+    return {};
+}
+
+bool KivRadioRow::IsSender(const KivCommand* from) const
+{
+    return from && std::any_of(_buttons.begin(), _buttons.end(),
+                               [from](const Button& button) { return button.button.Get() == from; });
+}

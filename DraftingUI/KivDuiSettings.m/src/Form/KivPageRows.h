@@ -1,0 +1,134 @@
+#pragma once
+
+#include "Base/KivListOfUnicodeString.h"
+#include "Base/KivResult.h"
+#include "Dialog/KivDlgRadioButton.h"
+#include "Form/KivPageRow.h"
+#include "KivDrwSettingsServices.h"
+#include "KivSettingKind.h"
+#include "Lock/KivDrwLockCheckButton.h"
+#include "Lock/KivDrwLockCombo.h"
+#include "Lock/KivDrwLockComboColor.h"
+#include "Lock/KivDrwLockFrame.h"
+#include "Lock/KivDrwLockSpinner.h"
+
+// The kinds of rows, by the control that they have.
+
+// A switch: it is read as 1 or 0.
+template <class T> class KivCheckRow final : public KivValueRow<KivDrwLockCheckButton, T> {
+public:
+    KivCheckRow(KivDrwLockCheckButton* button, KivCachedValue<T>& value, bool isOnFor1Alone,
+                KivPageRow::Rule rule)
+        : KivValueRow<KivDrwLockCheckButton, T>(button, value, std::move(rule)), _isOnFor1Alone(isOnFor1Alone)
+    {}
+
+private:
+    void ShowValue(KivDrwLockCheckButton& button, const T& value) override
+    {
+        const bool isOn = _isOnFor1Alone ? value == 1 : value != 0;
+        KivDrwSettingsServices::UpdateCheckButton(&button, isOn);
+    }
+    std::optional<T> Reading(KivDrwLockCheckButton& button) override
+    {
+        unsigned char isOn = 0;
+        KivDrwSettingsServices::GetValueFromCheckButton(&button, button.GetDialog(), isOn);
+        return static_cast<T>(isOn);
+    }
+
+    bool _isOnFor1Alone;
+};
+
+// A measure: shown in the spinner's unit, stored in another.
+class KivMeasureRow final : public KivValueRow<KivDrwLockSpinner, double> {
+public:
+    KivMeasureRow(KivDrwLockSpinner* spinner, KivCachedValue<double>& value, const KivSettingKind& kind,
+                  Rule rule);
+
+private:
+    void ShowValue(KivDrwLockSpinner& spinner, const double& value) override;
+    std::optional<double> Reading(KivDrwLockSpinner& spinner) override;
+
+    const KivSettingKind& _kind;
+};
+
+// A whole number that is typed as a real one: what is typed is cut towards zero and shown so.
+class KivWholeRow final : public KivValueRow<KivDrwLockSpinner, int> {
+public:
+    KivWholeRow(KivDrwLockSpinner* spinner, KivCachedValue<int>& value, Rule rule);
+
+private:
+    void ShowValue(KivDrwLockSpinner& spinner, const int& value) override;
+    std::optional<int> Reading(KivDrwLockSpinner& spinner) override;
+};
+
+// The lock of a value that its owner shows and reads itself.
+class KivLockOnlyRow final : public KivPageRow {
+public:
+    KivLockOnlyRow(KivDrwLockDialog* control, KivBoundValue& value) : KivPageRow(value, {}), _control(control)
+    {}
+    void Show() override {}
+    bool Read() override { return false; }
+
+private:
+    KivDrwLockDialog* Control() const override { return _control.Get(); }
+
+    KivWeakPtr<KivDrwLockDialog> _control;
+};
+
+// A color. What is none, components out of range, shows no line as chosen.
+class KivColorRow final : public KivValueRow<KivDrwLockComboColor, KivPageColor> {
+public:
+    KivColorRow(KivDrwLockComboColor* combo, KivCachedValue<KivPageColor>& value, Rule rule);
+
+private:
+    void ShowValue(KivDrwLockComboColor& combo, const KivPageColor& color) override;
+    std::optional<KivPageColor> Reading(KivDrwLockComboColor& combo) override;
+};
+
+// A choice from words.
+class KivChoiceRow final : public KivValueRow<KivDrwLockCombo, int> {
+public:
+    KivChoiceRow(KivDrwLockCombo* combo, KivCachedValue<int>& value, const KivSettingKind& kind, Rule rule);
+
+private:
+    void ShowValue(KivDrwLockCombo& combo, const int& value) override;
+    std::optional<int> Reading(KivDrwLockCombo& combo) override;
+
+    const KivSettingKind& _kind;
+};
+
+// Delivers names that are found anew whenever the page is shown.
+using KivFormNames = HRESULT (*)(KivListOfUnicodeString& names);
+
+// A choice from names that are found when the page is shown, such as files on the disk.
+class KivNameRow final : public KivValueRow<KivDrwLockCombo, KivUnicodeString> {
+public:
+    KivNameRow(KivDrwLockCombo* combo, KivCachedValue<KivUnicodeString>& value, KivFormNames names,
+               Rule rule);
+
+private:
+    void ShowValue(KivDrwLockCombo& combo, const KivUnicodeString& value) override;
+    std::optional<KivUnicodeString> Reading(KivDrwLockCombo& combo) override;
+
+    KivFormNames _names;
+};
+
+// A choice of radio buttons under one padlock. A button that is chosen already stores nothing.
+class KivRadioRow final : public KivValueRow<KivDrwLockFrame, int> {
+public:
+    struct Button {
+        KivWeakPtr<KivDlgRadioButton> button;
+        int value;
+    };
+    // Without a value that another button has, the one of `otherwise` is shown as chosen, if there is one.
+    KivRadioRow(KivDrwLockFrame* frame, KivCachedValue<int>& value, std::vector<Button> buttons,
+                std::optional<int> otherwise, Rule rule);
+    bool IsSender(const KivCommand* from) const override;
+
+private:
+    void ShowValue(KivDrwLockFrame& frame, const int& value) override;
+    std::optional<int> Reading(KivDrwLockFrame& frame) override;
+
+    std::vector<Button> _buttons;
+    std::optional<int> _otherwise;
+};

@@ -1,0 +1,19 @@
+#include "Form/KivTextRow.h"
+
+#include <utility>
+
+KivTextRow::KivTextRow(KivDrwLockEditor* editor, KivCachedValue<KivUnicodeString>& value, Rule rule)
+    : KivValueRow(editor, value, std::move(rule))
+{}
+
+void KivTextRow::ShowValue(KivDrwLockEditor& editor, const KivUnicodeString& value)
+{
+    if (KivDlgEditor* field = editor.GetEditor()) field->SetText(value, 0);
+}
+
+std::optional<KivUnicodeString> KivTextRow::Reading(KivDrwLockEditor& editor)
+{
+    const KivDlgEditor* field = editor.GetEditor();
+    if (!field) return {};
+    return field->GetText();
+}

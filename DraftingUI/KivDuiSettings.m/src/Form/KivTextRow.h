@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Form/KivPageRow.h"
+#include "Lock/KivDrwLockEditor.h"
+
+// A text. It is stored as it was typed.
+class KivTextRow final : public KivValueRow<KivDrwLockEditor, KivUnicodeString> {
+public:
+    KivTextRow(KivDrwLockEditor* editor, KivCachedValue<KivUnicodeString>& value, Rule rule);
+
+private:
+    void ShowValue(KivDrwLockEditor& editor, const KivUnicodeString& value) override;
+    std::optional<KivUnicodeString> Reading(KivDrwLockEditor& editor) override;
+};

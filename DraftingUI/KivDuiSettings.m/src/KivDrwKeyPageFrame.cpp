@@ -1,6 +1,0 @@
-#include "KivDrwKeyPageFrame.h"
-
-void KivDrwKeyPageFrame::InitDraftingValues()
-{
-    for (KivBoundValue* value : _values) value->LoadDefault();
-}

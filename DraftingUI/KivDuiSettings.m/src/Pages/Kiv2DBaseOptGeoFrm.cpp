@@ -1,0 +1,90 @@
+#include "Pages/Kiv2DBaseOptGeoFrm.h"
+
+#include "KivDrwKinds.h"
+
+namespace {
+
+// The groups stand in two columns; constraints are as high as the two groups beside them.
+enum Column : short { Left, Right };
+
+} // namespace
+
+void Kiv2DBaseOptGeoFrm::Build()
+{
+    if (WithFrameGeomCreation()) {
+        KivFormGroup creation = Group("frameGeomCreation", "I_CircleCtrRad", 0, Left);
+        creation.Line().Check("checkCreateCenter", _createGeomCenter);
+        creation.Line().Check("checkEndPtsDupli", _endPtsDupliGenGeom);
+        creation.Line().Check("checkShowHV", _showHV);
+    }
+    if (WithFrameConstraint()) BuildConstraint();
+    if (WithFrameGeomDrag()) BuildDrag();
+    if (WithFrameSmartPick()) BuildSmartPick();
+    if (WithFrameGeomColor()) BuildColor();
+}
+
+void Kiv2DBaseOptGeoFrm::BuildConstraint()
+{
+    KivFormGroup constraint = Group("frameConstraint", "I_DrwConstraint", 0, Right, 2);
+    _rules.AvailableWhile([this] { return FindsAnything(); },
+                          {constraint.Line().At(0, 2).Check("checkCstCreation", _cstCreation)});
+    constraint.Line().At(0, 2).Check("checkCstVisu", _cstVisu);
+    std::vector<KivDrwLockDialog*> shown = {
+        constraint.Line("labelCstRefSize")
+            .Spinner("spinnerCstRefSize", _cstRefSize, KivDrwKinds::SymbolLength),
+        constraint.Line("labelCstColor").Color("comboCstColor", _cstColor)};
+    struct KindRow {
+        const char* name;
+        KivCachedValue<unsigned char>& value;
+    };
+    const KindRow kinds[][2] = {
+        {{"checkCstHori", _cstVisuHori}, {"checkCstVerti", _cstVisuVerti}},
+        {{"checkCstPara", _cstVisuPara}, {"checkCstPerpen", _cstVisuPerpen}},
+        {{"checkCstConcen", _cstVisuConcen}, {"checkCstCoinci", _cstVisuCoinci}},
+        {{"checkCstTangen", _cstVisuTangen}, {"checkCstSym", _cstVisuSym}},
+    };
+    for (const auto& pair : kinds) {
+        KivFormLine line = constraint.Line();
+        for (const auto& [name, value] : pair) shown.push_back(line.Check(name, value));
+    }
+    _rules.AvailableWhile([this] { return _cstVisu.cached; }, shown);
+}
+
+void Kiv2DBaseOptGeoFrm::BuildDrag()
+{
+    KivFormGroup drag = Group("frameGeomDrag", "I_Select", 1, Left);
+    drag.Line().Check("checkGeomManip", _allowGeomManip);
+    KivDrwLockDialog* endPoints = drag.Line().Check("checkDragEndPts", _dragWithEndPts);
+    KivDrwLockDialog* modes = drag.Radios("frameDragMode", _dragSolveMode, KivDrwKinds::DragMode);
+    _rules.AvailableWhile([this] { return _allowGeomManip.cached; }, {endPoints, modes});
+}
+
+void Kiv2DBaseOptGeoFrm::BuildSmartPick()
+{
+    KivFormGroup pick = Group("frameSmartPick", "I_SmartPick", 2, Left);
+    pick.Line().At(0, 2).Check("checkPickCoincid", _smartPickCoincid);
+    pick.Line().At(0, 2).Check("checkPickAlign", _smartPickAlign);
+    pick.Line().At(0, 2).Check("checkPickParaPerpenTang", _smartPickParaPerpenTang);
+    pick.Line().At(0, 2).Check("checkPickHoriVerti", _smartPickHoriVerti);
+    _rules.AvailableWhile([this] { return FindsAnything(); },
+                          {pick.Line("labelSmartPickColor").Color("comboSmartPickColor", _smartPickColor)});
+}
+
+// Constraints are created from what smart picking has found.
+bool Kiv2DBaseOptGeoFrm::FindsAnything() const
+{
+    return _smartPickCoincid.cached || _smartPickAlign.cached || _smartPickParaPerpenTang.cached ||
+           _smartPickHoriVerti.cached;
+}
+
+void Kiv2DBaseOptGeoFrm::BuildColor()
+{
+    KivFormGroup color = Group("frameGeomColor", "I_ColorChooser", 2, Right);
+    color.Line().At(0, 2).Check("checkVisuDiagnostic", _visuDiagnostic);
+    _rules.AvailableWhile([this] { return _visuDiagnostic.cached; },
+                          {color.Line("labelOverCons").Color("comboOverCons", _overConsEltsColor),
+                           color.Line("labelIncons").Color("comboIncons", _inconsEltsColor),
+                           color.Line("labelNotChan").Color("comboNotChan", _notChanEltsColor),
+                           color.Line("labelIsoCons").Color("comboIsoCons", _isoConsEltsColor)});
+    color.Line("labelConst").Color("comboConst", _constEltsColor);
+}

@@ -1,0 +1,24 @@
+#include "Pages/KivDrwOptTrelFrm.h"
+
+namespace {
+
+constexpr int kStyleWidth = 15; // characters
+
+} // namespace
+
+void KivDrwOptTrelFrm::Build()
+{
+    Group("frameGeom", "I_CircleCtrRad").Line().Check("_checkCenterEndPoints", _createCenterEndPts);
+    Group("frameConvertDimensionAsGraphic", "I_Dim2D")
+        .Line()
+        .Check("checkConvertDimensionAsGraphic", _convertDimensionAsGraphic);
+    KivFormGroup explode = Group("frameExplode", "I_DrwDitto");
+    explode.Line().Check("chkExplodeDitto", _explodeDitto);
+    explode.Line().Check("chkExplodeSymbolo", _explodeSymbolo);
+    Group("frameBlinkRed", "").Line().Check("checkBlinkRed", _blinkRedValue);
+    KivDrwLockCombo* style = Group("frameGVSXml", "").Line("lbl").Names("chkGVSXml", _gvsXml, &GetGPSList);
+    if (style->GetCombo()) style->GetCombo()->SetVisibleTextWidth(kStyleWidth);
+    // Nobody chooses a generative view style while the administrator prevents such styles.
+    _rules.AvailableWhile([this] { return KivDrwRead(_repository, KivDrwKeys::DrwPreventGVS) == 0; },
+                          {style});
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "Pages/KivDrwOptGalFrm.h"
+#include "Tabs/KivDrwTabEditor.h"
+
+class KivDrwOptGalEditor final : public KivDrwTabEditor<KivDrwOptGalEditor, KivDrwOptGalFrm> {
+public:
+    static constexpr const char* Name = "KivDrwOptGalEditor";
+    static constexpr KivDrwGroup Group = KivDrwGroup::General;
+
+protected:
+    // Tell the sketcher: grid, then snap. A reset deliberately stays silent.
+    Telling AfterCommit() const override;
+    Telling AfterCancel() const override;
+};

@@ -1,0 +1,42 @@
+#include "Windows/KivDrwButtonDialog.h"
+
+KivDrwButtonDialog::KivDrwButtonDialog(KivDialog* parent, const KivString& name, const KivString& catalogue)
+    : KivClass(parent, name, KivDlgModelessWindow)
+{
+    SetTextCatalogue(catalogue);
+    _form.SetCallback(&KivDrwButtonDialog::Notification);
+    AddAnalyseNotificationCB(this, GetDiaCloseNotification(), &KivDrwButtonDialog::Ok, nullptr);
+    AddAnalyseNotificationCB(this, GetWindCloseNotification(), &KivDrwButtonDialog::Ok, nullptr);
+}
+
+void KivDrwButtonDialog::Open()
+{
+    Init();
+    SetVisibility(KivDlgShown);
+}
+
+void KivDrwButtonDialog::InitValues()
+{
+    for (KivBoundValue* value : _values) value->LoadDefault();
+}
+
+void KivDrwButtonDialog::Init()
+{
+    for (KivBoundValue* value : _values) value->Load();
+    _form.ShowLocks();
+    ShowValues();
+    _holdsChoices = false;
+}
+
+void KivDrwButtonDialog::Notification(KivCommand* from, KivNotification*, void*)
+{
+    ReadFrom(from);
+    _holdsChoices = true;
+}
+
+void KivDrwButtonDialog::Ok(KivCommand*, KivNotification*, void*)
+{
+    for (KivBoundValue* value : _values) value->Save();
+    SetVisibility(KivDlgHidden);
+    RequestDelayedDestruction();
+}

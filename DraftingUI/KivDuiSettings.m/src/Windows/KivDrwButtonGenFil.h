@@ -1,0 +1,15 @@
+#pragma once
+
+#include "Windows/KivDrwButtonDialog.h"
+
+// Chooses how generated fillets are represented in views.
+class KivDrwButtonGenFil final : public KivClass<KivDrwButtonGenFil, KivDrwButtonDialog> {
+public:
+    static constexpr const char* Name = "KivDrwButtonGenFil";
+    KivDrwButtonGenFil(KivDialog* parent, const KivString& name);
+
+    void Build();
+
+private:
+    KIV_KEY_VALUE(_representation, int, KivDrwKeys::DrwGenFilConfigure)
+};

@@ -1,0 +1,46 @@
+#include "Windows/KivDrwButtonLinetypeView.h"
+
+KivDrwButtonLinetypeView::KivDrwButtonLinetypeView(KivDialog* parent, const KivString& name)
+    : KivClass(parent, name, "KivDrwButtonSettings")
+{
+    Build();
+    Open();
+}
+
+void KivDrwButtonLinetypeView::Build()
+{
+    _form.SetCallback(&KivDrwButtonLinetypeView::OnChange);
+    struct Row {
+        const char* label;
+        const char* typeName;
+        KivCachedValue<unsigned int>& type;
+        const char* typeKey;
+        const char* thicknessName;
+        KivCachedValue<unsigned int>& thickness;
+        const char* thicknessKey;
+    };
+    // Only the keys of the thicknesses begin with "Drw".
+    const Row rows[] = {
+        {"lblSection", "comboSectionLinetype", _sectionType, KivDrwKeys::SectionLinetype.name,
+         "comboSectionThickness", _sectionThickness, KivDrwKeys::DrwSectionThickness.name},
+        {"lblDetail", "comboDetailLinetype", _detailType, KivDrwKeys::DetailLinetype.name,
+         "comboDetailThickness", _detailThickness, KivDrwKeys::DrwDetailThickness.name},
+        {"lblBroken", "comboBrokenLinetype", _brokenType, KivDrwKeys::BrokenLinetype.name,
+         "comboBrokenThickness", _brokenThickness, KivDrwKeys::DrwBrokenThickness.name},
+        {"lblBreakout", "comboBreakoutLinetype", _breakoutType, KivDrwKeys::BreakoutLinetype.name,
+         "comboBreakoutThickness", _breakoutThickness, KivDrwKeys::DrwBreakoutThickness.name},
+        {"lblSkin", "comboSkinLinetype", _skinType, KivDrwKeys::SkinLinetype.name, "comboSkinThickness",
+         _skinThickness, KivDrwKeys::DrwSkinThickness.name},
+    };
+    KivFormGroup group = _form.Group(*this, "frameButtonLinetype", "I_DrwFrontView");
+    for (const Row& row : rows) {
+        KivFormLine line = group.Line(row.label);
+        line.LineType(row.typeName, row.type, _repository, row.typeKey);
+        line.LineWeight(row.thicknessName, row.thickness, _repository, row.thicknessKey);
+    }
+}
+
+void KivDrwButtonLinetypeView::OnChange(KivCommand*, KivNotification*, void*)
+{
+    _form.ReadAll();
+}
