@@ -28,11 +28,11 @@ KivSettingRepository::Receipt KivSettingTransaction::Save()
     for (const auto& [key, value] : std::exchange(_changes, {})) {
         const char* const name = key.ConvertToChar();
         KivSettingInfo info;
-        if (!KivHasValue(value)) _repository.GetInfo(name, &info, 0);
-        const bool isDone = KivHasValue(value)
-                                ? _repository.WriteSetting(name, &value, 1, 0) == S_OK
-                                : !info.locked && _repository.ResetToAdminValues(&name, 1) == S_OK;
-        if (!isDone) Refuse(key);
+        _repository.GetInfo(name, &info, 0);
+        const HRESULT result = info.locked          ? E_FAIL
+                               : KivHasValue(value) ? _repository.WriteSetting(name, &value, 1, 0)
+                                                    : _repository.ResetToAdminValues(&name, 1);
+        if (result != S_OK) Refuse(key);
     }
     _repository.SaveRepository(nullptr);
     return _repository.LastReceipt();
