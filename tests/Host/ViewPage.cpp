@@ -198,31 +198,6 @@ TEST_F(ViewPage, SmallWindowsStoreWhatTheyShowHoweverTheyAreClosed)
     }
 }
 
-TEST_F(ViewPage, LineTypesAndWeightsAreTheirNumbers)
-{
-    OpenOn("");
-    EXPECT_TRUE(Press("linetypePushButton"));
-    const char* const views[] = {"Section", "Detail", "Broken", "Breakout", "Skin"};
-    const unsigned int types[] = {4, 4, 4, 0, 1}, weights[] = {1, 1, 1, 2, 2};
-    for (std::size_t i = 0; i < std::size(views); ++i) {
-        const std::string combo = std::string("combo") + views[i];
-        const unsigned int type = Node<KivComboDashed>(combo + "Linetype_dialog").GetSelect();
-        EXPECT_EQ(type == 8 ? 0 : type, types[i]) << views[i];
-        EXPECT_EQ(Node<KivComboWeight>(combo + "Thickness_dialog").GetSelect(), weights[i]) << views[i];
-    }
-    EXPECT_TRUE(KivUserHand::Choose(Combo("comboBreakoutThickness"), 5));
-    CloseAll("LineTypeWnd");
-    const auto stored = [](const std::string& key) {
-        unsigned int value = 99;
-        Repository().ReadSetting(key.c_str(), &value, 1);
-        return value;
-    };
-    for (std::size_t i = 0; i < std::size(views); ++i) {
-        EXPECT_EQ(stored(std::string(views[i]) + "Linetype"), types[i]);
-        EXPECT_EQ(stored(std::string("Drw") + views[i] + "Thickness"), i == 3 ? 5U : weights[i]);
-    }
-}
-
 TEST_F(ViewPage, AQualityFixesTheResolutionUnlessItIsTheUsersOwn)
 {
     OpenOn("int DrwGenerationModeVal = 2\n");
