@@ -69,19 +69,45 @@ TEST_F(GeometryPage, TellsTheSketcherOfEachChangeAndOfWhatTakesItBack)
     EXPECT_EQ(Heard(), untouched);
 }
 
+template <class T> struct Pair {
+    T (KivSketcherSettings::*get)();
+    void (KivSketcherSettings::*set)(T value, int notify);
+    const KivDrwKey<T>& key;
+    const char* event;
+    const char* control = nullptr; // on this page
+};
+
 // Whoever changes a setting, this page or another caller of the sketcher: it is read where it was written,
 // and the same listeners hear of it.
 TEST_F(GeometryPage, EachPairOfTheSketcherHasAKeyAndAnEventOfItsOwn)
 {
     using S = KivSketcherSettings;
     using namespace KivDrwKeys;
-    const struct {
-        int (S::*get)();
-        void (S::*set)(int on, int notify);
-        const KivDrwKey<int>& key;
-        const char* event;
-        const char* control = nullptr; // on this page
-    } switches[] = {
+    const auto holds = [this](const auto& pair, auto given, auto taken) {
+        SCOPED_TRACE(pair.key.name);
+        (sketcher.*pair.set)(given, 0);
+        EXPECT_EQ(Heard(), "");
+        EXPECT_EQ(KivDrwRead(KivDrwRepository(), pair.key), taken);
+        EXPECT_EQ((sketcher.*pair.get)(), taken);
+        (sketcher.*pair.set)(given, 1);
+        EXPECT_EQ(Heard(), pair.event + (" " + State()));
+    };
+    const Pair<double> spacings[] = {
+        {&S::GetGridPrimSpac, &S::SetGridPrimSpac, Drw_settings_GridPrimarySpacing, "grid"},
+        {&S::GetGridVPrimSpac, &S::SetGridVPrimSpac, Drw_settings_GridVPrimarySpacing, "grid"}};
+    for (const auto& pair : spacings)
+        for (const auto& [given, taken] : {std::pair(0.5, 0.5), {0.0, 100.0}, {7.0, 7.0}, {-5.0, 100.0}})
+            holds(pair, given, taken);
+    const Pair<int> steps[] = {
+        {&S::GetGridSecStep, &S::SetGridSecStep, Drw_settings_GridSecondaryStep, "grid"},
+        {&S::GetGridVSecStep, &S::SetGridVSecStep, Drw_settings_GridVSecondaryStep, "grid"}};
+    for (const auto& pair : steps)
+        for (const auto& [given, taken] : {std::pair(1, 1), {0, 10}, {2, 2}, {-7, 10}})
+            holds(pair, given, taken);
+    const Pair<int> dragMode{&S::GetDragMode, &S::SetDragMode, Drw_settings_DragModeR14, "geometry"};
+    for (const auto& [given, taken] : {std::pair(0, 0), {3, 1}, {2, 2}, {-1, 1}})
+        holds(dragMode, given, taken);
+    const Pair<int> switches[] = {
         {&S::GetGridVisuMode, &S::SetGridVisuMode, Drw_settings_GridDisplay, "grid"},
         {&S::GetGridSnapMode, &S::SetGridSnapMode, Drw_settings_GridSnapPt, "snap"},
         {&S::GetAllowDistortions, &S::SetAllowDistortions, Drw_settings_AllowDistortions, "grid"},
@@ -98,26 +124,27 @@ TEST_F(GeometryPage, EachPairOfTheSketcherHasAKeyAndAnEventOfItsOwn)
         {&S::GetShowPosition, &S::SetShowPosition, Drw_settings_ShowPosition, "completion", "ShowHV"},
         {&S::GetCreateCenter, &S::SetCreateCenter, Drw_settings_CreateCenter, "geometry", "CreateCenter"},
         {&S::GetDragWithEndPts, &S::SetDragWithEndPts, Drw_settings_DragWithEndPts, "geometry", "DragEndPts"},
-        {&S::GetDragMode, &S::SetDragMode, Drw_settings_DragModeR14, "geometry"},
         {&S::GetDragElts, &S::SetDragElts, Drw_settings_DragElts, "geometry", "GeomManip"},
         {&S::GetDiagElts, &S::SetDiagElts, Drw_settings_DiagElts, "geometry", "VisuDiagnostic"}};
-    for (const auto& [get, set, key, told, control] : switches) {
-        SCOPED_TRACE(key.name);
-        for (const int value : {9, 0}) {
-            KivDrwRepository()->ResetToAdminValues(nullptr, 0);
-            (sketcher.*set)(value, 0);
-            EXPECT_EQ(Heard(), "");
-            EXPECT_EQ(KivDrwRead(KivDrwRepository(), key), value != 0);
-            EXPECT_EQ((sketcher.*get)(), value != 0);
-        }
-        (sketcher.*set)(1, 1);
-        EXPECT_EQ(Event(), told);
-        if (!control) continue;
+    for (const auto& pair : switches) {
+        KivDrwRepository()->ResetToAdminValues(nullptr, 0);
+        for (const int value : {0, 9}) holds(pair, value, value != 0);
+        if (!pair.control) continue;
         editor->SetUserSettingsValue(nullptr);
         EXPECT_TRUE(KivUserHand::Tick(
-            Node<KivDlgCheckButton>(("check" + KivString(control) + "_dialog").ConvertToChar())));
-        EXPECT_EQ(Event(), told);
+            Node<KivDlgCheckButton>(("check" + KivString(pair.control) + "_dialog").ConvertToChar())));
+        EXPECT_EQ(Event(), pair.event);
     }
+    for (const auto& [get, set, answer] : {std::tuple(&S::GetGridGroundMode, &S::SetGridGroundMode, 0),
+                                           {&S::GetViewNormalTo, &S::SetViewNormalTo, 1},
+                                           {&S::GetAnimate, &S::SetAnimate, 1},
+                                           {&S::GetShowPositionOnCursor, &S::SetShowPositionOnCursor, 1}}) {
+        (sketcher.*set)(1 - answer, 1);
+        EXPECT_EQ((sketcher.*get)(), answer);
+    }
+    EXPECT_EQ(Heard(), "") << "there is nothing to tell";
+    sketcher.DispatchMultiModify();
+    EXPECT_EQ(Event(), "multi");
 }
 
 // Each color by its components, and what is stored then.

@@ -6,7 +6,6 @@
 namespace {
 
 using namespace KivDrwKeys;
-using S = KivSketcherSettings;
 
 class RunTimeReaders : public SketcherTest {
 protected:
@@ -79,45 +78,6 @@ TEST_F(RunTimeReaders, AnswerDefaultsWithoutAStoreAndStoredValuesWithOne)
     EXPECT_EQ(box.diagnostics[0].line, 1);
 }
 
-TEST_F(RunTimeReaders, SettersStoreWhatIsFitAndNotifyOnlyWhenAsked)
-{
-    const struct {
-        double (S::*get)();
-        void (S::*set)(double spacing, int notify);
-        const KivDrwKey<double>& key;
-    } spacings[] = {{&S::GetGridPrimSpac, &S::SetGridPrimSpac, Drw_settings_GridPrimarySpacing},
-                    {&S::GetGridVPrimSpac, &S::SetGridVPrimSpac, Drw_settings_GridVPrimarySpacing}};
-    for (const auto& [get, set, key] : spacings)
-        for (const auto& [given, taken] : {std::pair(2.5, 2.5), {0.0, 100.0}, {7.0, 7.0}, {-5.0, 100.0}}) {
-            (sketcher.*set)(given, 1);
-            EXPECT_EQ(Stored(key), taken);
-            EXPECT_EQ((sketcher.*get)(), taken);
-            EXPECT_EQ(Heard(), "grid ");
-        }
-    for (const auto& [given, taken] : {std::pair(7, 7), {0, 10}}) {
-        sketcher.SetGridSecStep(given, 0);
-        EXPECT_EQ(Stored(Drw_settings_GridSecondaryStep), taken);
-        sketcher.SetGridVSecStep(given + 1, 1);
-        EXPECT_EQ(sketcher.GetGridSecStep(), taken);
-        EXPECT_EQ(sketcher.GetGridVSecStep(), given + 1);
-        EXPECT_EQ(Heard(), "grid ");
-    }
-    for (const auto& [given, taken] : {std::pair(2, 2), {3, 1}}) {
-        sketcher.SetDragMode(given, 0);
-        EXPECT_EQ(sketcher.GetDragMode(), taken);
-    }
-    sketcher.SetAnimate(0, 1);
-    sketcher.SetGridGroundMode(1, 1);
-    sketcher.SetViewNormalTo(0, 1);
-    sketcher.SetShowPositionOnCursor(0, 1);
-    EXPECT_EQ(sketcher.GetAnimate() + sketcher.GetViewNormalTo() + sketcher.GetShowPositionOnCursor(), 3);
-    EXPECT_EQ(sketcher.GetGridGroundMode(), 0);
-    EXPECT_EQ(Heard(), "");
-    sketcher.Visu3DUIModify();
-    sketcher.DispatchMultiModify();
-    EXPECT_EQ(Heard(), "visualization multi ");
-}
-
 TEST_F(RunTimeReaders, ConstraintsNeedSomethingToDetect)
 {
     sketcher.SetCreateConstraint(1, 0);
@@ -135,6 +95,10 @@ TEST_F(RunTimeReaders, ColorsArePackedByDiagnostic)
 {
     unsigned int r = 1, g = 2, b = 3;
     sketcher.GetColorIsolatedElts(r, g, b);
+    sketcher.GetColorProtectedElts(r, g, b);
+    sketcher.SetColorIsolatedElts(7, 7, 7, 1);
+    sketcher.SetColorProtectedElts(7, 7, 7, 1);
+    EXPECT_EQ(Heard(), "");
     EXPECT_EQ(r * 100 + g * 10 + b, 123U);
     const unsigned int expected[] = {0, 0xFF00FF, 0xFF0000, 0x800000, 0x00FF00, 0};
     for (int diagnostic = 0; diagnostic <= 5; ++diagnostic) {

@@ -8,18 +8,38 @@
 
 namespace {
 
-int AsSwitch(int value)
+using Self = Kiv2DBaseSketcherSettingsAdapt;
+
+// What a setter makes of the value that it is given, so that it is fit to be stored under the key.
+
+int AsSwitch(int value, const KivDrwKey<int>&)
 {
     return value != 0;
 }
 
-double PositiveOrDefault(double value, const KivDrwKey<double>& key)
+template <class T> T PositiveOrDefault(T value, const KivDrwKey<T>& key)
 {
-    return value > 0.0 ? value : key.makeDefault();
+    return value > T{} ? value : key.makeDefault();
 }
-int PositiveOrDefault(int value, const KivDrwKey<int>& key)
+
+int DragModeOrDefault(int value, const KivDrwKey<int>& key)
 {
-    return value > 0 ? value : key.makeDefault();
+    return value >= 0 && value <= 2 ? value : key.makeDefault();
+}
+
+// A listener who asked to be told is told even of what could not be stored.
+template <class T> void StoreAndTell(KivSettingRepository* repository, const KivDrwKey<T>& key, T value,
+                                     Self& sketcher, void (Self::*tell)(), int notify)
+{
+    KivDrwWrite(repository, key, value);
+    if (notify) (sketcher.*tell)();
+}
+
+unsigned int Packed(unsigned int r, unsigned int g, unsigned int b)
+{
+    unsigned int packed = 0;
+    Self::SetRGB(&packed, r, g, b);
+    return packed;
 }
 
 // The colors of diagnostics are numbered from 1; null for a number that has none.
@@ -40,6 +60,59 @@ const KivDrwKey<unsigned int>* DiagnosticColor(int diagnostic)
 }
 
 } // namespace
+
+// The pairs of getter and setter, a row each. Every name is written out and can be searched.
+
+// A setter alone, for a getter with a rule of its own: it stores what Fit makes of the value under the key
+// and tells the listeners by the operation Tell.
+#define KIV_SKETCHER_SETTER(T, key, Fit, Tell, Set)                                                          \
+    void Kiv2DBaseSketcherSettingsAdapt::Set(T value, int notify)                                            \
+    {                                                                                                        \
+        StoreAndTell(_repository, KivDrwKeys::key, Fit(value, KivDrwKeys::key), *this, &Self::Tell, notify); \
+    }
+
+// A pair with a key of its own.
+#define KIV_SKETCHER_PAIR(T, key, Fit, Tell, Get, Set)                                                       \
+    T Kiv2DBaseSketcherSettingsAdapt::Get()                                                                  \
+    {                                                                                                        \
+        return KivDrwRead(_repository, KivDrwKeys::key);                                                     \
+    }                                                                                                        \
+    KIV_SKETCHER_SETTER(T, key, Fit, Tell, Set)
+
+// A pair that is governed by another pair's key.
+#define KIV_SKETCHER_SAME(GoverningGet, GoverningSet, Get, Set)                                              \
+    int Kiv2DBaseSketcherSettingsAdapt::Get()                                                                \
+    {                                                                                                        \
+        return GoverningGet();                                                                               \
+    }                                                                                                        \
+    void Kiv2DBaseSketcherSettingsAdapt::Set(int value, int notify)                                          \
+    {                                                                                                        \
+        GoverningSet(value, notify);                                                                         \
+    }
+
+// A pair that nobody can change here: it always answers this, and what is set is passed over.
+#define KIV_SKETCHER_FIXED(answer, Get, Set)                                                                 \
+    int Kiv2DBaseSketcherSettingsAdapt::Get()                                                                \
+    {                                                                                                        \
+        return answer;                                                                                       \
+    }                                                                                                        \
+    void Kiv2DBaseSketcherSettingsAdapt::Set(int, int) {}
+
+// A pair of a color with a key of its own, stored packed.
+#define KIV_SKETCHER_COLOR(key, Tell, Get, Set)                                                              \
+    void Kiv2DBaseSketcherSettingsAdapt::Get(unsigned int& r, unsigned int& g, unsigned int& b)              \
+    {                                                                                                        \
+        GetRGB(KivDrwRead(_repository, KivDrwKeys::key), &r, &g, &b);                                        \
+    }                                                                                                        \
+    void Kiv2DBaseSketcherSettingsAdapt::Set(unsigned int r, unsigned int g, unsigned int b, int notify)     \
+    {                                                                                                        \
+        StoreAndTell(_repository, KivDrwKeys::key, Packed(r, g, b), *this, &Self::Tell, notify);             \
+    }
+
+// A pair of a color that the sketcher has not: what is given stays as it is.
+#define KIV_SKETCHER_NO_COLOR(Get, Set)                                                                      \
+    void Kiv2DBaseSketcherSettingsAdapt::Get(unsigned int&, unsigned int&, unsigned int&) {}                 \
+    void Kiv2DBaseSketcherSettingsAdapt::Set(unsigned int, unsigned int, unsigned int, int) {}
 
 Kiv2DBaseSketcherSettingsAdapt::Kiv2DBaseSketcherSettingsAdapt(KivSettingRepository* repository)
     : _repository(repository)
@@ -62,172 +135,33 @@ void Kiv2DBaseSketcherSettingsAdapt::SaveRepository()
 }
 
 // Grid and snapping
+KIV_SKETCHER_PAIR(int, Drw_settings_GridDisplay, AsSwitch, GridModify, GetGridVisuMode, SetGridVisuMode)
+KIV_SKETCHER_PAIR(int, Drw_settings_GridSnapPt, AsSwitch, SnapModify, GetGridSnapMode, SetGridSnapMode)
+KIV_SKETCHER_FIXED(0, GetGridGroundMode, SetGridGroundMode)
+KIV_SKETCHER_PAIR(double, Drw_settings_GridPrimarySpacing, PositiveOrDefault, GridModify, GetGridPrimSpac,
+                  SetGridPrimSpac)
+KIV_SKETCHER_PAIR(int, Drw_settings_GridSecondaryStep, PositiveOrDefault, GridModify, GetGridSecStep,
+                  SetGridSecStep)
+KIV_SKETCHER_PAIR(double, Drw_settings_GridVPrimarySpacing, PositiveOrDefault, GridModify, GetGridVPrimSpac,
+                  SetGridVPrimSpac)
+KIV_SKETCHER_PAIR(int, Drw_settings_GridVSecondaryStep, PositiveOrDefault, GridModify, GetGridVSecStep,
+                  SetGridVSecStep)
+KIV_SKETCHER_PAIR(int, Drw_settings_AllowDistortions, AsSwitch, GridModify, GetAllowDistortions,
+                  SetAllowDistortions)
 
-int Kiv2DBaseSketcherSettingsAdapt::GetGridVisuMode()
-{
-    return KivDrwRead(_repository, KivDrwKeys::Drw_settings_GridDisplay);
-}
+// Smart pick; one switch governs the last three directions
+KIV_SKETCHER_PAIR(int, Drw_settings_CpltPosSupport, AsSwitch, CpltModify, GetPosSupports, SetPosSupports)
+KIV_SKETCHER_PAIR(int, Drw_settings_CpltPosHorVertTo, AsSwitch, CpltModify, GetPosHorVertTo, SetPosHorVertTo)
+KIV_SKETCHER_PAIR(int, Drw_settings_CpltDirHorVert, AsSwitch, CpltModify, GetDirHorVert, SetDirHorVert)
+KIV_SKETCHER_PAIR(int, Drw_settings_CpltDirParPerpTan, AsSwitch, CpltModify, GetDirParaPerpTan,
+                  SetDirParaPerpTan)
+KIV_SKETCHER_SAME(GetDirParaPerpTan, SetDirParaPerpTan, GetDirParallel, SetDirParallel)
+KIV_SKETCHER_SAME(GetDirParaPerpTan, SetDirParaPerpTan, GetDirPerpend, SetDirPerpend)
+KIV_SKETCHER_SAME(GetDirParaPerpTan, SetDirParaPerpTan, GetDirTangent, SetDirTangent)
 
-void Kiv2DBaseSketcherSettingsAdapt::SetGridVisuMode(int on, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_GridDisplay, AsSwitch(on));
-    if (notify) GridModify();
-}
-
-int Kiv2DBaseSketcherSettingsAdapt::GetGridSnapMode()
-{
-    return KivDrwRead(_repository, KivDrwKeys::Drw_settings_GridSnapPt);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetGridSnapMode(int on, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_GridSnapPt, AsSwitch(on));
-    if (notify) SnapModify();
-}
-
-int Kiv2DBaseSketcherSettingsAdapt::GetGridGroundMode()
-{
-    return 0;
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetGridGroundMode(int, int) {}
-
-double Kiv2DBaseSketcherSettingsAdapt::GetGridPrimSpac()
-{
-    return KivDrwRead(_repository, KivDrwKeys::Drw_settings_GridPrimarySpacing);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetGridPrimSpac(double spacing, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_GridPrimarySpacing,
-                PositiveOrDefault(spacing, KivDrwKeys::Drw_settings_GridPrimarySpacing));
-    if (notify) GridModify();
-}
-
-int Kiv2DBaseSketcherSettingsAdapt::GetGridSecStep()
-{
-    return KivDrwRead(_repository, KivDrwKeys::Drw_settings_GridSecondaryStep);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetGridSecStep(int parts, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_GridSecondaryStep,
-                PositiveOrDefault(parts, KivDrwKeys::Drw_settings_GridSecondaryStep));
-    if (notify) GridModify();
-}
-
-double Kiv2DBaseSketcherSettingsAdapt::GetGridVPrimSpac()
-{
-    return KivDrwRead(_repository, KivDrwKeys::Drw_settings_GridVPrimarySpacing);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetGridVPrimSpac(double spacing, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_GridVPrimarySpacing,
-                PositiveOrDefault(spacing, KivDrwKeys::Drw_settings_GridVPrimarySpacing));
-    if (notify) GridModify();
-}
-
-int Kiv2DBaseSketcherSettingsAdapt::GetGridVSecStep()
-{
-    return KivDrwRead(_repository, KivDrwKeys::Drw_settings_GridVSecondaryStep);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetGridVSecStep(int parts, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_GridVSecondaryStep,
-                PositiveOrDefault(parts, KivDrwKeys::Drw_settings_GridVSecondaryStep));
-    if (notify) GridModify();
-}
-
-int Kiv2DBaseSketcherSettingsAdapt::GetAllowDistortions()
-{
-    return KivDrwRead(_repository, KivDrwKeys::Drw_settings_AllowDistortions);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetAllowDistortions(int on, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_AllowDistortions, AsSwitch(on));
-    if (notify) GridModify();
-}
-
-// Smart pick and constraints
-
-int Kiv2DBaseSketcherSettingsAdapt::GetPosSupports()
-{
-    return KivDrwRead(_repository, KivDrwKeys::Drw_settings_CpltPosSupport);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetPosSupports(int on, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_CpltPosSupport, AsSwitch(on));
-    if (notify) CpltModify();
-}
-
-int Kiv2DBaseSketcherSettingsAdapt::GetPosHorVertTo()
-{
-    return KivDrwRead(_repository, KivDrwKeys::Drw_settings_CpltPosHorVertTo);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetPosHorVertTo(int on, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_CpltPosHorVertTo, AsSwitch(on));
-    if (notify) CpltModify();
-}
-
-int Kiv2DBaseSketcherSettingsAdapt::GetDirHorVert()
-{
-    return KivDrwRead(_repository, KivDrwKeys::Drw_settings_CpltDirHorVert);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetDirHorVert(int on, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_CpltDirHorVert, AsSwitch(on));
-    if (notify) CpltModify();
-}
-
-int Kiv2DBaseSketcherSettingsAdapt::GetDirParaPerpTan()
-{
-    return KivDrwRead(_repository, KivDrwKeys::Drw_settings_CpltDirParPerpTan);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetDirParaPerpTan(int on, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_CpltDirParPerpTan, AsSwitch(on));
-    if (notify) CpltModify();
-}
-
-// One switch governs the three directions.
-
-int Kiv2DBaseSketcherSettingsAdapt::GetDirParallel()
-{
-    return GetDirParaPerpTan();
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetDirParallel(int on, int notify)
-{
-    SetDirParaPerpTan(on, notify);
-}
-
-int Kiv2DBaseSketcherSettingsAdapt::GetDirPerpend()
-{
-    return GetDirParaPerpTan();
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetDirPerpend(int on, int notify)
-{
-    SetDirParaPerpTan(on, notify);
-}
-
-int Kiv2DBaseSketcherSettingsAdapt::GetDirTangent()
-{
-    return GetDirParaPerpTan();
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetDirTangent(int on, int notify)
-{
-    SetDirParaPerpTan(on, notify);
-}
+// Constraints
+KIV_SKETCHER_SETTER(int, CstCreation, AsSwitch, CpltModify, SetCreateConstraint)
+KIV_SKETCHER_SAME(GetCreateConstraint, SetCreateConstraint, GetValidateConstraint, SetValidateConstraint)
 
 int Kiv2DBaseSketcherSettingsAdapt::GetCreateConstraint()
 {
@@ -236,159 +170,55 @@ int Kiv2DBaseSketcherSettingsAdapt::GetCreateConstraint()
     return KivDrwRead(_repository, KivDrwKeys::CstCreation);
 }
 
-void Kiv2DBaseSketcherSettingsAdapt::SetCreateConstraint(int on, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::CstCreation, AsSwitch(on));
-    if (notify) CpltModify();
-}
-
-int Kiv2DBaseSketcherSettingsAdapt::GetValidateConstraint()
-{
-    return GetCreateConstraint();
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetValidateConstraint(int on, int notify)
-{
-    SetCreateConstraint(on, notify);
-}
-
 int Kiv2DBaseSketcherSettingsAdapt::GetValidateCstType(int type)
 {
     return type != 1 && type != 2 && type != 4 && type != 10;
 }
 
-int Kiv2DBaseSketcherSettingsAdapt::GetViewNormalTo()
+// View and position of the cursor
+KIV_SKETCHER_FIXED(1, GetViewNormalTo, SetViewNormalTo)
+KIV_SKETCHER_FIXED(1, GetAnimate, SetAnimate)
+KIV_SKETCHER_FIXED(1, GetShowPositionOnCursor, SetShowPositionOnCursor)
+KIV_SKETCHER_SETTER(int, Drw_settings_ShowPosition, AsSwitch, CpltModify, SetShowPosition)
+
+int Kiv2DBaseSketcherSettingsAdapt::GetShowPosition()
 {
-    return 1;
+    // Deliberate: recorded and replayed runs always show it, so that no record depends on the user's choice.
+    // Decided once a process.
+    static const bool recorded = [] {
+        const KivRecord* recorder = KivRecord::GetMain();
+        return recorder && (recorder->IsReplay() || recorder->IsCapture());
+    }();
+    return recorded ? 1 : KivDrwRead(_repository, KivDrwKeys::Drw_settings_ShowPosition);
 }
-
-void Kiv2DBaseSketcherSettingsAdapt::SetViewNormalTo(int, int) {}
-
-int Kiv2DBaseSketcherSettingsAdapt::GetAnimate()
-{
-    return 1;
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetAnimate(int, int) {}
-
-int Kiv2DBaseSketcherSettingsAdapt::GetShowPositionOnCursor()
-{
-    return 1;
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetShowPositionOnCursor(int, int) {}
 
 // Geometry
-
-int Kiv2DBaseSketcherSettingsAdapt::GetCreateCenter()
-{
-    return KivDrwRead(_repository, KivDrwKeys::Drw_settings_CreateCenter);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetCreateCenter(int on, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_CreateCenter, AsSwitch(on));
-    if (notify) GeomUIModify();
-}
-
-int Kiv2DBaseSketcherSettingsAdapt::GetDragWithEndPts()
-{
-    return KivDrwRead(_repository, KivDrwKeys::Drw_settings_DragWithEndPts);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetDragWithEndPts(int on, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_DragWithEndPts, AsSwitch(on));
-    if (notify) GeomUIModify();
-}
-
-int Kiv2DBaseSketcherSettingsAdapt::GetDragElts()
-{
-    return KivDrwRead(_repository, KivDrwKeys::Drw_settings_DragElts);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetDragElts(int on, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_DragElts, AsSwitch(on));
-    if (notify) GeomUIModify();
-}
-
-int Kiv2DBaseSketcherSettingsAdapt::GetDiagElts()
-{
-    return KivDrwRead(_repository, KivDrwKeys::Drw_settings_DiagElts);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetDiagElts(int on, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_DiagElts, AsSwitch(on));
-    if (notify) GeomUIModify();
-}
-
-int Kiv2DBaseSketcherSettingsAdapt::GetDragMode()
-{
-    return KivDrwRead(_repository, KivDrwKeys::Drw_settings_DragModeR14);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetDragMode(int mode, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_DragModeR14, mode >= 0 && mode <= 2 ? mode : 1);
-    if (notify) GeomUIModify();
-}
+KIV_SKETCHER_PAIR(int, Drw_settings_CreateCenter, AsSwitch, GeomUIModify, GetCreateCenter, SetCreateCenter)
+KIV_SKETCHER_PAIR(int, Drw_settings_DragWithEndPts, AsSwitch, GeomUIModify, GetDragWithEndPts,
+                  SetDragWithEndPts)
+KIV_SKETCHER_PAIR(int, Drw_settings_DragElts, AsSwitch, GeomUIModify, GetDragElts, SetDragElts)
+KIV_SKETCHER_PAIR(int, Drw_settings_DiagElts, AsSwitch, GeomUIModify, GetDiagElts, SetDiagElts)
+KIV_SKETCHER_PAIR(int, Drw_settings_DragModeR14, DragModeOrDefault, GeomUIModify, GetDragMode, SetDragMode)
 
 // Colors
+KIV_SKETCHER_COLOR(Drw_settings_ColorConstructElts, GeomUIModify, GetColorConstructElts,
+                   SetColorConstructElts)
+KIV_SKETCHER_COLOR(Drw_settings_ColorSmartPick, GeomUIModify, GetColorSmartPick, SetColorSmartPick)
+KIV_SKETCHER_NO_COLOR(GetColorIsolatedElts, SetColorIsolatedElts)
+KIV_SKETCHER_NO_COLOR(GetColorProtectedElts, SetColorProtectedElts)
 
 void Kiv2DBaseSketcherSettingsAdapt::GetColorDiagElts(int diagnostic, unsigned int& r, unsigned int& g,
                                                       unsigned int& b)
 {
     unsigned int packed = GetDefaultColor();
-    if (const auto* key = DiagnosticColor(diagnostic)) packed = KivDrwRead(_repository, *key);
+    if (const auto* const key = DiagnosticColor(diagnostic)) packed = KivDrwRead(_repository, *key);
     GetRGB(packed, &r, &g, &b);
 }
 
 void Kiv2DBaseSketcherSettingsAdapt::SetColorDiagElts(int diagnostic, unsigned int r, unsigned int g,
                                                       unsigned int b, int notify)
 {
-    unsigned int packed = 0;
-    SetRGB(&packed, r, g, b);
-    if (const auto* key = DiagnosticColor(diagnostic)) KivDrwWrite(_repository, *key, packed);
-    if (notify) GeomUIModify();
-}
-
-// These have no color of their own: what is given stays as it is.
-
-void Kiv2DBaseSketcherSettingsAdapt::GetColorIsolatedElts(unsigned int&, unsigned int&, unsigned int&) {}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetColorIsolatedElts(unsigned int, unsigned int, unsigned int, int) {}
-
-void Kiv2DBaseSketcherSettingsAdapt::GetColorProtectedElts(unsigned int&, unsigned int&, unsigned int&) {}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetColorProtectedElts(unsigned int, unsigned int, unsigned int, int) {}
-
-void Kiv2DBaseSketcherSettingsAdapt::GetColorConstructElts(unsigned int& r, unsigned int& g, unsigned int& b)
-{
-    GetRGB(KivDrwRead(_repository, KivDrwKeys::Drw_settings_ColorConstructElts), &r, &g, &b);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetColorConstructElts(unsigned int r, unsigned int g, unsigned int b,
-                                                           int notify)
-{
-    unsigned int packed = 0;
-    SetRGB(&packed, r, g, b);
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_ColorConstructElts, packed);
-    if (notify) GeomUIModify();
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::GetColorSmartPick(unsigned int& r, unsigned int& g, unsigned int& b)
-{
-    GetRGB(KivDrwRead(_repository, KivDrwKeys::Drw_settings_ColorSmartPick), &r, &g, &b);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetColorSmartPick(unsigned int r, unsigned int g, unsigned int b,
-                                                       int notify)
-{
-    unsigned int packed = 0;
-    SetRGB(&packed, r, g, b);
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_ColorSmartPick, packed);
+    if (const auto* const key = DiagnosticColor(diagnostic)) KivDrwWrite(_repository, *key, Packed(r, g, b));
     if (notify) GeomUIModify();
 }
 
@@ -405,25 +235,6 @@ void Kiv2DBaseSketcherSettingsAdapt::SetRGB(unsigned int* packed, unsigned int r
                                             unsigned int b)
 {
     if (packed) *packed = r << 16 | g << 8 | b;
-}
-
-// Position of the cursor
-
-int Kiv2DBaseSketcherSettingsAdapt::GetShowPosition()
-{
-    // Deliberate: recorded and replayed runs always show it, so that no record depends on the user's choice.
-    // Decided once a process.
-    static const bool recorded = [] {
-        const KivRecord* recorder = KivRecord::GetMain();
-        return recorder && (recorder->IsReplay() || recorder->IsCapture());
-    }();
-    return recorded ? 1 : KivDrwRead(_repository, KivDrwKeys::Drw_settings_ShowPosition);
-}
-
-void Kiv2DBaseSketcherSettingsAdapt::SetShowPosition(int on, int notify)
-{
-    KivDrwWrite(_repository, KivDrwKeys::Drw_settings_ShowPosition, AsSwitch(on));
-    if (notify) CpltModify();
 }
 
 // Events
