@@ -127,7 +127,7 @@ TEST_F(GeometryPage, EachPairOfTheSketcherHasAKeyAndAnEventOfItsOwn)
         {&S::GetDragElts, &S::SetDragElts, Drw_settings_DragElts, "geometry", "GeomManip"},
         {&S::GetDiagElts, &S::SetDiagElts, Drw_settings_DiagElts, "geometry", "VisuDiagnostic"}};
     for (const auto& pair : switches) {
-        KivDrwRepository()->ResetToAdminValues(nullptr, 0);
+        KivDrwRepository()->ResetToAdminValues(kKivDrwKeyNames, int(std::size(kKivDrwKeyNames)));
         for (const int value : {0, 9}) holds(pair, value, value != 0);
         if (!pair.control) continue;
         editor->SetUserSettingsValue(nullptr);

@@ -123,7 +123,7 @@ TEST_F(RunTimeReaders, ColorsArePackedByDiagnostic)
         EXPECT_EQ(Stored(key), 0x010203U) << key.name;
         EXPECT_EQ(r << 16 | g << 8 | b, 0x010203U) << key.name;
         EXPECT_EQ(Heard(), "geometry ");
-        KivDrwRepository()->ResetToAdminValues(nullptr, 0);
+        KivDrwRepository()->ResetToAdminValues(&key.name, 1);
     }
     r = 0x43U;
     Kiv2DBaseSketcherSettingsAdapt::GetRGB(0xFFFFFF, &r, nullptr, &b);
