@@ -12,55 +12,90 @@ namespace {
 
 constexpr unsigned long kComboStyle = 0x40000;
 
+// Generation modes, one bit each.
+constexpr unsigned Bit(KivDrwGenerationMode mode)
+{
+    return 1U << mode;
+}
+constexpr unsigned kExact = Bit(KivDrwExactMode);
+constexpr unsigned kRaster = Bit(KivDrwRasterMode);
+constexpr unsigned kPictures = kRaster | Bit(KivDrwHrvMode); // they have options of their own
+constexpr unsigned kEveryMode = kExact | Bit(KivDrwVbxMode) | kPictures;
+
 } // namespace
+
+// What the enabling table is made from.
+struct KivDrwOptViewFrame::Controls {
+    KivDrwLockCheckButton *axis, *thread, *center, *hiddenLines, *fillets, *colors, *wireframe, *points,
+        *uncut;
+    KivDrwLockCheckButton *exactPreview, *culling;
+    KivDrwLockSpinner* boxTolerance;
+    KivDlgPushButton *filletsPush, *wireframePush, *pointsPush, *linesPush, *picturesPush;
+};
 
 void KivDrwOptViewFrame::Build()
 {
-    BuildElements();
-    BuildGeneration();
+    Controls made{};
+    BuildElements(made);
+    BuildGeneration(made);
     Group("frameClipping", "I_DrwClippingView")
         .Line()
         .Check("chkDimClipNoShow", _dimClipNoShow, _dimClipNoShow.Kind());
     KivFormGroup view3D = Group("frameView3D", "I_DrwZekView");
     view3D.Line().Check("chkQmtAnnotLay", _qmtAnnotLay);
     view3D.Line().Check("chkGeomOf2DLView", _geomOf2DLView);
+
+    _enabling = {
+        {{made.axis, made.center, made.thread, made.fillets, made.wireframe}, {kExact}},
+        {{made.hiddenLines, made.uncut, made.linesPush}, {kEveryMode}},
+        {{made.colors}, {kExact | kRaster}},
+        {{made.exactPreview, made.culling}, {kExact}, {kExact}},
+        {{made.picturesPush}, {kPictures}, {kPictures}},
+        {{made.filletsPush}, {kExact, &_genFil}},
+        // Enabled although the style governs its check button, deliberately.
+        {{made.wireframePush}, {kExact, &_genWireFrame}, {kEveryMode}},
+        {{made.points}, {kExact, nullptr, &_occlusionCulling}},
+        {{made.pointsPush}, {kExact, &_project3DPts, &_occlusionCulling}},
+        {{made.boxTolerance}, {kEveryMode, &_genBox}, {kEveryMode, &_genBox}},
+    };
 }
 
-void KivDrwOptViewFrame::BuildElements()
+void KivDrwOptViewFrame::BuildElements(Controls& made)
 {
     _form.SetCallback(&KivDrwOptViewFrame::Write);
     KivFormGroup elements = Group("frameGenElem", "I_DrwFrontView");
     KivFormLine axis = elements.Line();
-    axis.Check("_checkGenAxis", _genAxis);
-    axis.Attached(KivDlgAttachAllSidesCentered).Check("_checkGenThread", _genThread);
+    made.axis = axis.Check("_checkGenAxis", _genAxis);
+    made.thread = axis.Attached(KivDlgAttachAllSidesCentered).Check("_checkGenThread", _genThread);
     KivFormLine center = elements.Line();
-    center.Check("_checkGenCenter", _genCenter);
-    center.Check("_checkGenHiddenLines", _genHiddenLines);
+    made.center = center.Check("_checkGenCenter", _genCenter);
+    made.hiddenLines = center.Check("_checkGenHiddenLines", _genHiddenLines);
 
     KivFormLine fillets = elements.Part("frameButtonGenFil", 3).Line();
-    fillets.Check("_checkGenFil", _genFil);
+    made.fillets = fillets.Check("_checkGenFil", _genFil);
     fillets.Spacer("invisibleLock2");
-    BuildPush(fillets, "pushGenFil", &KivDrwOptViewFrame::PushGenFil);
+    made.filletsPush = BuildPush(fillets, "pushGenFil", &KivDrwOptViewFrame::PushGenFil);
 
-    elements.Line().At(0, 2).Check("_checkGen3DColors", _gen3DColors);
+    made.colors = elements.Line().At(0, 2).Check("_checkGen3DColors", _gen3DColors);
 
     KivFormLine wireframe = elements.Part("frmWireFrame", 2).Line();
-    wireframe.Check("checkGenWireFrame", _genWireFrame);
-    BuildPush(wireframe.At(2), "pushGenWireFrameMod", &KivDrwOptViewFrame::WireFrameModButton);
+    made.wireframe = wireframe.Check("checkGenWireFrame", _genWireFrame);
+    made.wireframePush =
+        BuildPush(wireframe.At(2), "pushGenWireFrameMod", &KivDrwOptViewFrame::WireFrameModButton);
 
     KivFormLine points = elements.Part("frameProject3DPts", 2).Line();
-    points.Check("checkProject3DPts", _project3DPts);
+    made.points = points.Check("checkProject3DPts", _project3DPts);
     points.Spacer("invisibleLock3");
-    BuildPush(points, "project3DPtsPushButton", &KivDrwOptViewFrame::Project3DPtsButton);
+    made.pointsPush = BuildPush(points, "project3DPtsPushButton", &KivDrwOptViewFrame::Project3DPtsButton);
 
-    elements.Line().At(0, 2).Check("checkGenApplyUncut", _genApplyUncut);
+    made.uncut = elements.Line().At(0, 2).Check("checkGenApplyUncut", _genApplyUncut);
 
     KivFormLine lines = elements.Part("frameButtonLinetype", 3).Line("labelLinetype");
     lines.Spacer("invisibleLock1");
-    BuildPush(lines, "linetypePushButton", &KivDrwOptViewFrame::LinetypeButton);
+    made.linesPush = BuildPush(lines, "linetypePushButton", &KivDrwOptViewFrame::LinetypeButton);
 }
 
-void KivDrwOptViewFrame::BuildGeneration()
+void KivDrwOptViewFrame::BuildGeneration(Controls& made)
 {
     KivFormGroup generation = Group("frameGenView", "I_DrwFrontView");
     _form.SetCallback(&KivDrwOptViewFrame::GenFromVbxCallback);
@@ -68,20 +103,22 @@ void KivDrwOptViewFrame::BuildGeneration()
     mode.Choice("combViewMod", _mode, _mode.Kind(), kComboStyle);
     _form.SetCallback(&KivDrwOptViewFrame::Write);
     mode.Spacer("lbl1");
-    BuildPush(mode, "pushRasterOptions", &KivDrwOptViewFrame::PushRasterOptions);
+    made.picturesPush = BuildPush(mode, "pushRasterOptions", &KivDrwOptViewFrame::PushRasterOptions);
 
-    generation.Line().Check("chkExactPreview", _exactPreview);
+    made.exactPreview = generation.Line().Check("chkExactPreview", _exactPreview);
     KivFormLine box = generation.Part("frmGenBox").Line();
     const KivDrwLockCheckButton* check = box.At(1).Check("checkGenBox", _genBox);
-    box.Spinner("spinGenBox", _genBoxTol, _genBoxTol.Kind())->SetLongHelp(check->GetLongHelp());
-    generation.Line().Check("chkOcclusionCulling", _occlusionCulling);
+    made.boxTolerance = box.Spinner("spinGenBox", _genBoxTol, _genBoxTol.Kind());
+    made.boxTolerance->SetLongHelp(check->GetLongHelp());
+    made.culling = generation.Line().Check("chkOcclusionCulling", _occlusionCulling);
     generation.Line().Check("chkSelBodyInAss", _selBodyInAss, _selBodyInAss.Kind());
 }
 
-void KivDrwOptViewFrame::BuildPush(KivFormLine line, const KivString& name, Callback callback)
+KivDlgPushButton* KivDrwOptViewFrame::BuildPush(KivFormLine line, const KivString& name, Callback callback)
 {
     KivDlgPushButton* button = line.Push(name);
     AddAnalyseNotificationCB(button, button->GetPushBActivateNotification(), callback, nullptr);
+    return button;
 }
 
 void KivDrwOptViewFrame::Initialize()
@@ -96,11 +133,7 @@ void KivDrwOptViewFrame::Initialize()
 void KivDrwOptViewFrame::UpdateWidgets()
 {
     KivPageFrame::UpdateWidgets();
-    Enable("pushGenFil", _genFil.cached != 0);
-    Enable("pushGenWireFrameMod", _genWireFrame.cached != 0);
-    Enable("project3DPtsPushButton", _project3DPts.cached != 0);
-    Enable("spinGenBox", _genBox.cached != 0);
-    UpdateVbx();
+    Apply(KivDrwViewOccasion::Shown);
 }
 
 // The generative view style governs the options of the page, unless the administrator prevents such styles.
@@ -109,83 +142,50 @@ bool KivDrwOptViewFrame::StyleGoverns() const
     return KivDrwRead(_repository, KivDrwKeys::DrwPreventGVS) == 0;
 }
 
-void KivDrwOptViewFrame::Enable(const char* name, bool enabled)
+void KivDrwOptViewFrame::Apply(KivDrwViewOccasion occasion) const
 {
-    KivDialog* control = FindDialog(name);
-    if (!control) return;
-    const unsigned long sensitivity = enabled ? KivDlgEnabled : KivDlgDisabled;
-    if (control->IsAKindOf(KivDrwLockDialog::Name)) {
-        static_cast<KivDrwLockDialog*>(control)->SetSensitivity(sensitivity);
-    } else {
-        control->SetSensitivity(sensitivity);
-    }
-}
-
-bool KivDrwOptViewFrame::IsTicked(const char* check)
-{
-    const auto* button = static_cast<KivDrwLockCheckButton*>(FindDialog(check));
-    return button && button->GetState() == KivDlgChecked;
-}
-
-void KivDrwOptViewFrame::Apply(const KivDrwViewRule& rule, bool styled)
-{
+    // Without a repository no mode disables anything; an unknown mode has no options, like Vbx.
     const int mode = _mode.cached;
-    switch (styled ? rule.styled : (mode == KivDrwExactMode ? rule.exact : rule.other)) {
-    case KivDrwWhen::Always:
-        return Enable(rule.control, true);
-    case KivDrwWhen::Never:
-        return Enable(rule.control, false);
-    case KivDrwWhen::Exact:
-        return Enable(rule.control, mode == KivDrwExactMode);
-    case KivDrwWhen::Raster:
-        return Enable(rule.control, mode == KivDrwRasterMode);
-    case KivDrwWhen::Pictures:
-        return Enable(rule.control, mode == KivDrwRasterMode || mode == KivDrwHrvMode);
-    case KivDrwWhen::UnlessCulling:
-        return Enable(rule.control, _occlusionCulling.cached != 1);
-    case KivDrwWhen::IfTicked:
-        if (IsTicked(rule.check)) Enable(rule.control, true);
-        return;
-    }
+    const bool isKnown = mode >= KivDrwExactMode && mode <= KivDrwHrvMode;
+    const unsigned modes = _repository ? 1U << (isKnown ? mode : KivDrwVbxMode) : kEveryMode;
+    const bool isStyled = StyleGoverns();
+    for (const KivDrwViewRule& rule : _enabling) rule.Apply(occasion, isStyled, modes);
 }
 
 void KivDrwOptViewFrame::UpdateVbx()
 {
-    if (!_repository) return;
-    const bool styled = StyleGoverns();
-    for (const KivDrwViewRule& rule : kKivDrwViewRules) Apply(rule, styled);
+    if (_repository) Apply(KivDrwViewOccasion::ModeChosen);
 }
 
 void KivDrwOptViewFrame::Write(KivCommand* from, KivNotification*, void*)
 {
     if (!_repository) return;
+    const KivWeakPtr<KivDrwOptViewFrame> self(this);
     _form.ReadAll();
-    _form.Store({&_occlusionCulling, &_exactPreview, &_genBox, &_genBoxTol, &_qmtAnnotLay, &_geomOf2DLView});
+    KivBoundValues stored = {&_occlusionCulling, &_exactPreview, &_genBox,
+                             &_genBoxTol,        &_qmtAnnotLay,  &_geomOf2DLView};
+    const auto store = [&stored](const KivBoundValues& more) {
+        stored.insert(stored.end(), more.begin(), more.end());
+    };
     // These two are stored only when their own button was pressed, deliberately.
     for (KivBoundValue* value : {&_dimClipNoShow, &_selBodyInAss}) {
-        if (_form.IsSender(*value, from)) _form.Store({value});
+        if (_form.IsSender(*value, from)) store({value});
     }
-    Enable("spinGenBox", _genBox.cached != 0);
     // What the style or the mode governs is never written from here.
-    if (StyleGoverns()) return;
-    _form.Store({&_genHiddenLines, &_genApplyUncut, &_gen3DColors});
-    if (_mode.cached == KivDrwExactMode) WriteExactOptions();
-}
-
-void KivDrwOptViewFrame::WriteExactOptions()
-{
-    _form.Store({&_genAxis, &_genCenter, &_genThread, &_genFil, &_genWireFrame, &_project3DPts});
-    Enable("pushGenFil", _genFil.cached != 0);
-    Enable("pushGenWireFrameMod", _genWireFrame.cached != 0);
-    // Culled points cannot be projected, whether they are asked for or not.
-    const bool culled = _occlusionCulling.cached == 1;
-    Enable("checkProject3DPts", !culled);
-    Enable("project3DPtsPushButton", !culled && _project3DPts.cached != 0);
+    if (!StyleGoverns()) {
+        store({&_genHiddenLines, &_genApplyUncut, &_gen3DColors});
+        if (_mode.cached == KivDrwExactMode)
+            store({&_genAxis, &_genCenter, &_genThread, &_genFil, &_genWireFrame, &_project3DPts});
+    }
+    _form.Store(stored);
+    if (self) Apply(KivDrwViewOccasion::Stored);
 }
 
 void KivDrwOptViewFrame::GenFromVbxCallback(KivCommand* from, KivNotification*, void*)
 {
+    const KivWeakPtr<KivDrwOptViewFrame> self(this);
     _form.Take(from);
+    if (!self) return;
     UpdateVbx();
     Write(nullptr, nullptr, nullptr);
 }

@@ -31,14 +31,12 @@ public:
 
 private:
     using Callback = void (KivDrwOptViewFrame::*)(KivCommand*, KivNotification*, void*);
-    void BuildElements();
-    void BuildGeneration();
-    void BuildPush(KivFormLine line, const KivString& name, Callback callback);
+    struct Controls;
+    void BuildElements(Controls& made);
+    void BuildGeneration(Controls& made);
+    KivDlgPushButton* BuildPush(KivFormLine line, const KivString& name, Callback callback);
     bool StyleGoverns() const;
-    void Apply(const KivDrwViewRule& rule, bool styled);
-    void Enable(const char* name, bool enabled);
-    bool IsTicked(const char* check);
-    void WriteExactOptions();
+    void Apply(KivDrwViewOccasion occasion) const;
     template <class Window> void OpenWindow(const char* name, const char* catalogue, const char* title);
 
     KIV_KEY_VALUE(_genAxis, int, KivDrwKeys::GenAxisCreate)
@@ -59,4 +57,6 @@ private:
     KIV_KEY_VALUE(_dimClipNoShow, int, KivDrwKeys::KivDrwDimClipNoShow)
     KIV_KEY_VALUE(_selBodyInAss, int, KivDrwKeys::KivDrwSelBodyInAss)
     KIV_KEY_VALUE(_geomOf2DLView, int, KivDrwKeys::KivDrwGeomOf2DLView)
+
+    std::vector<KivDrwViewRule> _enabling; // what the mode, the style and other options enable
 };

@@ -1,40 +1,35 @@
 #pragma once
 
-// When a control of the View page is enabled.
-enum class KivDrwWhen {
-    Always,
-    Never,
-    Exact,         // in the exact mode
-    Raster,        // in the raster mode
-    Pictures,      // in the modes that have options of their own, raster and HRV
-    UnlessCulling, // while hidden parts are not culled
-    IfTicked,      // if its check button is ticked; otherwise it is left as it is
+#include "Dialog/KivDlgPushButton.h"
+#include "Form/KivPageValue.h"
+#include "Lock/KivDrwLockDialog.h"
+
+#include <variant>
+#include <vector>
+
+// When a control of the View page is enabled, while the generative view style governs or while it does not.
+struct KivDrwViewCondition {
+    unsigned modes = 0;                          // in these generation modes, one bit each
+    const KivCachedValue<int>* tick = nullptr;   // if this option is on
+    const KivCachedValue<int>* unless = nullptr; // and if this one is not; see KivDrwViewRule::Apply
 };
 
-// What enables a control: in the exact mode, in the others, and while the generative view style governs.
+// What occasions that controls are enabled anew.
+enum class KivDrwViewOccasion {
+    Shown,
+    ModeChosen, // leaves what is not ticked as it is
+    Stored,     // touches only what depends on an option
+};
+
+// Some controls of the View page that are enabled together. They belong to the dialog tree and may be gone.
 struct KivDrwViewRule {
-    const char* control;
-    KivDrwWhen exact, other, styled;
-    const char* check = ""; // whose tick counts
-};
+    using Control = std::variant<KivWeakPtr<KivDrwLockDialog>, KivWeakPtr<KivDlgPushButton>>;
 
-inline constexpr KivDrwViewRule kKivDrwViewRules[] = {
-    {"_checkGenAxis", KivDrwWhen::Always, KivDrwWhen::Never, KivDrwWhen::Never},
-    {"_checkGenCenter", KivDrwWhen::Always, KivDrwWhen::Never, KivDrwWhen::Never},
-    {"_checkGenThread", KivDrwWhen::Always, KivDrwWhen::Never, KivDrwWhen::Never},
-    {"_checkGenFil", KivDrwWhen::Always, KivDrwWhen::Never, KivDrwWhen::Never},
-    {"_checkGenHiddenLines", KivDrwWhen::Always, KivDrwWhen::Always, KivDrwWhen::Never},
-    {"checkGenApplyUncut", KivDrwWhen::Always, KivDrwWhen::Always, KivDrwWhen::Never},
-    {"_checkGen3DColors", KivDrwWhen::Always, KivDrwWhen::Raster, KivDrwWhen::Never},
-    {"checkGenWireFrame", KivDrwWhen::Always, KivDrwWhen::Never, KivDrwWhen::Never},
-    {"pushGenFil", KivDrwWhen::IfTicked, KivDrwWhen::Never, KivDrwWhen::Never, "_checkGenFil"},
-    // Enabled although the style governs its check button, deliberately.
-    {"pushGenWireFrameMod", KivDrwWhen::IfTicked, KivDrwWhen::Never, KivDrwWhen::Always, "checkGenWireFrame"},
-    {"linetypePushButton", KivDrwWhen::Always, KivDrwWhen::Always, KivDrwWhen::Never},
-    {"checkProject3DPts", KivDrwWhen::UnlessCulling, KivDrwWhen::Never, KivDrwWhen::Never},
-    {"project3DPtsPushButton", KivDrwWhen::IfTicked, KivDrwWhen::Never, KivDrwWhen::Never,
-     "checkProject3DPts"},
-    {"chkExactPreview", KivDrwWhen::Always, KivDrwWhen::Never, KivDrwWhen::Exact},
-    {"chkOcclusionCulling", KivDrwWhen::Always, KivDrwWhen::Never, KivDrwWhen::Exact},
-    {"pushRasterOptions", KivDrwWhen::Never, KivDrwWhen::Pictures, KivDrwWhen::Pictures},
+    std::vector<Control> controls;
+    KivDrwViewCondition prevented; // while the administrator prevents generative view styles
+    KivDrwViewCondition styled = {};
+
+    // Enables or disables the controls; a lock stays stronger. The mode is one bit, or all of them where no
+    // mode disables anything.
+    void Apply(KivDrwViewOccasion occasion, bool isStyled, unsigned mode) const;
 };
