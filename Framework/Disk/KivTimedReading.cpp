@@ -42,6 +42,7 @@ std::vector<KivFileContent> KivReadInTime(const std::vector<KivUnicodeString>& p
 {
     const auto until = std::chrono::steady_clock::now() + limit;
     std::vector<std::optional<Reading>> readings;
+    readings.reserve(paths.size());
     for (const KivUnicodeString& path : paths) readings.push_back(StartUnlessStuck(path, read));
 
     std::vector<KivFileContent> contents;

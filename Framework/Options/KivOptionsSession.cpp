@@ -82,7 +82,7 @@ void KivOptionsSession::Add(const KivUserSettingsManager::Editor& editor)
                       .frame = frame.get(),
                       .settings = editor.settings,
                       .position = PositionFrom(texts.Find(editor.name + ".Position"))});
-    frame.release(); // the tree owns it from here on
+    static_cast<void>(frame.release()); // the tree owns it from here on
 }
 
 const KivOptionsSession::Page* KivOptionsSession::FindPage(const KivUnicodeString& name) const

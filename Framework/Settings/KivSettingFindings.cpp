@@ -169,6 +169,7 @@ std::vector<KivSettingFinding> KivCheckSettings(std::string_view name, std::span
     }
 
     std::vector<Layer> layers;
+    layers.reserve(outside.size() + 1);
     for (const KivSettingLayer& layer : outside)
         layers.push_back({layer.name, layer.path, layer.file, layer.replaced ? *layer.replaced : layer.file});
     layers.push_back({ownName, own.Path(), own.File(), own.File(), isUsers});

@@ -57,6 +57,7 @@ std::vector<KivSettingLayer> KivReadAdministratorLayers(const std::vector<KivUni
     std::vector<KivSettingLayer> layers;
     if (directories.empty()) return layers;
     std::vector<KivUnicodeString> paths;
+    paths.reserve(directories.size());
     for (const KivUnicodeString& directory : directories) {
         paths.push_back((directory + "/").Append(fileName));
     }

@@ -36,6 +36,7 @@ bool Settings::Write(const std::string& key, const KivSettingValue& value)
 void Settings::Drop(const std::vector<std::string>& keys)
 {
     std::vector<const char*> names;
+    names.reserve(keys.size());
     for (const std::string& key : keys) names.push_back(key.c_str());
     _repository.ResetToAdminValues(names.data(), static_cast<int>(names.size()));
 }
