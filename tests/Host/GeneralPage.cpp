@@ -1,32 +1,8 @@
 #include "OptionsPages.h"
-#include "Parameter/KivParmDictionary.h"
-#include "Parameter/KivParmEngine.h"
 
 namespace {
 
-class GeneralPage : public OptionsPages {
-protected:
-    void TearDown() override
-    {
-        KivParmEngine::Instance().SetCurrentUnit(KivParmDictionary::LengthType, "MM");
-        OptionsPages::TearDown();
-    }
-};
-
-TEST_F(GeneralPage, TwentyMillimetersAreTwentyInEveryUnit)
-{
-    for (const char* unit : {"MM", "INCH", "F_I_F64", "F_I_DEC", "FOOT", "KM"}) {
-        KivParmEngine::Instance().SetCurrentUnit(KivParmDictionary::LengthType, unit);
-        std::filesystem::remove(file);
-        Open();
-        for (const char* typed : {"10 cm", "20 mm"})
-            ASSERT_TRUE(KivUserHand::Type(Spinner("editorGridSpacing"), typed)) << unit;
-        EXPECT_EQ(Stored("Drw_settings_GridPrimarySpacing", 0.0), 20.0) << unit;
-        EXPECT_TRUE(session->Commit().empty());
-        Open();
-        EXPECT_EQ(Spinner("editorGridSpacing").GetValue(), 0.02) << unit;
-    }
-}
+using GeneralPage = OptionsPages;
 
 TEST_F(GeneralPage, VerticalFieldsFollowUntilDistortionsAreAllowed)
 {

@@ -155,32 +155,6 @@ TEST_F(PageRules, EachPressOpensAnotherSnapWindowAndAllShowTheSame)
     EXPECT_TRUE(Press("pushAnnotActiveSnap")) << "left open at the end";
 }
 
-TEST_F(PageRules, ADirectoryThatDoesNotExistIsKeptAndMarked)
-{
-    KivDlgEditor& field = (OpenOn(""), Node<KivDlgEditor>("editorTitleBlockPath_dialog"));
-    EXPECT_TRUE(field.IsDirectory());
-    const KivUnicodeString usual = field.CatalogueText("Help");
-    const std::string there = box.root.string(), away = there + "/away";
-    box.Write(box.root / "file", "");
-    for (const auto& [path, isMarked] : {std::pair(there, false),
-                                         {away, true},
-                                         {there + "/file", true},
-                                         {std::string(), false},
-                                         {away, true}}) {
-        EXPECT_TRUE(KivUserHand::Type(field, path.c_str()));
-        while (KivDirectoryWatch::Drain()) std::this_thread::yield();
-        EXPECT_EQ(Stored("DrwFrameAndTitleBlockPath", KivUnicodeString("?")), path.c_str());
-        EXPECT_EQ(field.GetText(), path.c_str());
-        EXPECT_EQ(Node<KivDialog>("labelTitleBlockMissing").IsShown(), isMarked) << path;
-        EXPECT_EQ(field.GetHelp() == usual, !isMarked) << "who hears the page is told too";
-    }
-    std::filesystem::create_directory(away);
-    session->Refill();
-    EXPECT_FALSE(Node<KivDialog>("labelTitleBlockMissing").IsShown()) << "it is back";
-    EXPECT_TRUE(session->Commit().empty());
-    EXPECT_EQ(box.Bytes(file).find("TitleBlockFile"), std::string::npos) << "on no page";
-}
-
 TEST_F(PageRules, APlaceThatDoesNotAnswerIsWaitedForByNobody)
 {
     struct Share {
@@ -221,6 +195,14 @@ TEST_F(PageRules, APlaceThatDoesNotAnswerIsWaitedForByNobody)
     while (KivDirectoryWatch::Drain()) std::this_thread::yield();
     EXPECT_EQ(field.GetDirectoryState(), KivDirectoryState::There);
     EXPECT_FALSE(label.IsShown());
+    const KivUnicodeString usual = field.GetHelp();
+    for (const std::string& missing : {away + "/away", away + "/generativeparameters/Style.xml"}) {
+        EXPECT_TRUE(KivUserHand::Type(field, missing.c_str()));
+        while (KivDirectoryWatch::Drain()) std::this_thread::yield();
+        EXPECT_TRUE(label.IsShown());
+        EXPECT_FALSE(field.GetHelp() == usual) << "who hears the page is told too";
+        EXPECT_EQ(Stored("DrwFrameAndTitleBlockPath", KivUnicodeString()), missing.c_str()) << "kept";
+    }
     for (int i = 0; i < 500 && Combo("chkGVSXml").GetLineCount() == 0; ++i) {
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
         session->Refill();
