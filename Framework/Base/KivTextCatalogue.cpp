@@ -82,24 +82,6 @@ KivUnicodeString Lengthened(const KivUnicodeString& text)
     return KivUnicodeString(longer + "]");
 }
 
-// In one pass: a value may hold what looks like a place.
-KivUnicodeString Filled(const KivUnicodeString& text, const std::vector<KivUnicodeString>& values)
-{
-    std::string filled;
-    const std::string_view all = text.View();
-    for (std::size_t i = 0; i < all.size(); ++i) {
-        const char digit = all[i] == '%' && i + 1 < all.size() ? all[i + 1] : '0';
-        const auto place = static_cast<std::size_t>(digit - '1');
-        if (digit < '1' || digit > '9' || place >= values.size()) {
-            filled += all[i];
-            continue;
-        }
-        filled += values[place].View();
-        ++i;
-    }
-    return KivUnicodeString(std::move(filled));
-}
-
 } // namespace
 
 const KivTextCatalogue& KivTextCatalogue::Open(const KivString& name)
@@ -122,11 +104,29 @@ const KivTextCatalogue& KivTextCatalogue::Open(const KivString& name)
     return place->second;
 }
 
+KivUnicodeString KivTextCatalogue::Fill(const KivUnicodeString& text,
+                                        std::initializer_list<KivUnicodeString> values)
+{
+    std::string filled;
+    const std::string_view all = text.View();
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const char digit = all[i] == '%' && i + 1 < all.size() ? all[i + 1] : '0';
+        const auto place = static_cast<std::size_t>(digit - '1');
+        if (digit < '1' || digit > '9' || place >= values.size()) {
+            filled += all[i];
+            continue;
+        }
+        filled += (values.begin() + place)->View();
+        ++i;
+    }
+    return KivUnicodeString(std::move(filled));
+}
+
 KivUnicodeString KivTextCatalogue::FrameworkText(const char* key,
                                                  std::initializer_list<KivUnicodeString> values)
 {
     const KivUnicodeString text = Open(kFramework).Find(key);
-    if (!text.IsEmpty()) return Filled(text, values);
+    if (!text.IsEmpty()) return Fill(text, values);
     KivUnicodeString bare(key);
     for (const KivUnicodeString& value : values) bare.Append(" ").Append(value);
     return bare;

@@ -24,6 +24,11 @@ public:
     static KivUnicodeString FrameworkText(const char* key,
                                           std::initializer_list<KivUnicodeString> values = {});
 
+    // A text with the values in the places of its %1 to %9, in one pass: a value may hold what looks like a
+    // place.
+    static KivUnicodeString Fill(const KivUnicodeString& text,
+                                 std::initializer_list<KivUnicodeString> values);
+
     // Not a language: the English texts, marked at both ends and longer by 40 %, as a translation may make
     // them. Shows at a glance what is cut off and what no catalogue holds.
     static constexpr const char* kPseudoLanguage = "Pseudo";

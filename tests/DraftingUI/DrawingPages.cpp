@@ -12,7 +12,17 @@
 #include "SketcherTest.h"
 #include "Tabs/KivDrwOptGeoEditor.h"
 
+#include <functional>
+
 namespace {
+
+template <class T> struct Pair {
+    T (KivSketcherSettings::*get)();
+    void (KivSketcherSettings::*set)(T value, int notify);
+    const KivDrwKey<T>& key;
+    const char* event;
+    const char* control = nullptr; // on this page
+};
 
 // The Geometry page in its editor, beside a sketcher that listens.
 class GeometryPage : public SketcherTest {
@@ -21,6 +31,17 @@ protected:
     {
         editor->BuildEditor(&page);
         editor->SetUserSettingsValue(nullptr);
+    }
+    // What is given to a pair is stored and read as what it is taken for, and told when that is asked for.
+    template <class T> void Holds(const Pair<T>& pair, T given, T taken)
+    {
+        SCOPED_TRACE(pair.key.name);
+        std::mem_fn(pair.set)(sketcher, given, 0);
+        EXPECT_EQ(Heard(), "");
+        EXPECT_EQ(KivDrwRead(KivDrwRepository(), pair.key), taken);
+        EXPECT_EQ(std::mem_fn(pair.get)(sketcher), taken);
+        std::mem_fn(pair.set)(sketcher, given, 1);
+        EXPECT_EQ(Heard(), pair.event + (" " + State()));
     }
     // What the sketcher reads while it is told.
     std::string State() override
@@ -69,44 +90,27 @@ TEST_F(GeometryPage, TellsTheSketcherOfEachChangeAndOfWhatTakesItBack)
     EXPECT_EQ(Heard(), untouched);
 }
 
-template <class T> struct Pair {
-    T (KivSketcherSettings::*get)();
-    void (KivSketcherSettings::*set)(T value, int notify);
-    const KivDrwKey<T>& key;
-    const char* event;
-    const char* control = nullptr; // on this page
-};
-
 // Whoever changes a setting, this page or another caller of the sketcher: it is read where it was written,
 // and the same listeners hear of it.
 TEST_F(GeometryPage, EachPairOfTheSketcherHasAKeyAndAnEventOfItsOwn)
 {
     using S = KivSketcherSettings;
     using namespace KivDrwKeys;
-    const auto holds = [this](const auto& pair, auto given, auto taken) {
-        SCOPED_TRACE(pair.key.name);
-        (sketcher.*pair.set)(given, 0);
-        EXPECT_EQ(Heard(), "");
-        EXPECT_EQ(KivDrwRead(KivDrwRepository(), pair.key), taken);
-        EXPECT_EQ((sketcher.*pair.get)(), taken);
-        (sketcher.*pair.set)(given, 1);
-        EXPECT_EQ(Heard(), pair.event + (" " + State()));
-    };
     const Pair<double> spacings[] = {
         {&S::GetGridPrimSpac, &S::SetGridPrimSpac, Drw_settings_GridPrimarySpacing, "grid"},
         {&S::GetGridVPrimSpac, &S::SetGridVPrimSpac, Drw_settings_GridVPrimarySpacing, "grid"}};
     for (const auto& pair : spacings)
         for (const auto& [given, taken] : {std::pair(0.5, 0.5), {0.0, 100.0}, {7.0, 7.0}, {-5.0, 100.0}})
-            holds(pair, given, taken);
+            Holds(pair, given, taken);
     const Pair<int> steps[] = {
         {&S::GetGridSecStep, &S::SetGridSecStep, Drw_settings_GridSecondaryStep, "grid"},
         {&S::GetGridVSecStep, &S::SetGridVSecStep, Drw_settings_GridVSecondaryStep, "grid"}};
     for (const auto& pair : steps)
         for (const auto& [given, taken] : {std::pair(1, 1), {0, 10}, {2, 2}, {-7, 10}})
-            holds(pair, given, taken);
+            Holds(pair, given, taken);
     const Pair<int> dragMode{&S::GetDragMode, &S::SetDragMode, Drw_settings_DragModeR14, "geometry"};
     for (const auto& [given, taken] : {std::pair(0, 0), {3, 1}, {2, 2}, {-1, 1}})
-        holds(dragMode, given, taken);
+        Holds(dragMode, given, taken);
     const Pair<int> switches[] = {
         {&S::GetGridVisuMode, &S::SetGridVisuMode, Drw_settings_GridDisplay, "grid"},
         {&S::GetGridSnapMode, &S::SetGridSnapMode, Drw_settings_GridSnapPt, "snap"},
@@ -128,7 +132,7 @@ TEST_F(GeometryPage, EachPairOfTheSketcherHasAKeyAndAnEventOfItsOwn)
         {&S::GetDiagElts, &S::SetDiagElts, Drw_settings_DiagElts, "geometry", "VisuDiagnostic"}};
     for (const auto& pair : switches) {
         KivDrwRepository()->ResetToAdminValues(kKivDrwKeyNames, int(std::size(kKivDrwKeyNames)));
-        for (const int value : {0, 9}) holds(pair, value, value != 0);
+        for (const int value : {0, 9}) Holds(pair, value, int(value != 0));
         if (!pair.control) continue;
         editor->SetUserSettingsValue(nullptr);
         EXPECT_TRUE(KivUserHand::Tick(

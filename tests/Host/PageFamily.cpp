@@ -454,6 +454,9 @@ TEST_P(PageFamily, EveryControlIsNamedAndNoTextIsLeftOver)
             EXPECT_NE(node.GetTitle().View().find("_dialog"), 0U);
             EXPECT_FALSE(node.GetHelp().IsEmpty()) << own;
             EXPECT_FALSE(node.GetLongHelp().IsEmpty()) << own;
+            for (const KivUnicodeString& help : {node.GetHelp(), node.GetLongHelp()})
+                EXPECT_EQ(help.View().find('%'), std::string_view::npos)
+                    << own << ": a range that nobody filled in";
         }
         if (is("KivDlgLabel")) {
             if (static_cast<const KivDlgLabel&>(node).GetLabeledControl()) takeLetter(node, own, letters);

@@ -1,5 +1,6 @@
 #include "Form/KivFormLine.h"
 
+#include "Base/KivTextCatalogue.h"
 #include "DrwOptionsServices.h"
 #include "Form/KivLineRows.h"
 #include "Form/KivPageForm.h"
@@ -137,9 +138,22 @@ KivDrwLockSpinner* KivFormLine::BareSpinner(const KivString& name, const KivSett
     spinner->SetValue(kind.initial, 0);
     spinner->SetMinMaxStep(kind.minimum * kind.shownPerStored, kind.maximum * kind.shownPerStored,
                            kind.step * kind.shownPerStored);
+    SayRange(*spinner, kind);
     if (_label) spinner->SetLongHelp(LabelHelp());
     _form.Connect(spinner->GetDialog(), spinner->GetSpinnerModifyNotification());
     return spinner;
+}
+
+// Helps that speak of the range leave places for it, so that it stands in the kind alone and in the user's
+// unit.
+void KivFormLine::SayRange(KivDrwLockSpinner& spinner, const KivSettingKind& kind)
+{
+    if (!spinner.GetDialog()) return;
+    auto& field = *static_cast<KivDlgSpinner*>(spinner.GetDialog());
+    const KivUnicodeString least = field.Print(kind.minimum * kind.shownPerStored);
+    const KivUnicodeString greatest = field.Print(kind.maximum * kind.shownPerStored);
+    field.SetHelp(KivTextCatalogue::Fill(field.GetHelp(), {least, greatest}));
+    if (_label) _label->SetLongHelp(KivTextCatalogue::Fill(_label->GetLongHelp(), {least, greatest}));
 }
 
 KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivCachedValue<double>& value,

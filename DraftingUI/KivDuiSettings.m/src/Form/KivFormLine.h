@@ -80,6 +80,7 @@ private:
     template <class T> KivDrwLockCheckButton* CheckOf(const KivString& name, KivCachedValue<T>& value,
                                                       bool isOnFor1Alone, Rule rule);
     bool LeavesOut(const KivBoundValue& value);
+    void SayRange(KivDrwLockSpinner& spinner, const KivSettingKind& kind);
     void Place(KivDialog& control);
     void PlaceNamed(KivDrwLockDialog& wrapper, KivDlgCombo* combo);
     void Name(KivDialog* control);
