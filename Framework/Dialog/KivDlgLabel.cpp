@@ -1,20 +1,10 @@
 #include "Dialog/KivDlgLabel.h"
 
-void KivDlgLabel::SetLabeledControl(KivDialog* control)
-{
-    for (const KivWeakPtr<KivDialog>& before : _controls) {
-        if (before && before->GetLabel() == this) before->_label = nullptr;
-    }
-    _controls.clear();
-    AddLabeledControl(control);
-}
-
 void KivDlgLabel::AddLabeledControl(KivDialog* control)
 {
-    if (control) {
-        _controls.emplace_back(control);
-        control->_label = this;
-    }
+    if (!control) return;
+    _controls.emplace_back(control);
+    control->_label = this;
     Changed();
 }
 

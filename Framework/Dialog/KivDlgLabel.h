@@ -8,10 +8,8 @@ public:
     static constexpr const char* Name = "KivDlgLabel";
     using KivClass::KivClass;
 
-    // Ties the label to the control that it names, and to that alone: it grays with it, and its keyboard
-    // letter leads there. Null unties it.
-    void SetLabeledControl(KivDialog* control);
-    // Ties it to a further control: it grays when none of them can be used.
+    // Ties the label to a control that it names, or to one more: it grays when none of them can be used.
+    // Null is passed over.
     void AddLabeledControl(KivDialog* control);
     // Where its letter leads: the first of its controls that can be used, else the first; null without any.
     KivDialog* GetLabeledControl() const;

@@ -180,18 +180,6 @@ TEST(ColorsOfPages, AreStoredOnlyWithAllComponentsInRange)
     }
 }
 
-// An application that has every group, but no store of its own.
-class GeneralWithoutStore : public Kiv2DBaseOptGalFrm {
-public:
-    GeneralWithoutStore() : Kiv2DBaseOptGalFrm(nullptr, "DrwSet") {}
-    int WithFrameRuler() override { return 1; }
-    int WithFrameGrid() override { return 1; }
-    int WithFrameRotation() override { return 1; }
-    int WithFrameColor() override { return 1; }
-    int WithFrameTree() override { return 1; }
-    int WithFrame2DAxis() override { return 1; }
-    int WithFrameHideWhenStartWkb() override { return 1; }
-};
 TEST(AnnotationPage, ClosesNothingButItsOwnWindows)
 {
     const KivSettingsSandbox box;
@@ -205,6 +193,19 @@ TEST(AnnotationPage, ClosesNothingButItsOwnWindows)
         EXPECT_FALSE(sender && sender->IsCondemned());
     }
 }
+
+// An application that has every group, but no store of its own.
+class GeneralWithoutStore : public Kiv2DBaseOptGalFrm {
+public:
+    GeneralWithoutStore() : Kiv2DBaseOptGalFrm(nullptr, "DrwSet") {}
+    int WithFrameRuler() override { return 1; }
+    int WithFrameGrid() override { return 1; }
+    int WithFrameRotation() override { return 1; }
+    int WithFrameColor() override { return 1; }
+    int WithFrameTree() override { return 1; }
+    int WithFrame2DAxis() override { return 1; }
+    int WithFrameHideWhenStartWkb() override { return 1; }
+};
 
 TEST(GenericDrawingPages, BuildTheGroupsThatTheirApplicationHas)
 {

@@ -110,7 +110,7 @@ TEST_F(UserHand, LabelsGrayWithTheLastOfTheirControls)
 {
     auto* spinner = new KivDlgSpinner(&page, "spinner", 0);
     auto* label = new KivDlgLabel(&page, "label", 0);
-    label->SetLabeledControl(spinner);
+    label->AddLabeledControl(spinner);
     auto* second = new KivDlgSpinner(&page, "second", 0);
     label->AddLabeledControl(second);
     spinner->SetSensitivity(KivDlgDisabled);
