@@ -39,7 +39,8 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
       _stack(new QStackedWidget(this)), _messages(new OptionsMessageStrip(this)),
       _diagnostics([this](const KivDiagnostic& diagnostic) {
           // A note (an icon that nobody has drawn) is nothing that a user can mend.
-          if (diagnostic.severity != KivDiagnostic::Severity::Note) _messages->Add(ToQt(diagnostic.Words()));
+          if (diagnostic.severity != KivDiagnostic::Severity::Note)
+              _messages->Add(ToQt(diagnostic.Message()));
           return false;
       }),
       _windows(std::make_unique<OptionsSubWindows>(_session->Root(), _memory, *this))
@@ -221,7 +222,7 @@ void OptionsWindow::accept()
         return;
     }
     _messages->Add(WindowText("NotSaved"));
-    for (const KivDiagnostic& error : errors) _messages->Add(ToQt(error.Words()));
+    for (const KivDiagnostic& error : errors) _messages->Add(ToQt(error.Message()));
 }
 
 void OptionsWindow::reject()

@@ -12,7 +12,7 @@ DraftingDiagnostics::DraftingDiagnostics(bool echoes)
 
 void DraftingDiagnostics::Take(const KivDiagnostic& diagnostic)
 {
-    if (_echoes) std::fprintf(stderr, "%s\n", diagnostic.Words().ConvertToChar());
+    if (_echoes) std::fprintf(stderr, "%s\n", diagnostic.Message().ConvertToChar());
     if (_all.size() == kMost) _all.erase(_all.begin());
     _all.push_back(diagnostic);
     emit Said();

@@ -56,7 +56,7 @@ void DraftingLog::Fill()
 {
     QStringList lines;
     for (const KivDiagnostic& said : _diagnostics.All())
-        lines << DraftingText(SeverityKey(said.severity)).arg(ToQt(said.Words()));
+        lines << DraftingText(SeverityKey(said.severity)).arg(ToQt(said.Message()));
     _text->setPlainText(lines.isEmpty() ? DraftingText("LogEmpty") : lines.join('\n'));
     _text->verticalScrollBar()->setValue(_text->verticalScrollBar()->maximum());
 }

@@ -63,10 +63,10 @@ void DraftingMessage::Say(const KivDiagnostic& diagnostic)
 {
     if (!_text.isEmpty() && diagnostic.severity < _severity) return;
     _severity = diagnostic.severity;
-    _text = ToQt(diagnostic.Words());
+    _text = ToQt(diagnostic.Message());
     KivDiagnostic brief = diagnostic;
     brief.file = FromQt(QFileInfo(ToQt(diagnostic.file)).fileName());
-    _short = ToQt(brief.Words()).replace('\n', ' ');
+    _short = ToQt(brief.Message()).replace('\n', ' ');
     _message->setIcon(style()->standardIcon(IconOf(_severity)));
     _message->setAccessibleName(_text);
     _message->setToolTip(DraftingText("MessageTip").arg(_text.toHtmlEscaped()));

@@ -13,7 +13,7 @@ constexpr const char* kConstraints[] = {
     "ConstraintConcentric", "ConstraintCoincident", "ConstraintTangent",  "ConstraintSymmetric"};
 static_assert(std::size(kConstraints) == kSheetConstraints);
 
-QString Words(const SheetSketchStyle& style)
+QString Description(const SheetSketchStyle& style)
 {
     QStringList shown, constraints;
     const auto add = [&shown](bool isShown, const char* key) {
@@ -47,7 +47,7 @@ QAccessibleInterface* SheetSketchAccessible::parent() const
 QString SheetSketchAccessible::text(QAccessible::Text kind) const
 {
     if (kind == QAccessible::Name) return DraftingText("SketchName");
-    return kind == QAccessible::Description && _view ? Words(_view->Sketch()) : QString();
+    return kind == QAccessible::Description && _view ? Description(_view->Sketch()) : QString();
 }
 
 QRect SheetSketchAccessible::rect() const

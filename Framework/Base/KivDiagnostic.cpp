@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-KivUnicodeString KivDiagnostic::Words() const
+KivUnicodeString KivDiagnostic::Message() const
 {
     KivUnicodeString words;
     if (!file.IsEmpty()) {
@@ -17,5 +17,5 @@ KivUnicodeString KivDiagnostic::Words() const
 void KivReport(const KivDiagnostic& diagnostic)
 {
     if (!KivDiagnosticScope::Tell(diagnostic))
-        std::fprintf(stderr, "%s\n", diagnostic.Words().ConvertToChar());
+        std::fprintf(stderr, "%s\n", diagnostic.Message().ConvertToChar());
 }

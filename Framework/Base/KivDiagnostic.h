@@ -14,7 +14,7 @@ struct KivDiagnostic {
     KivString key = {};         // the setting at fault, or empty
 
     // "file:line: key: text", without the parts that are empty.
-    KivUnicodeString Words() const;
+    KivUnicodeString Message() const;
 };
 
 // Says a diagnostic to whoever listens (see KivDiagnosticScope), else on standard error.

@@ -91,7 +91,7 @@ KivUnicodeString KivDlgLock::GetReason() const
     const KivDialog* control = GetAssociatedDialog();
     const KivUnicodeString shown = control ? control->GetShownValue() : KivUnicodeString();
     // What the control cannot show is said as it is stored.
-    return shown.IsEmpty() ? _info.Words() : _info.Words(shown);
+    return shown.IsEmpty() ? _info.Message() : _info.Message(shown);
 }
 
 KivUnicodeString KivDlgLock::GetTip() const

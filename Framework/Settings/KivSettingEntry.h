@@ -14,7 +14,7 @@ struct KivSettingEntry {
     bool IsEmpty() const { return !lock && !KivHasValue(value); }
 
     // The same statement, wherever it stands.
-    bool Says(const KivSettingEntry& other) const
+    bool Equals(const KivSettingEntry& other) const
     {
         return initial == other.initial && lock == other.lock && KivSameValue(value, other.value);
     }

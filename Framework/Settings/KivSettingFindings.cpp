@@ -52,7 +52,7 @@ private:
     };
 
     // "layer "site" (file, line 3)"
-    static KivUnicodeString Words(const Place& place)
+    static KivUnicodeString Description(const Place& place)
     {
         KivUnicodeString words("layer \"");
         words.Append(place.layer->name).Append("\" (").Append(place.layer->path);
@@ -81,10 +81,10 @@ private:
             return say(KivUnicodeString(locks && isSet ? "neither lock nor value have an effect: "
                                         : locks        ? "the lock has no effect: "
                                                        : "the value is not used: ") +
-                       Words(outer) + " locks it already");
+                       Description(outer) + " locks it already");
         }
         if (const auto given = _given.find(line.key); line.initial && isSet && given != _given.end())
-            say("the value of the first start yields to the one of " + Words(given->second));
+            say("the value of the first start yields to the one of " + Description(given->second));
     }
 
     bool IsKnown(const KivSettingLine& line) const
@@ -99,7 +99,7 @@ private:
     {
         Place found;
         if (const auto own = _locks.find(key); own != _locks.end()) found = own->second;
-        const KivSettingPrefixLocks::Place prefix = _prefixes.Find(key);
+        const KivSettingPrefixLocks::Source prefix = _prefixes.Find(key);
         if (prefix.layer >= 0 &&
             (!found.layer || _outside[static_cast<std::size_t>(prefix.layer)] < found.layer))
             found = {_outside[static_cast<std::size_t>(prefix.layer)], prefix.line};

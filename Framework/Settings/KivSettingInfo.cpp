@@ -48,16 +48,16 @@ bool KivSettingInfo::IsLockedAsOne() const
     });
 }
 
-KivUnicodeString KivSettingInfo::Words() const
+KivUnicodeString KivSettingInfo::Message() const
 {
-    if (origin == Origin::None) return Words(Text("SettingDefaultValue", {}));
-    return Words(value.IsEmpty() ? Text("SettingEmptyText", {}) : value);
+    if (origin == Origin::None) return Message(Text("SettingDefaultValue", {}));
+    return Message(value.IsEmpty() ? Text("SettingEmptyText", {}) : value);
 }
 
-KivUnicodeString KivSettingInfo::Words(const KivUnicodeString& shown) const
+KivUnicodeString KivSettingInfo::Message(const KivUnicodeString& shown) const
 {
-    if (!IsLockedAsOne()) return WordsOfParts();
-    if (IsClosed()) return WordsOfLock(shown);
+    if (!IsLockedAsOne()) return MessageOfParts();
+    if (IsClosed()) return MessageOfLock(shown);
     switch (origin) {
     case Origin::None:
         return Text("SettingNotSet", {});
@@ -69,20 +69,20 @@ KivUnicodeString KivSettingInfo::Words(const KivUnicodeString& shown) const
     return Text("SettingByAdministrator", {Place(layer, file, line)});
 }
 
-KivUnicodeString KivSettingInfo::WordsOfParts() const
+KivUnicodeString KivSettingInfo::MessageOfParts() const
 {
-    KivUnicodeString words;
+    KivUnicodeString message;
     for (const KivSettingInfo* one : Parts()) {
         if (!one->IsClosed()) continue;
-        if (!words.IsEmpty()) words.Append("\n");
-        words.Append(Text(one->locked ? "SettingPartLocked" : "SettingPartLockedHere",
-                          {Text(one->part.ConvertToChar(), {}), one->value,
-                           Place(one->lockLayer, one->lockFile, one->lockLine)}));
+        if (!message.IsEmpty()) message.Append("\n");
+        message.Append(Text(one->locked ? "SettingPartLocked" : "SettingPartLockedHere",
+                            {Text(one->part.ConvertToChar(), {}), one->value,
+                             Place(one->lockLayer, one->lockFile, one->lockLine)}));
     }
-    return words;
+    return message;
 }
 
-KivUnicodeString KivSettingInfo::WordsOfLock(const KivUnicodeString& shown) const
+KivUnicodeString KivSettingInfo::MessageOfLock(const KivUnicodeString& shown) const
 {
     const KivUnicodeString locker = Place(lockLayer, lockFile, lockLine);
     if (shown.IsEmpty()) return Text(locked ? "SettingLocked" : "SettingLockedHere", {locker});

@@ -45,13 +45,13 @@ struct KivSettingInfo {
 
     // Plain sentences for the padlock, in the user's language: whether and by whom the setting is locked,
     // which value is enforced, where that is written. Parts that are not locked alike have a line each.
-    KivUnicodeString Words() const;
+    KivUnicodeString Message() const;
     // The same with the value as the row of a page shows it; one that is empty is not spoken of.
-    KivUnicodeString Words(const KivUnicodeString& shown) const;
+    KivUnicodeString Message(const KivUnicodeString& shown) const;
 
 private:
     std::vector<const KivSettingInfo*> Parts() const;
     bool IsLockedAsOne() const;
-    KivUnicodeString WordsOfParts() const;
-    KivUnicodeString WordsOfLock(const KivUnicodeString& shown) const;
+    KivUnicodeString MessageOfParts() const;
+    KivUnicodeString MessageOfLock(const KivUnicodeString& shown) const;
 };

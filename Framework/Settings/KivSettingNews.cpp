@@ -14,7 +14,7 @@ void KivSettingNews::Say(const std::function<void()>& read)
     }
     std::set<KivUnicodeString> words;
     for (const KivDiagnostic& diagnostic : said) {
-        if (words.insert(diagnostic.Words()).second && !_said.contains(diagnostic.Words()))
+        if (words.insert(diagnostic.Message()).second && !_said.contains(diagnostic.Message()))
             KivReport(diagnostic);
     }
     _said = std::move(words);

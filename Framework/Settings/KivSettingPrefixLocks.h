@@ -10,7 +10,7 @@
 // that occurs, however many locks there are.
 class KivSettingPrefixLocks {
 public:
-    struct Place {
+    struct Source {
         int layer = -1; // -1: there is none
         int line = 0;
     };
@@ -20,10 +20,10 @@ public:
     // A pattern is a prefix and a star. Layers come outermost first, and the outermost one counts.
     void Add(std::string_view pattern, int layer, int line);
 
-    bool IsEmpty() const { return _places.empty(); }
+    bool IsEmpty() const { return _sources.empty(); }
 
     // The outermost lock on a key; of several in that layer the one with the shortest prefix.
-    Place Find(std::string_view key) const;
+    Source Find(std::string_view key) const;
 
 private:
     struct Hash {
@@ -32,6 +32,6 @@ private:
     };
     static constexpr std::size_t kLongest = 255; // of a key
 
-    std::unordered_map<std::string, Place, Hash, std::equal_to<>> _places; // by prefix
-    std::bitset<kLongest + 1> _lengths;                                    // that occur
+    std::unordered_map<std::string, Source, Hash, std::equal_to<>> _sources; // by prefix
+    std::bitset<kLongest + 1> _lengths;                                      // that occur
 };

@@ -1,7 +1,9 @@
 #include "Settings/KivSettingRepository.h"
 
 #include "Base/KivDiagnostic.h"
+#include "Settings/KivSettingEnumeration.h"
 #include "Settings/KivSettingLayers.h"
+#include "Settings/KivSettingListeners.h"
 #include "Settings/KivSettingStore.h"
 
 #include <algorithm>
@@ -38,10 +40,23 @@ KivSettingRepository::KivSettingRepository(std::string_view name, const KivUnico
     : _name(name), _editedLayer(editedLayer)
 {}
 
+// All that a repository forgets with its files.
+struct KivSettingRepository::Opened {
+    KivSettingStore store;
+    KivSettingListeners listeners{};
+    KivSettingEnumeration enumeration{};
+    Receipt receipt = Receipt::Nothing;
+};
+
+KivSettingRepository::Opened& KivSettingRepository::Open() const
+{
+    if (!_opened) _opened.reset(new Opened{.store = {_name.View(), _editedLayer}});
+    return *_opened;
+}
+
 KivSettingStore& KivSettingRepository::Store() const
 {
-    if (!_store) _store = std::make_unique<KivSettingStore>(_name.View(), _editedLayer);
-    return *_store;
+    return Open().store;
 }
 
 KivSettingRepository::~KivSettingRepository() = default;
@@ -50,10 +65,10 @@ KivSettingRepository* KivSettingRepository::GetRepository(const char* name, int,
 {
     Registry& registry = TheRegistry();
     if (!name || registry.isWithheld || !IsName(name)) return nullptr;
-    const auto [place, isNew] = registry.repositories.try_emplace({KivString(name), registry.editedLayer});
-    if (isNew) place->second.reset(new KivSettingRepository(name, registry.editedLayer));
-    place->second->Store();
-    return place->second.get();
+    const auto [entry, isNew] = registry.repositories.try_emplace({KivString(name), registry.editedLayer});
+    if (isNew) entry->second.reset(new KivSettingRepository(name, registry.editedLayer));
+    entry->second->Open();
+    return entry->second.get();
 }
 
 void KivSettingRepository::SetEditedLayer(const KivUnicodeString& directory)
@@ -71,7 +86,7 @@ void KivSettingRepository::ForgetAll()
 {
     for (const auto& [key, repository] : TheRegistry().repositories) {
         repository->_shown = {};
-        repository->_store.reset();
+        repository->_opened.reset();
     }
 }
 
@@ -109,10 +124,10 @@ template <class T> HRESULT KivSettingRepository::Read(const char* key, T* value,
     return attribute && value && count == 1 ? Take(*attribute, *value) : E_FAIL;
 }
 
-template <class T> HRESULT KivSettingRepository::ReadUnusual(std::size_t place, T* value) const
+template <class T> HRESULT KivSettingRepository::ReadUnusual(std::size_t index, T* value) const
 {
     if (_shown.empty()) _shown = Store().Bind(_boundKeys);
-    const KivSettingAttribute* attribute = Store().FindBound(place);
+    const KivSettingAttribute* attribute = Store().FindBound(index);
     return attribute && value ? Take(*attribute, *value) : E_FAIL;
 }
 template HRESULT KivSettingRepository::ReadUnusual(std::size_t, int*) const;
@@ -195,59 +210,46 @@ HRESULT KivSettingRepository::GetInfo(const char* key, KivSettingInfo* info, int
     info->repository = _name;
     info->key = key;
     info->canLock = IsAdministrator();
-    const KivSettingAttribute* attribute = Store().FindGoverned(key);
+    const KivSettingAttribute* attribute = Store().FindOrLocked(key);
     if (!attribute) return E_FAIL;
-    Store().Describe(*attribute, *info);
+    Store().Sources().Describe(*attribute, *info);
     const bool isKnown = info->origin != KivSettingInfo::Origin::None || info->locked || info->lockedHere;
     return isKnown ? S_OK : E_FAIL;
 }
 
-HRESULT KivSettingRepository::GetProvenance(const char* key, KivSettingProvenance& place) const
+HRESULT KivSettingRepository::GetProvenance(const char* key, KivSettingProvenance& provenance) const
 {
-    const KivSettingAttribute* attribute = Store().FindGoverned(key);
-    if (!attribute) {
-        place = {};
-        return E_FAIL;
-    }
-    Store().Trace(*attribute, place);
-    const bool isKnown = place.origin != KivSettingInfo::Origin::None || place.lockLayer;
+    provenance = {};
+    const KivSettingAttribute* attribute = Store().FindOrLocked(key);
+    if (!attribute) return E_FAIL;
+    provenance = Store().Sources().Provenance(*attribute);
+    const bool isKnown = provenance.origin != KivSettingInfo::Origin::None || provenance.lockLayer;
     return isKnown ? S_OK : E_FAIL;
 }
 
 HRESULT KivSettingRepository::NextAttribute(char* name, char* type, long* count, int restart)
 {
     constexpr std::size_t bufferSize = 256;
-    if (restart) {
-        Store().nextAttribute = 0;
-        Store().hasDeliveredNameless = false;
-    }
-    const auto deliver = [&](const char* itsName, const char* itsType) {
-        if (name) std::snprintf(name, bufferSize, "%s", itsName);
-        if (type) std::snprintf(type, bufferSize, "%s", itsType);
-        if (count) *count = 1;
-        Store().hasDeliveredNameless = true; // it stands in for an empty repository alone
-        return S_OK;
-    };
-    const KivSettingTable& table = Store().Table();
-    while (Store().nextAttribute < table.Size()) {
-        const KivSettingAttribute& attribute = table[Store().nextAttribute++];
-        if (!KivHasValue(attribute.Shown())) continue;
-        return deliver(std::string(attribute.key).c_str(), KivSettingTypeName(attribute.Shown()));
-    }
-    if (Store().IsProtected() && !Store().hasDeliveredNameless) return deliver("", "");
-    return E_FAIL;
+    KivSettingEnumeration& enumeration = Open().enumeration;
+    if (restart) enumeration = {};
+    const auto next = enumeration.Next(Store().Table(), Store().IsProtected());
+    if (!next) return E_FAIL;
+    if (name) std::snprintf(name, bufferSize, "%.*s", static_cast<int>(next->name.size()), next->name.data());
+    if (type) std::snprintf(type, bufferSize, "%s", next->type);
+    if (count) *count = 1;
+    return S_OK;
 }
 
 HRESULT KivSettingRepository::Commit(int notify)
 {
     const Keys changed = Store().Commit();
-    if (notify) Store().listeners.Tell(changed);
+    if (notify) Open().listeners.Tell(changed);
     return S_OK;
 }
 
 HRESULT KivSettingRepository::Rollback()
 {
-    Store().listeners.Tell(Store().Rollback());
+    Open().listeners.Tell(Store().Rollback());
     return S_OK;
 }
 
@@ -256,7 +258,7 @@ HRESULT KivSettingRepository::SaveRepository(const char* path)
     if (path) {
         KivReport(
             {KivDiagnostic::Severity::Error, "a repository is saved to its own file alone", path, 0, {}});
-        Store().receipt = Receipt::Refused;
+        Open().receipt = Receipt::Refused;
         return E_FAIL;
     }
     return Save({});
@@ -266,8 +268,8 @@ HRESULT KivSettingRepository::Save(std::span<const char* const> only)
 {
     Receipt receipt = Receipt::Nothing;
     const Keys changed = Store().Save(receipt, only);
-    Store().receipt = receipt;
-    Store().listeners.Tell(changed);
+    Open().receipt = receipt;
+    Open().listeners.Tell(changed);
     return receipt == Receipt::Refused ? E_FAIL : S_OK;
 }
 
@@ -280,13 +282,13 @@ HRESULT KivSettingRepository::SaveKeys(const char* const* keys, int count)
 HRESULT KivSettingRepository::RollbackKeys(const char* const* keys, int count)
 {
     if (!keys || count <= 0) return count == 0 ? S_OK : E_FAIL;
-    Store().listeners.Tell(Store().Rollback({keys, static_cast<std::size_t>(count)}));
+    Open().listeners.Tell(Store().Rollback({keys, static_cast<std::size_t>(count)}));
     return S_OK;
 }
 
 KivSettingRepository::Receipt KivSettingRepository::LastReceipt() const
 {
-    return Store().receipt;
+    return Open().receipt;
 }
 
 HRESULT KivSettingRepository::ResetToAdminValues(const char* const* keys, int count)
@@ -300,12 +302,12 @@ HRESULT KivSettingRepository::ResetToAdminValues(const char* const* keys, int co
 
 KivSettingRepository::ListenerId KivSettingRepository::AddListener(Listener listener)
 {
-    return Store().listeners.Add(std::move(listener));
+    return Open().listeners.Add(std::move(listener));
 }
 
 void KivSettingRepository::RemoveListener(ListenerId listener)
 {
-    Store().listeners.Remove(listener);
+    Open().listeners.Remove(listener);
 }
 
 bool KivSettingRepository::IsProtected() const
@@ -316,13 +318,13 @@ bool KivSettingRepository::IsProtected() const
 KivSettingRepository::Keys KivSettingRepository::Refresh()
 {
     Keys changed = Store().Refresh();
-    Store().listeners.Tell(changed);
+    Open().listeners.Tell(changed);
     return changed;
 }
 
 std::vector<KivUnicodeString> KivSettingRepository::Files() const
 {
-    return Store().Files();
+    return Store().Sources().Files();
 }
 
 HRESULT KivSettingRepository::SetLock(const char* key, bool locked)
@@ -336,10 +338,10 @@ bool KivSettingRepository::IsAdministrator() const
 }
 
 KivSettingRepository::InitialScope::InitialScope(KivSettingRepository& repository)
-    : _repository(repository), _before(std::exchange(repository.Store().isInitial, true))
+    : _repository(repository), _before(repository.Store().SetInitial(true))
 {}
 
 KivSettingRepository::InitialScope::~InitialScope()
 {
-    _repository.Store().isInitial = _before;
+    _repository.Store().SetInitial(_before);
 }

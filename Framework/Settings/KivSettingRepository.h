@@ -67,25 +67,25 @@ public:
     HRESULT GetInfo(const char* key, KivSettingInfo* info, int reserved) const;
 
     // The same in short, by one look-up that copies nothing. E_FAIL for a key that no layer knows.
-    HRESULT GetProvenance(const char* key, KivSettingProvenance& place) const;
+    HRESULT GetProvenance(const char* key, KivSettingProvenance& provenance) const;
 
-    // Makes an ordered list of keys known: from now on the key at each place is read by that place, without a
-    // look-up. Binding the same list again costs nothing; another one takes its place. A list is told by
-    // where it stands: it has to outlive the repository, with its texts.
+    // Makes an ordered list of keys known: from now on the key at each index is read by that index, without a
+    // look-up. Binding the same list again costs nothing; another one replaces it. A list is told by its
+    // address: it has to outlive the repository, with its texts.
     void BindKeys(std::span<const char* const> keys);
 
-    // Whether a place is one of the list that begins there, and that list is the bound one.
-    bool IsBound(const char* const* keys, std::size_t place) const
+    // Whether an index is one of the list that begins there, and that list is the bound one.
+    bool IsBound(const char* const* keys, std::size_t index) const
     {
-        return keys == _boundKeys.data() && place < _boundKeys.size();
+        return keys == _boundKeys.data() && index < _boundKeys.size();
     }
-    // Reads the key at a place of a list like ReadSetting; E_FAIL too when it is not bound, as after somebody
-    // else has bound a list of his own.
-    template <class T> HRESULT ReadBound(const char* const* keys, std::size_t place, T* value) const
+    // Reads the key at an index of a list like ReadSetting; E_FAIL too when it is not bound, as after
+    // somebody else has bound a list of his own.
+    template <class T> HRESULT ReadBound(const char* const* keys, std::size_t index, T* value) const
     {
-        const bool isThere = keys == _boundKeys.data() && place < _shown.size();
-        const T* const shown = isThere ? std::get_if<T>(_shown[place]) : nullptr;
-        if (!shown || !value) return IsBound(keys, place) ? ReadUnusual(place, value) : E_FAIL;
+        const bool isThere = keys == _boundKeys.data() && index < _shown.size();
+        const T* const shown = isThere ? std::get_if<T>(_shown[index]) : nullptr;
+        if (!shown || !value) return IsBound(keys, index) ? ReadUnusual(index, value) : E_FAIL;
         *value = *shown;
         return S_OK;
     }
@@ -181,17 +181,19 @@ private:
 
     template <class T> HRESULT Read(const char* key, T* value, long count) const;
     // A bound key that has no value, one of another type, or has not been read since all was forgotten.
-    template <class T> HRESULT ReadUnusual(std::size_t place, T* value) const;
+    template <class T> HRESULT ReadUnusual(std::size_t index, T* value) const;
     template <class T> HRESULT Take(const KivSettingAttribute& attribute, T& value) const;
     template <class T> HRESULT Write(const char* key, const T* value, long count, int reserved);
 
     HRESULT Save(std::span<const char* const> only);
 
+    struct Opened;
+    Opened& Open() const;
     KivSettingStore& Store() const;
 
     KivString _name;
     KivUnicodeString _editedLayer;
     std::span<const char* const> _boundKeys;
-    mutable std::unique_ptr<KivSettingStore> _store;        // opened on first use
+    mutable std::unique_ptr<Opened> _opened;                // on first use
     mutable std::span<const KivSettingValue* const> _shown; // the store's, of each bound key
 };

@@ -34,9 +34,8 @@ KivSettingStore::KivSettingStore(std::string_view name, const KivUnicodeString& 
     : _name(name), _isAdministrator(!editedLayer.IsEmpty()),
       _layerDirectories(KivSettingLayers::Outside(editedLayer)),
       _own(OwnPath(_isAdministrator ? editedLayer : KivSettingLayers::User(), name), _isAdministrator),
-      _places{.ownName = _isAdministrator ? KivSettingLayers::NameOf(editedLayer) : "user",
-              .ownPath = _own.Path(),
-              .layers = {}}
+      _sources(_isAdministrator ? KivSettingLayers::NameOf(editedLayer) : "user", _own.Path(),
+               _isAdministrator)
 {
     ReadFiles();
 }
@@ -51,29 +50,35 @@ void KivSettingStore::ReadFiles()
     });
 }
 
-// The attribute of a key, which a lock on a prefix may govern before anybody has said anything of it.
-std::size_t KivSettingStore::Meet(std::string_view key, std::size_t hash)
+// A new attribute is under the locks on prefixes before anybody has said anything of it.
+std::size_t KivSettingStore::FindOrAdd(std::string_view key, std::size_t hash)
 {
-    const std::size_t known = _table.Size();
+    const std::size_t size = _table.Size();
     const KivSettingAttribute* const before = _table.Data();
-    const std::size_t index = _table.IndexOfNew(key, hash);
-    if (index == known && (!_prefixLocks.IsEmpty() || !_ownPrefixLocks.IsEmpty())) Govern(_table[index]);
-    if (_table.Data() != before) AimAll();
+    const std::size_t index = _table.FindOrAdd(key, hash);
+    if (index == size && (!_prefixLocks.IsEmpty() || !_ownPrefixLocks.IsEmpty()))
+        ApplyPrefixLocks(_table[index]);
+    if (_table.Data() != before) UpdateBindings();
     return index;
 }
 
-void KivSettingStore::Govern(KivSettingAttribute& attribute) const
+void KivSettingStore::ApplyPrefixLocks(KivSettingAttribute& attribute) const
 {
-    const KivSettingPrefixLocks::Place outside = _prefixLocks.Find(attribute.key);
+    const KivSettingPrefixLocks::Source outside = _prefixLocks.Find(attribute.key);
     attribute.lockLayer = outside.layer;
     attribute.lockLine = outside.line;
-    const KivSettingPrefixLocks::Place here = _ownPrefixLocks.Find(attribute.key);
+    ApplyOwnPrefixLock(attribute);
+}
+
+void KivSettingStore::ApplyOwnPrefixLock(KivSettingAttribute& attribute) const
+{
+    const KivSettingPrefixLocks::Source here = _ownPrefixLocks.Find(attribute.key);
     attribute.isUnderOwnPrefix = here.layer >= 0;
     attribute.ownPrefixLine = here.line;
 }
 
-// After a lock on a prefix came or went in the written layer.
-void KivSettingStore::GovernAllOwn()
+// After a lock on a prefix may have come or gone in the written layer.
+void KivSettingStore::CollectOwnPrefixLocks()
 {
     if (!_isAdministrator) return;
     _ownPrefixLocks.Clear();
@@ -81,52 +86,54 @@ void KivSettingStore::GovernAllOwn()
         if (attribute.own.lock && KivIsSettingPattern(attribute.key))
             _ownPrefixLocks.Add(attribute.key, 0, attribute.own.lockLine);
     }
-    for (KivSettingAttribute& attribute : _table) {
-        const KivSettingPrefixLocks::Place here = _ownPrefixLocks.Find(attribute.key);
-        attribute.isUnderOwnPrefix = here.layer >= 0;
-        attribute.ownPrefixLine = here.line;
-    }
+    for (KivSettingAttribute& attribute : _table) ApplyOwnPrefixLock(attribute);
 }
 
-// A key that nobody has met, when a lock governs it.
-const KivSettingAttribute* KivSettingStore::MeetGoverned(std::string_view key)
+const KivSettingAttribute* KivSettingStore::AddIfLocked(std::string_view key)
 {
     const bool isLocked = _prefixLocks.Find(key).layer >= 0 || _ownPrefixLocks.Find(key).layer >= 0;
     if (!isLocked || !KivIsSettingKey(key)) return nullptr;
-    return &_table[Meet(key, KivSettingTable::Hash(key))];
+    return &_table[FindOrAdd(key, KivSettingTable::Hash(key))];
 }
 
 std::span<const KivSettingValue* const> KivSettingStore::Bind(std::span<const char* const> keys)
 {
-    for (const std::uint32_t index : _bound) _table[index].boundPlace = -1;
+    for (const std::uint32_t index : _bound) _table[index].boundIndex = -1;
     _bound.clear();
-    _shownBound.clear();
+    _boundValues.clear();
     _bound.reserve(keys.size());
     _table.Reserve(keys.size());
     for (const char* const key : keys) {
-        const std::size_t index = Meet(key, KivSettingTable::Hash(key));
-        _table[index].boundPlace = static_cast<int>(_bound.size());
+        const std::size_t index = FindOrAdd(key, KivSettingTable::Hash(key));
+        _table[index].boundIndex = static_cast<int>(_bound.size());
         _bound.push_back(static_cast<std::uint32_t>(index));
     }
-    _shownBound.resize(_bound.size());
-    AimAll();
-    return _shownBound;
+    _boundValues.resize(_bound.size());
+    UpdateBindings();
+    return _boundValues;
 }
 
 // After the values may have moved or many of them changed.
-void KivSettingStore::AimAll()
+void KivSettingStore::UpdateBindings()
 {
-    for (std::size_t place = 0; place < _shownBound.size(); ++place)
-        _shownBound[place] = &_table[_bound[place]].Shown();
+    for (std::size_t index = 0; index < _boundValues.size(); ++index)
+        _boundValues[index] = &_table[_bound[index]].Shown();
+}
+
+void KivSettingStore::ResolveAll()
+{
+    for (KivSettingAttribute& attribute : _table) attribute.Resolve();
+    UpdateBindings();
 }
 
 void KivSettingStore::ReadLayers()
 {
-    _places.layers =
-        KivReadAdministratorLayers(_layerDirectories, KivSettingLayers::FileIn({}, _name.View()).View());
+    _sources.SetLayers(
+        KivReadAdministratorLayers(_layerDirectories, KivSettingLayers::FileIn({}, _name.View()).View()));
+    const std::vector<KivSettingLayer>& layers = _sources.Layers();
     _prefixLocks.Clear();
-    for (int layer = 0; layer < static_cast<int>(_places.layers.size()); ++layer) {
-        const KivSettingFile& file = _places.layers[static_cast<std::size_t>(layer)].file;
+    for (int layer = 0; layer < static_cast<int>(layers.size()); ++layer) {
+        const KivSettingFile& file = layers[static_cast<std::size_t>(layer)].file;
         if (!file.HasPatterns()) continue;
         for (const KivSettingLine& line : file.Lines()) {
             if (line.isPattern) _prefixLocks.Add(line.key, layer, line.number);
@@ -135,13 +142,13 @@ void KivSettingStore::ReadLayers()
     for (KivSettingAttribute& attribute : _table) {
         attribute.given = {};
         attribute.givenLayer = -1;
-        Govern(attribute);
+        ApplyPrefixLocks(attribute);
     }
-    for (int layer = 0; layer < static_cast<int>(_places.layers.size()); ++layer) {
-        for (const KivSettingLine& line : _places.layers[static_cast<std::size_t>(layer)].file.Lines()) {
+    for (int layer = 0; layer < static_cast<int>(layers.size()); ++layer) {
+        for (const KivSettingLine& line : layers[static_cast<std::size_t>(layer)].file.Lines()) {
             if (line.isPattern || line.key.empty()) continue;
             if (!line.lock && !KivHasValue(line.value)) continue; // damaged
-            KivSettingAttribute& attribute = _table[Meet(line.key, line.hash)];
+            KivSettingAttribute& attribute = _table[FindOrAdd(line.key, line.hash)];
             if (attribute.lockLayer >= 0 && attribute.lockLayer < layer) continue;
             if (KivHasValue(line.value)) {
                 attribute.given = line.value;
@@ -154,69 +161,67 @@ void KivSettingStore::ReadLayers()
             }
         }
     }
-    for (KivSettingAttribute& attribute : _table) attribute.Resolve();
-    AimAll();
+    ResolveAll();
 }
 
-// Takes what the own file says. What has not been saved stays on top of it, but for values of a first start:
+// Takes what the own file entry. What has not been saved stays on top of it, but for values of a first start:
 // nobody chose them, so that one gives way to what the file has come to say since.
 void KivSettingStore::TakeOwnFile()
 {
     std::unordered_map<std::size_t, KivSettingEntry> working, saved;
-    for (const auto& [index, before] : _unsaved) {
-        if (IsDirty(index, before)) working.emplace(index, _table[index].own);
-        saved.emplace(index, before);
+    for (const KivSettingJournal::Record& record : _unsaved) {
+        if (IsDirty(record)) working.emplace(record.index, _table[record.index].own);
+        saved.emplace(record.index, record.before);
     }
     for (KivSettingAttribute& attribute : _table) attribute.own = {};
     _table.Reserve(_own.File().Lines().size());
     for (const KivSettingLine& line : _own.File().Lines()) {
         if (line.key.empty() || (!line.lock && !KivHasValue(line.value))) continue;
         if (line.isPattern && !_isAdministrator) continue; // nobody is inside of the user's file
-        TakeLine(line, _isAdministrator, _table[Meet(line.key, line.hash)].own);
+        TakeLine(line, _isAdministrator, _table[FindOrAdd(line.key, line.hash)].own);
     }
     const auto yields = [&](std::size_t index, const KivSettingEntry& entry) {
         const KivSettingEntry& now = _table[index].own;
-        return entry.initial && KivHasValue(now.value) && !now.Says(saved.at(index));
+        return entry.initial && KivHasValue(now.value) && !now.Equals(saved.at(index));
     };
     for (auto& [index, before] : _unsaved) before = _table[index].own;
     for (auto& [index, before] : _uncommitted) {
         // What was the saved state at the commit follows the disk; what was committed unsaved stays.
         const auto old = saved.find(index);
-        if (old == saved.end() || old->second.Says(before) || yields(index, before))
+        if (old == saved.end() || old->second.Equals(before) || yields(index, before))
             before = _table[index].own;
     }
     for (const auto& [index, entry] : working) {
         if (!yields(index, entry)) _table[index].own = entry;
     }
-    GovernAllOwn();
-    for (KivSettingAttribute& attribute : _table) attribute.Resolve();
-    AimAll();
+    CollectOwnPrefixLocks();
+    ResolveAll();
 }
 
-void KivSettingStore::Change(std::size_t index, const KivSettingEntry& says)
+void KivSettingStore::Change(std::size_t index, const KivSettingEntry& entry)
 {
     KivSettingAttribute& attribute = _table[index];
-    if (attribute.own.Says(says)) return;
-    if (!std::exchange(attribute.isUnsaved, true)) _unsaved.emplace_back(index, attribute.own);
-    if (!std::exchange(attribute.isUncommitted, true)) _uncommitted.emplace_back(index, attribute.own);
-    attribute.own = says;
+    if (attribute.own.Equals(entry)) return;
+    _unsaved.Add(index, attribute.own);
+    _uncommitted.Add(index, attribute.own);
+    attribute.own = entry;
     attribute.Resolve();
-    Aim(attribute);
-    if (attribute.key.back() == '*') GovernAllOwn();
+    UpdateBinding(attribute);
+    if (attribute.key.back() == '*') CollectOwnPrefixLocks();
 }
 
 bool KivSettingStore::Write(std::string_view key, KivSettingValue value)
 {
     if (!KivIsSettingKey(key) || !KivIsSound(value)) return false;
-    const std::size_t index = Meet(key, KivSettingTable::Hash(key));
+    const std::size_t index = FindOrAdd(key, KivSettingTable::Hash(key));
     const KivSettingAttribute& attribute = _table[index];
     if (attribute.lockLayer >= 0) return false;
-    KivSettingEntry says = attribute.own;
-    const bool isUsers = KivHasValue(says.value) && !says.initial;
-    says.value = std::move(value);
-    says.initial = isInitial && !isUsers && !_isAdministrator;
-    says.line = 0;
-    Change(index, says);
+    KivSettingEntry entry = attribute.own;
+    const bool isUsers = KivHasValue(entry.value) && !entry.initial;
+    entry.value = std::move(value);
+    entry.initial = _isInitial && !isUsers && !_isAdministrator;
+    entry.line = 0;
+    Change(index, entry);
     return true;
 }
 
@@ -224,13 +229,13 @@ bool KivSettingStore::SetLock(std::string_view key, bool locked)
 {
     const bool isPattern = KivIsSettingPattern(key);
     if (!_isAdministrator || (!isPattern && !KivIsSettingKey(key))) return false;
-    const std::size_t index = Meet(key, KivSettingTable::Hash(key));
+    const std::size_t index = FindOrAdd(key, KivSettingTable::Hash(key));
     if (_table[index].lockLayer >= 0) return false;
     if (!locked && !isPattern && _table[index].isUnderOwnPrefix) return false; // it would stay locked
-    KivSettingEntry says = _table[index].own;
-    says.lock = locked;
-    says.lockLine = 0;
-    Change(index, says);
+    KivSettingEntry entry = _table[index].own;
+    entry.lock = locked;
+    entry.lockLine = 0;
+    Change(index, entry);
     return true;
 }
 
@@ -238,20 +243,11 @@ void KivSettingStore::DropOwn(std::string_view key)
 {
     const std::size_t index = _table.IndexOf(key);
     if (index == KivSettingTable::None) return;
-    KivSettingEntry says = _table[index].own;
-    says.value = {};
-    says.initial = false;
-    says.line = 0;
-    Change(index, says);
-}
-
-KivSettingStore::AllShown KivSettingStore::ShownNow() const
-{
-    AllShown shown;
-    shown.reserve(_table.Size());
-    for (const KivSettingAttribute& attribute : _table)
-        shown.push_back({attribute.Shown(), attribute.LockWith(attribute.own)});
-    return shown;
+    KivSettingEntry entry = _table[index].own;
+    entry.value = {};
+    entry.initial = false;
+    entry.line = 0;
+    Change(index, entry);
 }
 
 bool KivSettingStore::Concerns(std::size_t index, Only only) const
@@ -260,73 +256,58 @@ bool KivSettingStore::Concerns(std::size_t index, Only only) const
     return only.empty() || std::any_of(only.begin(), only.end(), isIt);
 }
 
-KivSettingStore::AllShown KivSettingStore::ShownAtCommit(Only only) const
+// What was shown before the changes that have not been committed.
+KivSettingSnapshot KivSettingStore::SnapshotOfCommit(Only only) const
 {
-    AllShown shown = ShownNow();
+    KivSettingSnapshot snapshot(_table);
     for (const auto& [index, before] : _uncommitted) {
-        if (Concerns(index, only))
-            shown[index] = {_table[index].ShownWith(before), _table[index].LockWith(before)};
+        if (Concerns(index, only)) snapshot.Replace(index, before);
     }
-    return shown;
+    return snapshot;
 }
 
-KivSettingStore::Keys KivSettingStore::ChangedSince(const AllShown& shown) const
+void KivSettingStore::Drop(KivSettingJournal& journal, Only only)
 {
-    const Shown nothing;
-    Keys changed;
-    for (std::size_t i = 0; i < _table.Size(); ++i) {
-        const Shown& before = i < shown.size() ? shown[i] : nothing;
-        const KivSettingAttribute& now = _table[i];
-        if (!KivSameValue(before.value, now.Shown()) || before.lock != now.LockWith(now.own))
-            changed.emplace_back(now.key);
-    }
-    return changed;
-}
-
-void KivSettingStore::Forget(Journal& journal, bool KivSettingAttribute::*standsInIt, Only only)
-{
-    for (const auto& [index, before] : journal) {
-        if (Concerns(index, only)) _table[index].*standsInIt = false;
-    }
-    std::erase_if(journal, [&](const auto& entry) { return !(_table[entry.first].*standsInIt); });
+    journal.Drop([&](std::size_t index) { return Concerns(index, only); });
 }
 
 KivSettingStore::Keys KivSettingStore::Commit(Only only)
 {
-    if (_uncommitted.empty()) return {};
-    const AllShown shown = ShownAtCommit(only);
-    Forget(_uncommitted, &KivSettingAttribute::isUncommitted, only);
-    return ChangedSince(shown);
+    if (_uncommitted.IsEmpty()) return {};
+    const KivSettingSnapshot committed = SnapshotOfCommit(only);
+    Drop(_uncommitted, only);
+    return committed.Changed();
 }
 
 KivSettingStore::Keys KivSettingStore::Rollback(Only only)
 {
-    if (_uncommitted.empty()) return {};
-    const AllShown shown = ShownNow();
+    if (_uncommitted.IsEmpty()) return {};
+    const KivSettingSnapshot working(_table);
     for (const auto& [index, before] : _uncommitted) {
         if (!Concerns(index, only)) continue;
         _table[index].own = before;
         _table[index].Resolve();
-        Aim(_table[index]);
+        UpdateBinding(_table[index]);
     }
-    Forget(_uncommitted, &KivSettingAttribute::isUncommitted, only);
-    GovernAllOwn();
-    return ChangedSince(shown);
+    Drop(_uncommitted, only);
+    CollectOwnPrefixLocks();
+    return working.Changed();
 }
 
 KivSettingStore::Keys KivSettingStore::Refresh()
 {
-    const AllShown shown = ShownNow();
+    const KivSettingSnapshot before(_table);
     ReadFiles();
-    return ChangedSince(shown);
+    return before.Changed();
 }
 
 std::vector<KivSettingChange> KivSettingStore::Unsaved(Only only) const
 {
     std::vector<KivSettingChange> changes;
-    for (const auto& [index, saved] : _unsaved) {
-        if (IsDirty(index, saved) && Concerns(index, only))
-            changes.push_back({KivString(_table[index].key), _table[index].own});
+    for (const KivSettingJournal::Record& saved : _unsaved) {
+        const KivSettingAttribute& attribute = _table[saved.index];
+        if (IsDirty(saved) && Concerns(saved.index, only))
+            changes.push_back({KivString(attribute.key), attribute.own});
     }
     return changes;
 }
@@ -335,11 +316,11 @@ KivSettingStore::Keys KivSettingStore::Save(Receipt& result, Only only)
 {
     using Outcome = KivSettingOwnFile::Outcome;
     if (Unsaved(only).empty()) {
-        Forget(_unsaved, &KivSettingAttribute::isUnsaved, only);
+        Drop(_unsaved, only);
         result = Receipt::Nothing;
         return Commit(only);
     }
-    const AllShown committed = ShownAtCommit(only), working = ShownNow();
+    const KivSettingSnapshot committed = SnapshotOfCommit(only), working(_table);
     const Outcome outcome = _own.Save([&](bool wasRead) {
         if (wasRead) TakeOwnFile();
         return Unsaved(only);
@@ -347,39 +328,22 @@ KivSettingStore::Keys KivSettingStore::Save(Receipt& result, Only only)
     if (outcome == Outcome::Refused) {
         // No point to return to: whoever is told that his changes are not safe may still take them back.
         result = Receipt::Refused;
-        return ChangedSince(working);
+        return working.Changed();
     }
     result = outcome == Outcome::Nothing   ? Receipt::Nothing
              : outcome == Outcome::Durable ? Receipt::Durable
                                            : Receipt::Visible;
-    Forget(_unsaved, &KivSettingAttribute::isUnsaved, only);
-    Forget(_uncommitted, &KivSettingAttribute::isUncommitted, only);
+    Drop(_unsaved, only);
+    Drop(_uncommitted, only);
     TakeOwnFile();
-    return ChangedSince(committed);
-}
-
-void KivSettingStore::Trace(const KivSettingAttribute& attribute, KivSettingProvenance& place) const
-{
-    _places.Trace(attribute, place);
-    if (!_isAdministrator) return;
-    if (place.origin == KivSettingInfo::Origin::User) place.origin = KivSettingInfo::Origin::Administrator;
-    place.canLock = !place.locked && !attribute.isUnderOwnPrefix;
-}
-
-void KivSettingStore::Describe(const KivSettingAttribute& attribute, KivSettingInfo& info) const
-{
-    KivSettingProvenance place;
-    Trace(attribute, place);
-    place.Fill(info);
-    info.value = KivShownSettingText(attribute.Shown());
-    if (KivHasValue(attribute.Shown())) info.type = KivSettingTypeName(attribute.Shown());
+    return committed.Changed();
 }
 
 void KivSettingStore::ReportOtherType(const KivSettingAttribute& attribute, const char* expected)
 {
     if (!KivHasValue(attribute.Shown()) || !_typesReported.insert(attribute.key).second) return;
     KivSettingInfo info;
-    Describe(attribute, info);
+    _sources.Describe(attribute, info);
     KivReport({.text = KivUnicodeString("the value is of the type ") + KivSettingTypeName(attribute.Shown()) +
                        " instead of " + expected + "; the default is used",
                .file = info.file,

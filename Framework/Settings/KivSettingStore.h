@@ -1,16 +1,17 @@
 #pragma once
 
-#include "Settings/KivSettingListeners.h"
+#include "Settings/KivSettingJournal.h"
 #include "Settings/KivSettingNews.h"
 #include "Settings/KivSettingOwnFile.h"
-#include "Settings/KivSettingPlaces.h"
 #include "Settings/KivSettingPrefixLocks.h"
+#include "Settings/KivSettingRepository.h"
+#include "Settings/KivSettingSnapshot.h"
+#include "Settings/KivSettingSources.h"
 #include "Settings/KivSettingTable.h"
 
 #include <cstdint>
 #include <set>
 #include <span>
-#include <utility>
 #include <vector>
 
 // The resolved state of one repository: what the layers and the own file say of each key, what of it has not
@@ -25,26 +26,30 @@ public:
     KivSettingStore(std::string_view name, const KivUnicodeString& editedLayer);
 
     const KivSettingAttribute* Find(const char* key) const { return key ? _table.Find(key) : nullptr; }
-    // The same for who wants to know of locks: also a key that nobody has met may be under one.
-    const KivSettingAttribute* FindGoverned(const char* key)
+    // The same for who wants to know of locks: also a key that nobody gave a value may be under one.
+    const KivSettingAttribute* FindOrLocked(const char* key)
     {
         const KivSettingAttribute* known = Find(key);
-        return known || !key ? known : MeetGoverned(key);
+        return known || !key ? known : AddIfLocked(key);
     }
 
-    // Makes these keys known, in this order: from now on they are found by their place in it.
+    // Makes these keys known, in this order: from now on they are found by their index in it.
     // Answers where their values are from now on; what stands there follows every change.
     std::span<const KivSettingValue* const> Bind(std::span<const char* const> keys);
-    const KivSettingAttribute* FindBound(std::size_t place) const
+    const KivSettingAttribute* FindBound(std::size_t index) const
     {
-        return place < _bound.size() ? &_table[_bound[place]] : nullptr;
+        return index < _bound.size() ? &_table[_bound[index]] : nullptr;
     }
 
     const KivSettingTable& Table() const { return _table; }
+    const KivSettingSources& Sources() const { return _sources; }
 
     bool Write(std::string_view key, KivSettingValue value);
     bool SetLock(std::string_view key, bool locked);
     void DropOwn(std::string_view key);
+
+    // Whether writes bear the mark "initial". Answers whether they did before.
+    bool SetInitial(bool isInitial) { return std::exchange(_isInitial, isInitial); }
 
     // The keys answered by these show another value than before. Where keys are named, it concerns those
     // alone; what else has changed is left as it is.
@@ -54,69 +59,52 @@ public:
     Keys Refresh();
     Keys Save(Receipt& receipt, Only only = {});
 
-    void Trace(const KivSettingAttribute& attribute, KivSettingProvenance& place) const;
-    void Describe(const KivSettingAttribute& attribute, KivSettingInfo& info) const;
     // Says, once a key, that a reader expected another type than the one stored.
     void ReportOtherType(const KivSettingAttribute& attribute, const char* expected);
 
     bool IsAdministrator() const { return _isAdministrator; }
     bool IsProtected() const { return _own.IsProtected(); }
-    std::vector<KivUnicodeString> Files() const { return _places.Files(); }
-
-    KivSettingListeners listeners;
-    bool isInitial = false; // writes bear the mark "initial"
-    Receipt receipt = Receipt::Nothing;
-    std::size_t nextAttribute = 0;
-    bool hasDeliveredNameless = false;
 
 private:
-    // What listeners compare.
-    struct Shown {
-        KivSettingValue value;
-        KivSettingAttribute::Lock lock = KivSettingAttribute::Lock::Open;
-    };
-    using AllShown = std::vector<Shown>;
-    using Journal =
-        std::vector<std::pair<std::size_t, KivSettingEntry>>; // an attribute, and what it said before
-
-    const KivSettingAttribute* MeetGoverned(std::string_view key);
-    std::size_t Meet(std::string_view key, std::size_t hash);
-    void Aim(const KivSettingAttribute& attribute)
+    const KivSettingAttribute* AddIfLocked(std::string_view key);
+    std::size_t FindOrAdd(std::string_view key, std::size_t hash);
+    void UpdateBinding(const KivSettingAttribute& attribute)
     {
-        if (attribute.boundPlace >= 0)
-            _shownBound[static_cast<std::size_t>(attribute.boundPlace)] = &attribute.Shown();
+        if (attribute.boundIndex >= 0)
+            _boundValues[static_cast<std::size_t>(attribute.boundIndex)] = &attribute.Shown();
     }
-    void AimAll();
-    void Govern(KivSettingAttribute& attribute) const;
-    void GovernAllOwn();
+    void UpdateBindings();
+    void ResolveAll();
+    void ApplyPrefixLocks(KivSettingAttribute& attribute) const;
+    void ApplyOwnPrefixLock(KivSettingAttribute& attribute) const;
+    void CollectOwnPrefixLocks();
     void ReadFiles();
     void ReadLayers();
     void TakeOwnFile();
     std::vector<KivSettingChange> Unsaved(Only only) const;
     bool Concerns(std::size_t index, Only only) const;
-    void Change(std::size_t index, const KivSettingEntry& says);
-    bool IsDirty(std::size_t index, const KivSettingEntry& saved) const
+    void Change(std::size_t index, const KivSettingEntry& entry);
+    bool IsDirty(const KivSettingJournal::Record& saved) const
     {
-        return !_table[index].own.Says(saved);
+        return !_table[saved.index].own.Equals(saved.before);
     }
-    AllShown ShownNow() const;
-    AllShown ShownAtCommit(Only only) const;
-    Keys ChangedSince(const AllShown& shown) const;
-    void Forget(Journal& journal, bool KivSettingAttribute::*standsInIt, Only only);
+    KivSettingSnapshot SnapshotOfCommit(Only only) const;
+    void Drop(KivSettingJournal& journal, Only only);
 
     KivString _name;
     bool _isAdministrator;
+    bool _isInitial = false;
+    bool _isRead = false;
     std::vector<KivUnicodeString> _layerDirectories; // outside of the own file, outermost first
     KivSettingOwnFile _own;
-    KivSettingPlaces _places;
+    KivSettingSources _sources;
     KivSettingTable _table;
-    KivSettingPrefixLocks _prefixLocks;              // of the layers outside
-    KivSettingPrefixLocks _ownPrefixLocks;           // of the layer that is written
-    std::vector<std::uint32_t> _bound;               // the attributes of the bound keys, in their order
-    std::vector<const KivSettingValue*> _shownBound; // and their values
-    Journal _unsaved;                                // in writing order
-    Journal _uncommitted;
+    KivSettingPrefixLocks _prefixLocks;               // of the layers outside
+    KivSettingPrefixLocks _ownPrefixLocks;            // of the layer that is written
+    std::vector<std::uint32_t> _bound;                // the attributes of the bound keys, in their order
+    std::vector<const KivSettingValue*> _boundValues; // and their values
+    KivSettingJournal _unsaved;
+    KivSettingJournal _uncommitted;
     std::set<std::string_view> _typesReported;
-    bool _isRead = false;
     KivSettingNews _news;
 };

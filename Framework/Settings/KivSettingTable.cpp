@@ -2,18 +2,18 @@
 
 #include <algorithm>
 
-KivSettingInfo::Origin KivSettingAttribute::OriginWith(const KivSettingEntry& says) const
+KivSettingInfo::Origin KivSettingAttribute::OriginWith(const KivSettingEntry& entry) const
 {
     using Origin = KivSettingInfo::Origin;
     const bool isGiven = KivHasValue(given);
     if (lockLayer >= 0) return isGiven ? Origin::Administrator : Origin::None;
-    if (KivHasValue(says.value) && !(says.initial && isGiven)) return Origin::User;
+    if (KivHasValue(entry.value) && !(entry.initial && isGiven)) return Origin::User;
     return isGiven ? Origin::Administrator : Origin::None;
 }
 
-const KivSettingValue& KivSettingAttribute::ShownWith(const KivSettingEntry& says) const
+const KivSettingValue& KivSettingAttribute::ShownWith(const KivSettingEntry& entry) const
 {
-    return OriginWith(says) == KivSettingInfo::Origin::User ? says.value : given;
+    return OriginWith(entry) == KivSettingInfo::Origin::User ? entry.value : given;
 }
 
 std::size_t KivSettingTable::IndexOf(std::string_view key) const
@@ -29,7 +29,7 @@ std::size_t KivSettingTable::IndexOf(std::string_view key) const
     }
 }
 
-std::size_t KivSettingTable::IndexOfNew(std::string_view key, std::size_t hash)
+std::size_t KivSettingTable::FindOrAdd(std::string_view key, std::size_t hash)
 {
     if (2 * (_attributes.size() + 1) > _slots.size()) Grow(2 * _slots.size());
     const std::size_t mask = _slots.size() - 1;

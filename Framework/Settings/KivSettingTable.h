@@ -28,22 +28,19 @@ struct KivSettingAttribute {
 
     KivSettingInfo::Origin origin = KivSettingInfo::Origin::None; // Shown's, kept by Resolve
 
-    int boundPlace = -1; // among the bound keys, or -1
-
-    bool isUnsaved = false; // stands in the store's journal since the last save
-    bool isUncommitted = false;
+    int boundIndex = -1; // among the bound keys, or -1
 
     // Whom the setting is closed to: nobody, those inside of the written layer, or the writer too.
     enum class Lock { Open, Here, Outside };
-    Lock LockWith(const KivSettingEntry& says) const
+    Lock LockWith(const KivSettingEntry& entry) const
     {
         if (lockLayer >= 0) return Lock::Outside;
-        return says.lock || isUnderOwnPrefix ? Lock::Here : Lock::Open;
+        return entry.lock || isUnderOwnPrefix ? Lock::Here : Lock::Open;
     }
 
-    // Who decides when the written layer says this.
-    KivSettingInfo::Origin OriginWith(const KivSettingEntry& says) const;
-    const KivSettingValue& ShownWith(const KivSettingEntry& says) const;
+    // Who decides with this entry in the written layer.
+    KivSettingInfo::Origin OriginWith(const KivSettingEntry& entry) const;
+    const KivSettingValue& ShownWith(const KivSettingEntry& entry) const;
 
     void Resolve() { origin = OriginWith(own); }
     const KivSettingValue& Shown() const
@@ -68,9 +65,8 @@ public:
         const std::size_t index = IndexOf(key);
         return index == None ? nullptr : &_attributes[index];
     }
-    // Adds the key when it is not there.
-    std::size_t IndexOfNew(std::string_view key) { return IndexOfNew(key, Hash(key)); }
-    std::size_t IndexOfNew(std::string_view key, std::size_t hash);
+    // The index of a key, which is added when it is not there.
+    std::size_t FindOrAdd(std::string_view key, std::size_t hash);
 
     // Makes room for this many attributes more.
     void Reserve(std::size_t more);

@@ -15,7 +15,7 @@ void KivSettingTransaction::Refuse(const KivString& key)
     Refusal refusal{key, "the value is not a finite number", {}};
     _repository.GetInfo(key.ConvertToChar(), &refusal.locker, 0);
     if (refusal.locker.locked) {
-        refusal.why = refusal.locker.Words();
+        refusal.why = refusal.locker.Message();
     } else if (!KivIsSettingKey(key.View())) {
         refusal.why = "a setting's name has letters, digits and underscores, at most 255 of them";
     }

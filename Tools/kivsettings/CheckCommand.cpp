@@ -21,7 +21,7 @@ std::string AsText(const KivSettingFinding& finding)
 {
     const KivDiagnostic words{
         .text = finding.text, .file = finding.file, .line = finding.line, .key = finding.key};
-    return words.Words().ConvertToChar() + std::string("\n");
+    return words.Message().ConvertToChar() + std::string("\n");
 }
 
 ExitCode Run(const Arguments& arguments, Console& console)

@@ -27,7 +27,7 @@ int WriteAll(int descriptor, std::string_view data)
 
 Console::Console()
     : _diagnostics([this](const KivDiagnostic& said) {
-          Say(said.Words().View());
+          Say(said.Message().View());
           return true;
       })
 {}

@@ -33,9 +33,9 @@ ExitCode Run(const Arguments& arguments, Console& console)
         KivSettingEntry before{.value = now.value, .lock = now.info.lockedHere};
         KivSettingEntry after{.value = KivHasValue(entry.value) ? entry.value : now.value,
                               .lock = before.lock || (isAdministrator && entry.lock)};
-        if (before.Says(after)) continue;
+        if (before.Equals(after)) continue;
         std::string fault = Fault(key, entry, arguments.Has("force"));
-        if (fault.empty() && now.info.locked) fault = key + ": " + now.info.Words().ConvertToChar();
+        if (fault.empty() && now.info.locked) fault = key + ": " + now.info.Message().ConvertToChar();
         if (fault.empty()) {
             changes.push_back({key, before, after});
         } else {

@@ -70,7 +70,7 @@ LayerCheck CheckLayers(const KivUnicodeString& editedLayer)
     std::vector<KivUnicodeString> paths;
     {
         const KivDiagnosticScope scope([&](const KivDiagnostic& about) {
-            if (said.insert(about.Words()).second)
+            if (said.insert(about.Message()).second)
                 check.findings.push_back({Kind::Wrong, {}, about.file, about.line, about.key, about.text});
             return true;
         });

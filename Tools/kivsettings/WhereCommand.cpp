@@ -14,7 +14,7 @@ ExitCode Run(const Arguments& arguments, Console& console)
     JsonArray array;
     for (const std::string& key : *keys) {
         const Setting setting = settings.Describe(key);
-        const KivUnicodeString words = setting.info.Words();
+        const KivUnicodeString words = setting.info.Message();
         if (arguments.Has("json"))
             console.Print(array.Element(SettingAsJson(setting).Add("words", words.View())));
         else

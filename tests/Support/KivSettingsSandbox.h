@@ -100,7 +100,7 @@ public:
     {
         int count = 0;
         for (const KivDiagnostic& said : diagnostics) {
-            count += said.Words().View().find(text) != std::string_view::npos;
+            count += said.Message().View().find(text) != std::string_view::npos;
         }
         return count;
     }

@@ -56,7 +56,7 @@ TEST_F(ToolTest, StoresWhatIsAllowedAndNamesEachLockedKeyAndItsLocker)
     for (const char* key : {"Ruler", "ViewName"}) {
         KivSettingInfo info;
         repository.GetInfo(key, &info, 0);
-        const std::string words = std::string(key) + ": " + info.Words().ConvertToChar() + "\n";
+        const std::string words = std::string(key) + ": " + info.Message().ConvertToChar() + "\n";
         EXPECT_NE(run.err.find("kivsettings: " + words), std::string::npos) << run.err;
         Expect(std::string("where ") + key, 0, words); // the padlock's words
     }

@@ -71,7 +71,7 @@ TEST_F(TextCatalogues, TakeValuesInAnyOrderAndSettingsSpeakThem)
     info.value = "5";
     info.lockLayer = "site";
     info.lockFile = "/x";
-    EXPECT_EQ(info.Words(), "5 (/x, site)");
+    EXPECT_EQ(info.Message(), "5 (/x, site)");
 }
 
 } // namespace

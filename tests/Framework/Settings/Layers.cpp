@@ -9,11 +9,11 @@ namespace {
 
 class Layers : public ::testing::Test {
 protected:
-    std::string Words(const char* key)
+    std::string Message(const char* key)
     {
         KivSettingInfo info;
         KivSettingRepository::GetRepository("DraftingOptions")->GetInfo(key, &info, 0);
-        std::string words(info.Words().View());
+        std::string words(info.Message().View());
         for (std::size_t at; (at = words.find(box.root.string())) != std::string::npos;) {
             words.replace(at, box.root.string().size(), "~");
         }
@@ -56,19 +56,19 @@ TEST_F(Layers, TheRightOneWins)
     EXPECT_EQ(Text("Initial"), "site");
     EXPECT_EQ(Text("First"), "company");
 
-    EXPECT_EQ(Words("Both"),
+    EXPECT_EQ(Message("Both"),
               "Set by the administrator in layer \"site\" (~/site/DraftingOptions.kivsettings, "
               "line 1); you may change it.");
-    EXPECT_EQ(Words("User"), "Set by you.");
-    EXPECT_EQ(Words("Outer"), "Locked by the administrator at company in layer \"company\" "
-                              "(~/company/DraftingOptions.kivsettings, line 2).");
-    EXPECT_EQ(Words("Bare"),
+    EXPECT_EQ(Message("User"), "Set by you.");
+    EXPECT_EQ(Message("Outer"), "Locked by the administrator at company in layer \"company\" "
+                                "(~/company/DraftingOptions.kivsettings, line 2).");
+    EXPECT_EQ(Message("Bare"),
               "Locked by the administrator at company in layer \"site\" (~/site/DraftingOptions.kivsettings, "
               "line 3). "
               "The value is set in layer \"company\" (~/company/DraftingOptions.kivsettings, line 3).");
-    EXPECT_EQ(Words("Nothing"), "Locked by the administrator at the default in layer \"company\" "
-                                "(~/company/DraftingOptions.kivsettings, line 4).");
-    EXPECT_EQ(Words("Unheard"), "Not set: the default applies.");
+    EXPECT_EQ(Message("Nothing"), "Locked by the administrator at the default in layer \"company\" "
+                                  "(~/company/DraftingOptions.kivsettings, line 4).");
+    EXPECT_EQ(Message("Unheard"), "Not set: the default applies.");
 
     for (const char* key : {"Outer", "Inner", "Bare", "Nothing"})
         EXPECT_EQ(WriteText(key, "x"), E_FAIL) << key;

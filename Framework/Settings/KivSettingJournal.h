@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Settings/KivSettingEntry.h"
+
+#include <cstddef>
+#include <vector>
+
+// What attributes said before they changed, in the order in which each first did: since the last save, or
+// since the last commit.
+class KivSettingJournal {
+public:
+    struct Record {
+        std::size_t index; // of the attribute in its table
+        KivSettingEntry before;
+    };
+
+    bool IsEmpty() const { return _records.empty(); }
+
+    // Keeps what an attribute says, unless there is a record of it already.
+    void Add(std::size_t index, const KivSettingEntry& before)
+    {
+        if (index >= _isIn.size()) _isIn.resize(index + 1);
+        if (_isIn[index]) return;
+        _records.push_back({index, before});
+        _isIn[index] = true;
+    }
+
+    // Drops the records of the attributes whose index the predicate answers true for.
+    template <class Predicate> void Drop(const Predicate& concerns)
+    {
+        for (const Record& record : _records)
+            if (concerns(record.index)) _isIn[record.index] = false;
+        std::erase_if(_records, [this](const Record& record) { return !_isIn[record.index]; });
+    }
+
+    auto begin() { return _records.begin(); }
+    auto end() { return _records.end(); }
+    auto begin() const { return _records.begin(); }
+    auto end() const { return _records.end(); }
+
+private:
+    std::vector<Record> _records;
+    std::vector<bool> _isIn; // by index
+};
