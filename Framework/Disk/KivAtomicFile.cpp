@@ -1,44 +1,54 @@
 #include "Disk/KivAtomicFile.h"
 
-#include "Disk/KivHiddenName.h"
+#include "Disk/KivUninterrupted.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <fcntl.h>
 
 namespace {
 
-constexpr int kNewFile = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+KivFileHandle Create(const KivFilePlace& place, const KivUnicodeString& name)
+{
+    constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    return KivFileHandle(
+        KivUninterrupted([&] { return openat(place.Directory(), name.ConvertToChar(), flags, 0600); }));
+}
 
 bool WriteAll(int descriptor, std::string_view bytes)
 {
     while (!bytes.empty()) {
-        const ssize_t count = write(descriptor, bytes.data(), bytes.size());
-        if (count < 0 && errno == EINTR) continue;
+        const ssize_t count = KivUninterrupted([&] { return write(descriptor, bytes.data(), bytes.size()); });
         if (count < 0) return false;
         bytes.remove_prefix(static_cast<std::size_t>(count));
     }
     return true;
 }
 
-int FlushDirectoryOf(const KivUnicodeString& path)
+bool Flush(int descriptor)
 {
-    const std::string directory(KivDirectoryOf(path.View()));
-    const KivFileHandle handle(
-        open(directory.empty() ? "." : directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!handle.IsOpen()) return errno;
-    return fsync(handle.Get()) == 0 ? 0 : errno;
+    return KivUninterrupted([&] { return fsync(descriptor); }) == 0;
+}
+
+// Else the settings would be lost with the directory. One that cannot be flushed does not stay: it would pass
+// for an old one the next time.
+int MakeDirectory(const KivUnicodeString& path, mode_t permissions)
+{
+    const KivFilePlace place(path);
+    if (!place.IsOpen()) return place.Error();
+    const char* const name = place.Name().ConvertToChar();
+    if (mkdirat(place.Directory(), name, permissions) != 0) return errno == EEXIST ? 0 : errno;
+    const int error = place.Flush();
+    if (error != 0) unlinkat(place.Directory(), name, AT_REMOVEDIR);
+    return error;
 }
 
 } // namespace
 
-KivAtomicFile::KivAtomicFile(const KivUnicodeString& path)
-    : _path(path), _temporary(KivHiddenName(path, ".tmp"))
-{}
+KivAtomicFile::KivAtomicFile(const KivFilePlace& place) : _place(place), _temporary(place.Hidden(".tmp")) {}
 
 KivAtomicFile::~KivAtomicFile()
 {
-    if (_isThere) unlink(_temporary.ConvertToChar());
+    if (_isThere) unlinkat(_place.Directory(), _temporary.ConvertToChar(), 0);
 }
 
 bool KivAtomicFile::Fail(const char* what)
@@ -49,11 +59,11 @@ bool KivAtomicFile::Fail(const char* what)
 
 bool KivAtomicFile::Open()
 {
-    const char* const name = _temporary.ConvertToChar();
-    int descriptor = open(name, kNewFile, 0600);
-    if (descriptor < 0 && errno == EEXIST && unlink(name) == 0) descriptor = open(name, kNewFile, 0600);
-    if (descriptor < 0) return Fail("the temporary file cannot be made");
-    _handle = KivFileHandle(descriptor);
+    _handle = Create(_place, _temporary);
+    if (!_handle.IsOpen() && errno == EEXIST &&
+        unlinkat(_place.Directory(), _temporary.ConvertToChar(), 0) == 0)
+        _handle = Create(_place, _temporary);
+    if (!_handle.IsOpen()) return Fail("the temporary file cannot be made");
     _isThere = true;
     return true;
 }
@@ -61,7 +71,7 @@ bool KivAtomicFile::Open()
 bool KivAtomicFile::TakeOver(mode_t permissions)
 {
     struct stat old {};
-    if (stat(_path.ConvertToChar(), &old) != 0) {
+    if (fstatat(_place.Directory(), _place.Name().ConvertToChar(), &old, 0) != 0) {
         return permissions == 0600 || fchmod(_handle.Get(), permissions) == 0;
     }
     // A program run with other rights must not take the file away from its owner. Where that is not allowed
@@ -79,7 +89,7 @@ bool KivAtomicFile::Write(std::string_view bytes, mode_t permissions)
     if (!Open()) return false;
     if (!TakeOver(permissions)) return Fail("the permissions cannot be set");
     if (!WriteAll(_handle.Get(), bytes)) return Fail("the file cannot be written");
-    if (fsync(_handle.Get()) != 0) return Fail("the file cannot be flushed");
+    if (!Flush(_handle.Get())) return Fail("the file cannot be flushed");
     struct stat status {};
     if (fstat(_handle.Get(), &status) != 0) return Fail("the file cannot be examined");
     _stamp = KivFileStamp(status);
@@ -88,26 +98,29 @@ bool KivAtomicFile::Write(std::string_view bytes, mode_t permissions)
 
 bool KivAtomicFile::Rename()
 {
-    if (rename(_temporary.ConvertToChar(), _path.ConvertToChar()) != 0) {
+    const int directory = _place.Directory();
+    const char *const from = _temporary.ConvertToChar(), *const to = _place.Name().ConvertToChar();
+    if (KivUninterrupted([&] { return renameat(directory, from, directory, to); }) != 0)
         return Fail("the file cannot be replaced");
-    }
     _isThere = false;
     return true;
 }
 
 bool KivAtomicFile::FlushDirectory()
 {
-    errno = FlushDirectoryOf(_path);
+    errno = _place.Flush();
     return errno == 0 || Fail("the directory cannot be flushed");
 }
 
-int KivWriteNewFile(const KivUnicodeString& path, std::string_view bytes)
+int KivWriteNewFile(const KivFilePlace& place, std::string_view ending, std::string_view bytes)
 {
-    const KivFileHandle handle(open(path.ConvertToChar(), kNewFile, 0600));
+    KivUnicodeString name = place.Name();
+    name.Append(ending);
+    const KivFileHandle handle = Create(place, name);
     if (!handle.IsOpen()) return errno;
-    if (WriteAll(handle.Get(), bytes) && fsync(handle.Get()) == 0) return 0;
-    const int error = errno;
-    unlink(path.ConvertToChar());
+    int error = WriteAll(handle.Get(), bytes) && Flush(handle.Get()) ? 0 : errno;
+    if (error == 0) error = place.Flush();
+    if (error != 0) unlinkat(place.Directory(), name.ConvertToChar(), 0);
     return error;
 }
 
@@ -119,12 +132,8 @@ int KivMakeDirectories(const KivUnicodeString& path, mode_t permissions)
     for (std::size_t slash = 0; slash != whole.size();) {
         slash = std::min(whole.find('/', slash + 1), whole.size());
         const KivUnicodeString part(whole.substr(0, slash));
-        if (mkdir(part.ConvertToChar(), permissions) == 0) {
-            // Else the settings would be lost with the directory.
-            if (const int error = FlushDirectoryOf(part)) return error;
-        } else if (errno != EEXIST) {
-            return errno;
-        }
+        if (access(part.ConvertToChar(), F_OK) == 0) continue; // those above it may not be ours to open
+        if (const int error = MakeDirectory(part, permissions)) return error;
     }
     return 0;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Base/KivUnicodeString.h"
 #include "Disk/KivFileContent.h"
+#include "Disk/KivFilePlace.h"
 
 #include <string_view>
 #include <sys/types.h>
@@ -10,7 +10,8 @@
 // file's lock, so that a temporary file that stands already can only be a dead process's.
 class KivAtomicFile {
 public:
-    explicit KivAtomicFile(const KivUnicodeString& path);
+    // The place is open, and outlives this.
+    explicit KivAtomicFile(const KivFilePlace& place);
     ~KivAtomicFile();
     KivAtomicFile(const KivAtomicFile&) = delete;
     KivAtomicFile& operator=(const KivAtomicFile&) = delete;
@@ -36,7 +37,7 @@ private:
     bool Open();
     bool TakeOver(mode_t permissions);
 
-    KivUnicodeString _path;
+    const KivFilePlace& _place;
     KivUnicodeString _temporary;
     bool _isThere = false; // the temporary file is ours to remove
     KivFileHandle _handle;
@@ -44,8 +45,10 @@ private:
     KivUnicodeString _reason;
 };
 
-// Creates a file that must not stand yet, writes and flushes it. 0, or the error; EEXIST: it stands.
-int KivWriteNewFile(const KivUnicodeString& path, std::string_view bytes);
+// Creates a file beside the place's, which must not stand yet, named like it with an ending, and makes it and
+// its name survive a power failure. 0, or the error; EEXIST: it stands.
+int KivWriteNewFile(const KivFilePlace& place, std::string_view ending, std::string_view bytes);
 
-// Makes a directory and those above it, as far as they are missing. 0, or the error.
+// Makes a directory and those above it, as far as they are missing, and makes them survive a power failure.
+// 0, or the error.
 int KivMakeDirectories(const KivUnicodeString& path, mode_t permissions);

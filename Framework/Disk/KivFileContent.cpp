@@ -1,7 +1,8 @@
 #include "Disk/KivFileContent.h"
 
+#include "Disk/KivUninterrupted.h"
+
 #include <algorithm>
-#include <cerrno>
 #include <fcntl.h>
 #include <system_error>
 
@@ -24,7 +25,8 @@ KivUnicodeString KivErrorWords(const char* what, int error)
 
 KivFileContent KivReadFile(const KivUnicodeString& path)
 {
-    KivFileHandle handle(open(path.ConvertToChar(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    KivFileHandle handle(KivUninterrupted(
+        [&] { return open(path.ConvertToChar(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC); }));
     if (!handle.IsOpen()) {
         if (errno != ENOENT) return Unreadable(KivErrorWords("the file cannot be opened", errno));
         return {};
@@ -43,8 +45,8 @@ KivFileContent KivReadFile(const KivUnicodeString& path)
     content.text.resize(size);
     std::size_t filled = 0;
     while (filled < size) {
-        const ssize_t count = read(handle.Get(), content.text.data() + filled, size - filled);
-        if (count < 0 && errno == EINTR) continue;
+        const ssize_t count =
+            KivUninterrupted([&] { return read(handle.Get(), content.text.data() + filled, size - filled); });
         if (count < 0) return Unreadable(KivErrorWords("the file cannot be read", errno));
         if (count == 0) break; // cut shorter since: what is left is what there is
         filled += static_cast<std::size_t>(count);

@@ -1,69 +1,102 @@
 #include "Disk/KivFileLock.h"
 
 #include "Disk/KivFileContent.h"
-#include "Disk/KivHiddenName.h"
+#include "Disk/KivLockQueue.h"
 
-#include <cerrno>
-#include <fcntl.h>
-#include <sys/file.h>
+#include <condition_variable>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <system_error>
 #include <thread>
 
-KivFileLock::KivFileLock(const KivUnicodeString& settingsFile, std::chrono::milliseconds patience)
-    : _lockFile(KivHiddenName(settingsFile, ".lock"))
+// What the waiting thread and the one who asked share, and everybody who gave up waiting.
+struct KivFileLock::Claim {
+    std::mutex mutex;
+    std::condition_variable decided;
+    bool isWanted = true;
+    std::optional<KivLockQueue::Outcome> outcome;
+
+    void Decide(KivLockQueue::Outcome&& its)
+    {
+        const std::lock_guard guard(mutex);
+        outcome = std::move(its);
+        decided.notify_all();
+    }
+    // Whether somebody else may still want it.
+    bool GiveUp()
+    {
+        const std::lock_guard guard(mutex);
+        isWanted = false;
+        if (!outcome) return true;
+        outcome = KivLockQueue::Outcome{}; // frees the lock
+        return false;
+    }
+    bool IsWantedAgain()
+    {
+        const std::lock_guard guard(mutex);
+        return !isWanted && !outcome && (isWanted = true);
+    }
+
+    // One that was given up still stands in the queue: who asks again takes its place there, instead of
+    // leaving one more thread behind.
+    static std::map<KivUnicodeString, std::weak_ptr<Claim>>& GivenUp()
+    {
+        static auto& claims = *new std::map<KivUnicodeString, std::weak_ptr<Claim>>;
+        return claims;
+    }
+};
+
+KivFileLock::KivFileLock(const KivUnicodeString& file) : _place(std::make_shared<KivFilePlace>(file))
 {
-    const auto until = std::chrono::steady_clock::now() + patience;
-    while (!Try()) {
-        if (std::chrono::steady_clock::now() >= until) {
-            _reason = "another program has been saving the file for too long";
-            return;
-        }
-        std::this_thread::sleep_for(std::chrono::microseconds(500));
+    if (const auto given = Claim::GivenUp().extract(file)) _claim = given.mapped().lock();
+    if (_claim && _claim->IsWantedAgain()) return;
+    _claim = std::make_shared<Claim>();
+    if (!_place->IsOpen())
+        _claim->Decide({{}, KivErrorWords("the directory cannot be opened", _place->Error())});
+    else
+        Ask();
+}
+
+void KivFileLock::Ask()
+{
+    KivLockQueue queue(_place);
+    if (std::optional<KivLockQueue::Outcome> outcome = queue.Try()) {
+        _claim->Decide(std::move(*outcome));
+        return;
+    }
+    try {
+        std::thread([claim = _claim, rest = std::move(queue)]() mutable {
+            claim->Decide(rest.Wait());
+        }).detach();
+    } catch (const std::system_error&) {
+        _claim->Decide({{}, "another program is saving the file, and nothing is left to wait for it with"});
     }
 }
 
-bool KivFileLock::Try()
+KivFileLock::~KivFileLock()
 {
-    const std::string directory(KivDirectoryOf(_lockFile.View()));
-    KivFileHandle handle(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!handle.IsOpen()) {
-        _reason = KivErrorWords("the directory cannot be opened", errno);
-        return true;
-    }
-    if (flock(handle.Get(), LOCK_EX | LOCK_NB) == 0) {
-        _handle = std::move(handle);
-        return true;
-    }
-    if (errno == EWOULDBLOCK || errno == EINTR) return false;
-    return TryLockFile();
+    if (_claim->GiveUp()) Claim::GivenUp().insert_or_assign(_place->Path(), _claim);
 }
 
-bool KivFileLock::TryLockFile()
+bool KivFileLock::Await(std::chrono::milliseconds patience)
 {
-    // Network locks want a file that is open for writing.
-    KivFileHandle handle(
-        open(_lockFile.ConvertToChar(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600));
-    if (!handle.IsOpen()) {
-        _reason = KivErrorWords("the lock file cannot be made", errno);
-        return true;
-    }
-    if (flock(handle.Get(), LOCK_EX | LOCK_NB) != 0) {
-        if (errno == EWOULDBLOCK || errno == EINTR) return false;
-        _reason = KivErrorWords("the file system cannot lock", errno);
-        return true;
-    }
-    // The holder before may have removed the file between our opening and locking it.
-    struct stat locked {
-    }, named{};
-    if (fstat(handle.Get(), &locked) != 0 || lstat(_lockFile.ConvertToChar(), &named) != 0) return false;
-    if (locked.st_dev != named.st_dev || locked.st_ino != named.st_ino) return false;
-    _handle = std::move(handle);
-    _hasLockFile = true;
-    return true;
+    std::unique_lock guard(_claim->mutex);
+    return _claim->decided.wait_until(guard, _asked + patience,
+                                      [this] { return _claim->outcome.has_value(); });
 }
 
-void KivFileLock::Release()
+bool KivFileLock::IsHeld() const
 {
-    if (!_handle.IsOpen()) return;
-    if (std::exchange(_hasLockFile, false)) unlink(_lockFile.ConvertToChar());
-    const KivFileHandle freed = std::move(_handle);
+    const std::lock_guard guard(_claim->mutex);
+    const std::optional<KivLockQueue::Outcome>& outcome = _claim->outcome;
+    return outcome && outcome->handle.IsOpen() && KivLockQueue::IsInPlace(*_place, outcome->handle.Get());
+}
+
+KivUnicodeString KivFileLock::Reason() const
+{
+    const std::lock_guard guard(_claim->mutex);
+    if (!_claim->outcome) return "another program has been saving the file for too long";
+    if (!_claim->outcome->handle.IsOpen()) return _claim->outcome->reason;
+    return "the lock file was removed meanwhile";
 }

@@ -70,9 +70,9 @@ void KivSettingLayerCopy::Keep(std::string_view text) const
         return failed(KivErrorWords("no directory", error));
     }
     // Another program that is here at the same time keeps the same copy.
-    KivFileLock lock(_path, std::chrono::milliseconds(50));
-    if (!lock.IsHeld()) return failed(lock.Reason());
-    KivAtomicFile file(_path);
+    KivFileLock lock(_path);
+    if (!lock.Await(std::chrono::milliseconds(15)) || !lock.IsHeld()) return failed(lock.Reason());
+    KivAtomicFile file(lock.Place());
     if (!file.Write(Header(text).append(text), 0600) || !file.Rename()) failed(file.Reason());
 }
 

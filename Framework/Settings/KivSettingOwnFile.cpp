@@ -3,7 +3,6 @@
 #include "Base/KivDiagnostic.h"
 #include "Disk/KivAtomicFile.h"
 #include "Disk/KivDirectoryTrouble.h"
-#include "Disk/KivFileLock.h"
 #include "Disk/KivHiddenName.h"
 
 #include <cerrno>
@@ -11,8 +10,6 @@
 #include <utility>
 
 namespace {
-
-constexpr std::chrono::seconds kLockPatience{3};
 
 // Where the links at a path lead, whether something stands there or not. A link itself must stay in place.
 KivUnicodeString TargetOf(const KivUnicodeString& path)
@@ -87,21 +84,14 @@ KivUnicodeString KivSettingOwnFile::DirectoryTrouble() const
     return trouble;
 }
 
-bool KivSettingOwnFile::MakeDirectory(const KivUnicodeString& target) const
-{
-    const KivUnicodeString directory(KivDirectoryOf(target.View()));
-    const int error = KivMakeDirectories(directory, _isAdministrators ? 0755 : 0700);
-    return error == 0 || Refuse(KivErrorWords("the directory cannot be made", error));
-}
-
 // Keeps the damaged file byte for byte under a name of its own. Damaged lines stay in the file as well, so
 // there is nothing to set aside again while it has the damage that the newest copy shows.
-bool KivSettingOwnFile::SetAside(const KivUnicodeString& target) const
+bool KivSettingOwnFile::SetAside(const KivFilePlace& place) const
 {
     KivUnicodeString newest;
     for (int number = 1;; ++number) {
-        KivUnicodeString aside = target;
-        aside.Append(".damaged-" + std::to_string(number));
+        const std::string ending = ".damaged-" + std::to_string(number);
+        const KivUnicodeString aside = place.Path() + ending.c_str();
         if (access(aside.ConvertToChar(), F_OK) == 0) {
             newest = aside;
             continue;
@@ -110,7 +100,7 @@ bool KivSettingOwnFile::SetAside(const KivUnicodeString& target) const
             const KivSettingFile earlier(KivReadFile(newest).text);
             if (earlier.IsDamaged() && earlier.DamagedLines() == _file.DamagedLines()) return true;
         }
-        const int error = KivWriteNewFile(aside, _file.Text());
+        const int error = KivWriteNewFile(place, ending, _file.Text());
         if (error == EEXIST) continue;
         if (error != 0) return Refuse(KivErrorWords("the damaged file cannot be set aside", error));
         KivReport({KivDiagnostic::Severity::Note,
@@ -122,39 +112,64 @@ bool KivSettingOwnFile::SetAside(const KivUnicodeString& target) const
     }
 }
 
-bool KivSettingOwnFile::Write(const KivUnicodeString& target, std::string text, bool& isDurable)
+KivSettingOwnFile::Outcome KivSettingOwnFile::Write(const KivFileLock& lock, std::string text)
 {
+    const auto refuse = [this](const KivUnicodeString& reason) {
+        Refuse(reason);
+        return Outcome::Refused;
+    };
     if (text.size() > KivMostBytes) {
-        return Refuse(KivUnicodeString("the file would have " + std::to_string(text.size()) +
+        return refuse(KivUnicodeString("the file would have " + std::to_string(text.size()) +
                                        " bytes, too many to read it again"));
     }
-    KivAtomicFile file(target);
-    if (!file.Write(text, _isAdministrators ? 0644 : 0600) || !file.Rename()) return Refuse(file.Reason());
+    KivAtomicFile file(lock.Place());
+    if (!file.Write(text, _isAdministrators ? 0644 : 0600)) return refuse(file.Reason());
+    if (!lock.IsHeld()) return refuse(lock.Reason());
+    if (!file.Rename()) return refuse(file.Reason());
     _content = {};
     _content.state = KivFileContent::State::Read;
     _content.stamp = file.Stamp();
-    isDurable = file.FlushDirectory();
+    const bool isDurable = file.FlushDirectory();
+    _owed = isDurable ? nullptr : lock.SharedPlace();
     if (!isDurable) KivReport({KivDiagnostic::Severity::Warning, file.Reason(), _path, 0, {}});
     _content.handle = file.TakeHandle();
     _file = KivSettingFile(std::move(text));
-    return true;
+    return isDurable ? Outcome::Durable : Outcome::Visible;
+}
+
+bool KivSettingOwnFile::FlushOwed()
+{
+    if (_owed && _owed->Flush() == 0) _owed.reset();
+    return !_owed;
+}
+
+std::shared_ptr<KivFileLock> KivSettingOwnFile::AskTurn(KivUnicodeString& trouble)
+{
+    if (auto turn = _turn.lock()) return turn;
+    if (_path.IsEmpty()) {
+        trouble = "there is no home directory, and KivUserSettingsPath names none";
+        return nullptr;
+    }
+    const KivUnicodeString target = TargetOf(_path);
+    const KivUnicodeString directory(KivDirectoryOf(target.View()));
+    if (const int error = KivMakeDirectories(directory, _isAdministrators ? 0755 : 0700)) {
+        trouble = KivErrorWords("the directory cannot be made", error);
+        return nullptr;
+    }
+    trouble = DirectoryTrouble();
+    if (!trouble.IsEmpty()) return nullptr;
+    auto turn = std::make_shared<KivFileLock>(target);
+    _turn = turn;
+    return turn;
 }
 
 KivSettingOwnFile::Outcome KivSettingOwnFile::Save(const std::function<Changes(bool)>& merge)
 {
-    if (_path.IsEmpty()) {
-        Refuse("there is no home directory, and KivUserSettingsPath names none");
-        return Outcome::Refused;
-    }
-    const KivUnicodeString target = TargetOf(_path);
-    if (!MakeDirectory(target)) return Outcome::Refused;
-    if (const KivUnicodeString trouble = DirectoryTrouble(); !trouble.IsEmpty()) {
+    KivUnicodeString trouble;
+    const std::shared_ptr<KivFileLock> lock = AskTurn(trouble);
+    if (lock && (!lock->Await(LockPatience) || !lock->IsHeld())) trouble = lock->Reason();
+    if (!trouble.IsEmpty()) {
         Refuse(trouble);
-        return Outcome::Refused;
-    }
-    const KivFileLock lock(target, kLockPatience);
-    if (!lock.IsHeld()) {
-        Refuse(lock.Reason());
         return Outcome::Refused;
     }
     const bool wasRead = Read();
@@ -163,9 +178,7 @@ KivSettingOwnFile::Outcome KivSettingOwnFile::Save(const std::function<Changes(b
         return Outcome::Refused;
     }
     const Changes changes = merge(wasRead);
-    if (changes.empty()) return Outcome::Nothing;
-    bool isDurable = false;
-    if (_file.IsDamaged() && !SetAside(target)) return Outcome::Refused;
-    if (!Write(target, _file.With(changes), isDurable)) return Outcome::Refused;
-    return isDurable ? Outcome::Durable : Outcome::Visible;
+    if (changes.empty()) return FlushOwed() ? Outcome::Nothing : Outcome::Visible;
+    if (_file.IsDamaged() && !SetAside(lock->Place())) return Outcome::Refused;
+    return Write(*lock, _file.With(changes));
 }

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "Disk/KivFileContent.h"
+#include "Disk/KivFileLock.h"
 #include "Settings/KivSettingFile.h"
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 // The one file that a repository writes: the user's, or that of the administrator layer being edited.
@@ -27,18 +29,29 @@ public:
     // Puts changes on top of what is on disk now, which another process may have changed: it is read first,
     // under the lock. Only then merge is asked for the changes, and told whether the file was read; it is not
     // asked when the file cannot be written. Refused says why and leaves the disk as it was.
+    // Where another program saves, it waits for it, for three seconds at most.
     Outcome Save(const std::function<Changes(bool wasRead)>& merge);
+
+    // Asks for the lock without waiting. As long as the answer is kept, every save uses it. Null, and why,
+    // when there is nowhere to save to.
+    std::shared_ptr<KivFileLock> AskTurn(KivUnicodeString& trouble);
+    // How long a save waits for the lock since it was asked for.
+    static constexpr std::chrono::milliseconds LockPatience{3000};
+
+    // Flushes what an earlier save could not. False when it still cannot be.
+    bool FlushOwed();
 
 private:
     bool IsAsItWas() const;
     KivUnicodeString DirectoryTrouble() const;
     bool Refuse(const KivUnicodeString& reason) const;
-    bool MakeDirectory(const KivUnicodeString& target) const;
-    bool SetAside(const KivUnicodeString& target) const;
-    bool Write(const KivUnicodeString& target, std::string text, bool& isDurable);
+    bool SetAside(const KivFilePlace& place) const;
+    Outcome Write(const KivFileLock& lock, std::string text);
 
     KivUnicodeString _path;
     bool _isAdministrators;
     KivFileContent _content; // without its text, which is the file's
     KivSettingFile _file;
+    std::weak_ptr<KivFileLock> _turn;
+    std::shared_ptr<const KivFilePlace> _owed; // where the last save could not flush the directory
 };

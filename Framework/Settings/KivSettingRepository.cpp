@@ -273,6 +273,16 @@ HRESULT KivSettingRepository::Save(std::span<const char* const> only)
     return receipt == Receipt::Refused ? E_FAIL : S_OK;
 }
 
+std::vector<std::shared_ptr<KivFileLock>> KivSettingRepository::AskTurns()
+{
+    std::vector<std::shared_ptr<KivFileLock>> locks;
+    for (const auto& [key, repository] : TheRegistry().repositories) {
+        if (!repository->_opened) continue;
+        if (auto lock = repository->_opened->store.AskTurn()) locks.push_back(std::move(lock));
+    }
+    return locks;
+}
+
 HRESULT KivSettingRepository::SaveKeys(const char* const* keys, int count)
 {
     if (!keys || count <= 0) return count == 0 ? S_OK : E_FAIL;

@@ -13,6 +13,7 @@
 #include <variant>
 #include <vector>
 
+class KivFileLock;
 class KivSettingStore;
 struct KivSettingAttribute;
 
@@ -105,8 +106,9 @@ public:
     HRESULT Rollback();
 
     // Makes the working state durable and the point to return to, and tells listeners like Commit. When it is
-    // refused, a rollback still returns to the point before. S_OK unless the receipt is Refused. The path is
-    // the framework's and has to be null: the user's own file, or the layer opened for an administrator.
+    // refused, a rollback still returns to the point before. Waits up to three seconds for another program
+    // that is saving; KivSettingTurn is for those who must not. S_OK unless the receipt is Refused. The path
+    // is the framework's and has to be null: the user's own file, or the layer opened for an administrator.
     HRESULT SaveRepository(const char* path);
     Receipt LastReceipt() const;
 
@@ -186,6 +188,10 @@ private:
     template <class T> HRESULT Write(const char* key, const T* value, long count, int reserved);
 
     HRESULT Save(std::span<const char* const> only);
+
+    friend class KivSettingTurn;
+    // The locks of all files that something is to be saved to.
+    static std::vector<std::shared_ptr<KivFileLock>> AskTurns();
 
     struct Opened;
     Opened& Open() const;

@@ -312,12 +312,18 @@ std::vector<KivSettingChange> KivSettingStore::Unsaved(Only only) const
     return changes;
 }
 
+std::shared_ptr<KivFileLock> KivSettingStore::AskTurn()
+{
+    KivUnicodeString trouble; // the save tells it
+    return Unsaved({}).empty() ? nullptr : _own.AskTurn(trouble);
+}
+
 KivSettingStore::Keys KivSettingStore::Save(Receipt& result, Only only)
 {
     using Outcome = KivSettingOwnFile::Outcome;
     if (Unsaved(only).empty()) {
         Drop(_unsaved, only);
-        result = Receipt::Nothing;
+        result = _own.FlushOwed() ? Receipt::Nothing : Receipt::Visible;
         return Commit(only);
     }
     const KivSettingSnapshot committed = SnapshotOfCommit(only), working(_table);

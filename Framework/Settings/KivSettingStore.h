@@ -58,6 +58,9 @@ public:
     Keys Rollback(Only only = {});
     Keys Refresh();
     Keys Save(Receipt& receipt, Only only = {});
+    // The lock that the next save takes, asked for without waiting; null when nothing is to be saved, or
+    // nowhere.
+    std::shared_ptr<KivFileLock> AskTurn();
 
     // Says, once a key, that a reader expected another type than the one stored.
     void ReportOtherType(const KivSettingAttribute& attribute, const char* expected);

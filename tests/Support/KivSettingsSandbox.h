@@ -105,12 +105,12 @@ public:
         return count;
     }
 
-    // The names in a directory below root, sorted.
+    // The names in a directory below root, sorted; without the lock files, which stay for good.
     std::vector<std::string> Names(const std::string& directory) const
     {
         std::vector<std::string> names;
         for (const auto& entry : std::filesystem::directory_iterator(root / directory)) {
-            names.push_back(entry.path().filename().string());
+            if (entry.path().extension() != ".lock") names.push_back(entry.path().filename().string());
         }
         std::sort(names.begin(), names.end());
         return names;

@@ -167,7 +167,7 @@ TEST_F(Damage, MissingPermissionsRefuseAndLoseNothing)
         KivSettingRepository& repository = box.Reopen();
         EXPECT_EQ(box.Read(repository, "Snap", 0), 3);
         EXPECT_EQ(PutAndSave(repository, "Ruler", 1), Receipt::Refused);
-        EXPECT_EQ(box.Said("the temporary file cannot be made: Permission denied"), 1);
+        EXPECT_EQ(box.Said(".lock cannot be opened: Permission denied"), 1);
         EXPECT_EQ(box.Read(repository, "Ruler", 0), 1);
     }
     chmod(file.c_str(), 0);

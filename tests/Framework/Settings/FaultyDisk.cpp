@@ -32,6 +32,13 @@ int Fail(int error)
     return -1;
 }
 
+// A signal cuts every second call short.
+bool IsInterrupted()
+{
+    static bool isInterrupted = false;
+    return FaultyDisk::fault == Fault::Interrupts && (isInterrupted = !isInterrupted);
+}
+
 } // namespace
 
 extern "C" int open(const char* path, int flags, ...)
@@ -41,15 +48,33 @@ extern "C" int open(const char* path, int flags, ...)
     va_start(more, flags);
     const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
     va_end(more);
+    if (IsInterrupted()) return Fail(EINTR);
     const bool isOnShare = std::string_view(path).find("/share/") != std::string_view::npos;
     FaultyDisk::stuck += FaultyDisk::isShareStuck && isOnShare;
     while (FaultyDisk::isShareStuck && isOnShare) std::this_thread::sleep_for(std::chrono::milliseconds(2));
     return next(path, flags, mode);
 }
 
+extern "C" int openat(int directory, const char* name, int flags, ...)
+{
+    static const auto next = Next<int(int, const char*, int, ...)>("openat");
+    va_list more;
+    va_start(more, flags);
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
+    va_end(more);
+    return IsInterrupted() ? Fail(EINTR) : next(directory, name, flags, mode);
+}
+
+extern "C" ssize_t read(int descriptor, void* bytes, size_t count)
+{
+    static const auto next = Next<ssize_t(int, void*, size_t)>("read");
+    return IsInterrupted() ? Fail(EINTR) : next(descriptor, bytes, count);
+}
+
 extern "C" ssize_t write(int descriptor, const void* bytes, size_t count)
 {
     static const auto next = Next<ssize_t(int, const void*, size_t)>("write");
+    if (IsInterrupted()) return Fail(EINTR);
     if (FaultyDisk::fault == Fault::Write && IsKind(descriptor, S_IFREG)) return Fail(ENOSPC);
     const bool isShort = FaultyDisk::fault == Fault::ShortWrites && IsKind(descriptor, S_IFREG);
     return next(descriptor, bytes, isShort ? std::min<size_t>(count, 3) : count);
@@ -58,13 +83,15 @@ extern "C" ssize_t write(int descriptor, const void* bytes, size_t count)
 extern "C" int fsync(int descriptor)
 {
     static const auto next = Next<int(int)>("fsync");
+    if (IsInterrupted()) return Fail(EINTR);
     const bool isFaulty = (FaultyDisk::fault == Fault::FlushFile && IsKind(descriptor, S_IFREG)) ||
                           (FaultyDisk::fault == Fault::FlushDirectory && IsKind(descriptor, S_IFDIR));
     return isFaulty ? Fail(EIO) : next(descriptor);
 }
 
-extern "C" int rename(const char* from, const char* to) noexcept
+extern "C" int renameat(int fromDirectory, const char* from, int toDirectory, const char* to) noexcept
 {
-    static const auto next = Next<int(const char*, const char*)>("rename");
-    return FaultyDisk::fault == Fault::Rename ? Fail(EIO) : next(from, to);
+    static const auto next = Next<int(int, const char*, int, const char*)>("renameat");
+    if (IsInterrupted()) return Fail(EINTR);
+    return FaultyDisk::fault == Fault::Rename ? Fail(EIO) : next(fromDirectory, from, toDirectory, to);
 }

@@ -2,11 +2,12 @@
 
 #include <atomic>
 
-// A file system that fails on demand: this program's own open, write, fsync and rename come before the C
+// A file system that fails on demand: this program's own open, openat, read, write, fsync and
+// renameat come before the C
 // library's.
 namespace FaultyDisk {
 
-enum class Fault { None, FlushFile, FlushDirectory, Write, ShortWrites, Rename };
+enum class Fault { None, FlushFile, FlushDirectory, Write, ShortWrites, Rename, Interrupts };
 
 inline std::atomic<Fault> fault{Fault::None};
 

@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <random>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <thread>
 
@@ -164,8 +165,8 @@ TEST(Noise, EveryFaultOfASaveHasItsReceipt)
     box.Write(box.File("user"), "int Ruler = 1\n");
     KivSettingRepository& repository = box.Reopen();
     int value = 2;
-    const auto save = [&](FaultyDisk::Fault fault) {
-        ++value;
+    const auto save = [&](FaultyDisk::Fault fault, int change = 1) {
+        value += change;
         repository.WriteSetting("Ruler", &value, 1, 0);
         FaultyDisk::fault = fault;
         const HRESULT result = repository.SaveRepository(nullptr);
@@ -182,11 +183,39 @@ TEST(Noise, EveryFaultOfASaveHasItsReceipt)
     EXPECT_EQ(onDisk(), "int Ruler = 1\n");
     EXPECT_EQ(save(FaultyDisk::Fault::FlushDirectory), Receipt::Visible);
     EXPECT_EQ(onDisk(), "int Ruler = 6\n");
+    EXPECT_EQ(save(FaultyDisk::Fault::FlushDirectory, 0), Receipt::Visible) << "the flush is still owed";
+    EXPECT_EQ(save(FaultyDisk::Fault::None, 0), Receipt::Nothing);
+    EXPECT_EQ(save(FaultyDisk::Fault::FlushDirectory, 0), Receipt::Nothing) << "it has been paid";
     EXPECT_EQ(save(FaultyDisk::Fault::ShortWrites), Receipt::Durable);
     EXPECT_EQ(onDisk(), "int Ruler = 7\n");
+    EXPECT_EQ(save(FaultyDisk::Fault::Interrupts), Receipt::Durable);
+    box.Write(box.File("user"), "int Ruler = 9\n"); // has to be read
+    EXPECT_EQ(save(FaultyDisk::Fault::Interrupts), Receipt::Nothing);
     for (const char* words : {"cannot be written: No space left", "cannot be replaced: Input/output error"})
         EXPECT_EQ(box.Said(words), 1) << words;
     EXPECT_EQ(box.Said("directory cannot be flushed"), 1);
+
+    // Descriptors run out: what is begun is ended. Nothing that could be closed in between is open.
+    std::filesystem::remove(box.File("user"));
+    struct rlimit usual {};
+    getrlimit(RLIMIT_NOFILE, &usual);
+    Receipt receipt = Receipt::Refused;
+    for (rlim_t free = 0; receipt == Receipt::Refused; ++free) {
+        const std::string before = onDisk();
+        const int next = dup(STDIN_FILENO);
+        close(next);
+        const struct rlimit few {
+            static_cast<rlim_t>(next) + free, usual.rlim_max
+        };
+        setrlimit(RLIMIT_NOFILE, &few);
+        ++value;
+        repository.WriteSetting("Ruler", &value, 1, 0);
+        repository.SaveRepository(nullptr);
+        setrlimit(RLIMIT_NOFILE, &usual);
+        receipt = repository.LastReceipt();
+        EXPECT_EQ(onDisk() == before, receipt == Receipt::Refused) << free;
+    }
+    EXPECT_EQ(receipt, Receipt::Durable);
 }
 
 } // namespace

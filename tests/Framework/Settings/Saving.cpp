@@ -1,3 +1,4 @@
+#include "Disk/KivFileLock.h"
 #include "FaultyDisk.h"
 #include "Settings/KivSettingRepository.h"
 #include "Support/KivSettingsSandbox.h"
@@ -8,10 +9,8 @@
 #include <clocale>
 #include <csignal>
 #include <cstdint>
-#include <fcntl.h>
 #include <limits>
 #include <locale>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
@@ -316,11 +315,13 @@ TEST_F(Saving, ARefusedSaveKeepsEverythingForTheNextOne)
     EXPECT_EQ(box.Bytes(file), "int A = 2\nint B = 1\n");
 
     // Another program is stopped while it saves.
-    const int held = open((box.root / "user").c_str(), O_RDONLY | O_DIRECTORY);
-    ASSERT_EQ(flock(held, LOCK_EX), 0);
-    Put(repository, "A", 3);
-    EXPECT_EQ(Save(repository), Receipt::Refused);
-    close(held);
+    {
+        const KivFileLock stopped(KivUnicodeString(file.string()));
+        ASSERT_TRUE(stopped.IsHeld());
+        Put(repository, "A", 3);
+        EXPECT_EQ(Save(repository), Receipt::Refused);
+        EXPECT_EQ(box.Said("another program has been saving the file for too long"), 1);
+    }
     EXPECT_EQ(Save(repository), Receipt::Durable);
 }
 
