@@ -10,6 +10,7 @@
 #include "Options/OptionsPageView.h"
 #include "Options/OptionsSubWindows.h"
 #include "Settings/KivSettingRepository.h"
+#include "Settings/KivSettingTurn.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -29,7 +30,8 @@ namespace {
 
 constexpr int kLettersWide = 148; // the pages in two columns
 constexpr int kLinesHigh = 34;
-constexpr int kLookAgain = 200; // milliseconds
+constexpr int kLookAgain = 200;                 // milliseconds
+constexpr std::chrono::milliseconds kFrame{15}; // nobody sees a window halt that long
 
 } // namespace
 
@@ -72,6 +74,8 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
     connect(events, &QAbstractEventDispatcher::awake, this, [this] { TidyUp(); });
     _awaited.setSingleShot(true);
     _awaited.setInterval(kLookAgain);
+    _turnAwaited.setInterval(kFrame);
+    connect(&_turnAwaited, &QTimer::timeout, this, [this] { LookForTurn(); });
 
     if (!ShowPage(KivUnicodeString(_memory.Page()))) _list->setCurrentRow(0);
     const QSize remembered = _memory.Size();
@@ -212,7 +216,20 @@ void OptionsWindow::TidyUp()
 
 void OptionsWindow::accept()
 {
+    _turnAwaited.stop();
+    std::unique_ptr<KivSettingTurn> turn = std::move(_turn); // given back on every way out but one
     if (!_session || !CommitFields()) return;
+    if (!turn) {
+        _messages->Clear();
+        if (!_session->CloseWindows()) return;
+        turn = std::make_unique<KivSettingTurn>();
+        if (!turn->HasCome(kFrame)) _messages->Add(WindowText("SaveAwaited"));
+    }
+    if (!turn->HasCome(kFrame)) {
+        _turn = std::move(turn);
+        _turnAwaited.start();
+        return;
+    }
     _messages->Clear();
     const QPointer<QWidget> self(this); // who is told of the commit may destroy it
     const std::vector<KivDiagnostic> errors = _session->Commit();
@@ -225,6 +242,11 @@ void OptionsWindow::accept()
     for (const KivDiagnostic& error : errors) _messages->Add(ToQt(error.Message()));
 }
 
+void OptionsWindow::LookForTurn()
+{
+    if (_turn && _turn->HasCome(kFrame)) accept();
+}
+
 void OptionsWindow::reject()
 {
     const QPointer<QWidget> self(this); // as above
@@ -235,6 +257,8 @@ void OptionsWindow::reject()
 void OptionsWindow::done(int result)
 {
     if (!_session) return;
+    _turnAwaited.stop();
+    _turn.reset();
     _memory.Remember(size(), _session->Pages().empty()
                                  ? KivString()
                                  : _session->Pages()[static_cast<std::size_t>(CurrentPage())].editor);

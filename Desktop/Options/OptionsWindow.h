@@ -14,6 +14,7 @@ class OptionsLayerStrip;
 class OptionsMessageStrip;
 class OptionsPageView;
 class OptionsSubWindows;
+class KivSettingTurn;
 class QListWidget;
 class QPushButton;
 class QStackedWidget;
@@ -39,7 +40,8 @@ public:
     // Shows what is in force after it was changed from elsewhere (see KivOptionsSession::Refill).
     void Refill();
 
-    // OK. The window stays open when a field holds a refused text or something could not be saved.
+    // OK. The window stays open when a field holds a refused text or something could not be saved, and as
+    // long as another program is saving: it says so, everything else goes on, and OK is done afterwards.
     void accept() override;
     void reject() override;
     void done(int result) override;
@@ -60,6 +62,7 @@ private:
     NativeField* Field() const;
     void Reset();
     void TidyUp();
+    void LookForTurn();
     QSize FreeSize() const;
 
     std::unique_ptr<KivOptionsSession> _session;
@@ -73,5 +76,7 @@ private:
     QPushButton* _reset = nullptr;
     KivDiagnosticScope _diagnostics;
     std::unique_ptr<OptionsSubWindows> _windows; // null after the end
+    std::unique_ptr<KivSettingTurn> _turn;       // while OK waits for it
+    QTimer _turnAwaited;
     QTimer _awaited; // runs while a directory that a page shows has still to answer
 };

@@ -5,6 +5,7 @@
 #include "Dialog/KivDlgDialog.h"
 #include "Dialog/KivDlgView.h"
 #include "Dialog/KivUserHand.h"
+#include "Settings/KivSettingTurn.h"
 
 #include <algorithm>
 #include <charconv>
@@ -98,8 +99,6 @@ const KivOptionsSession::Page* KivOptionsSession::FindPage(const KivUnicodeStrin
     return nullptr;
 }
 
-// What a page's window holds is stored when it is closed: it has to be there before the editors decide on it.
-// False when somebody who was told of it has destroyed this session.
 bool KivOptionsSession::CloseWindows()
 {
     const KivWeakPtr<KivDlgFrame> root(_root.get());
@@ -135,6 +134,7 @@ std::vector<KivDiagnostic> KivOptionsSession::Commit()
         errors.push_back(said);
         return true;
     });
+    const KivSettingTurn turn; // one for all editors: none of them waits again for whom the first has waited
     Tell(&KivIUserSettings::CommitModification);
     return errors;
 }

@@ -39,8 +39,12 @@ public:
     // The tree that holds all pages.
     KivDialog& Root() { return *_root; }
 
+    // Closes every window that a page has opened: what it holds is stored then, and has to be there before
+    // the editors decide on it. False when somebody who was told of it has destroyed this session.
+    bool CloseWindows();
     // OK: every window that a page has opened is closed, then every editor commits. The errors that were met
-    // on the way, empty when all is safe; after an error nothing is lost and the session goes on.
+    // on the way, empty when all is safe; after an error nothing is lost and the session goes on. Waits for
+    // another program that is saving, unless the caller has his KivSettingTurn.
     std::vector<KivDiagnostic> Commit();
     // Cancel: the same windows are closed, then every editor takes its changes back, and every page shows so.
     void Cancel();
@@ -58,7 +62,6 @@ public:
 private:
     using Operation = void (KivIUserSettings::*)(KivSettingRepository*);
     void Add(const KivUserSettingsManager::Editor& editor);
-    bool CloseWindows();
     bool Tell(Operation operation);
     void Fill(const Page& page);
 

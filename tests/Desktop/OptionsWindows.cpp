@@ -1,3 +1,4 @@
+#include "Disk/KivFileLock.h"
 #include "Options/OptionsMessageStrip.h"
 #include "OptionsFixture.h"
 
@@ -134,6 +135,43 @@ TEST_F(OptionsWindows, WhatIsWrongIsSaidOnceAndPassedOnAndTheWindowStays)
     window.reset();
     KivReport({.text = "later"});
     EXPECT_EQ(box.Said("later"), 1);
+}
+
+TEST_F(OptionsWindows, OKWaitsForAnotherProgramWhileTheWindowGoesOn)
+{
+    using Clock = std::chrono::steady_clock;
+    const auto press = [this] {
+        const auto start = Clock::now();
+        QTest::mouseClick(Button("OK"), Qt::LeftButton);
+        EXPECT_LT(Clock::now() - start, std::chrono::seconds(1)) << "a save by itself would wait for three";
+        EXPECT_TRUE(window->isVisible());
+        EXPECT_EQ(window->Messages().Messages().join(' ').toStdString(),
+                  "Another program is saving the settings. Yours are saved as soon as it is done.");
+    };
+    const auto open = [this] {
+        Open();
+        TestHand::ClickIndicator(WidgetOf("checkGrid"));
+    };
+    const KivUnicodeString place(file.string());
+    auto other = std::make_unique<KivFileLock>(place);
+    open();
+    press();
+    QTest::mouseClick(Button("Cancel"), Qt::LeftButton);
+    EXPECT_FALSE(window->isVisible());
+
+    open();
+    press();
+    const auto start = Clock::now();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window->Messages().Messages().size() > 1; }, 10000));
+    EXPECT_LT(Clock::now() - start, std::chrono::seconds(5)) << "the pages wait together";
+    EXPECT_TRUE(window->Messages().Messages().join(' ').contains("saving the file for too long"));
+    EXPECT_FALSE(std::filesystem::exists(file));
+
+    press();
+    other.reset();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }, 3000));
+    EXPECT_TRUE(std::filesystem::exists(file));
+    EXPECT_TRUE(KivFileLock(place).IsHeld()) << "given back";
 }
 
 TEST_F(OptionsWindows, ResetFillsTheShownPageAndF1ShowsTheLongHelp)
