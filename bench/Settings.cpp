@@ -5,9 +5,7 @@
 #include "Ratio.h"
 #include "Support/KivSettingsSandbox.h"
 
-#include <fcntl.h>
 #include <string_view>
-#include <unistd.h>
 #include <unordered_map>
 
 namespace {
@@ -73,17 +71,6 @@ KivRatio::Measured FromContainer(Make make, Where where, Take take)
     };
 }
 
-template <class T> void AddRead(const std::string& name, const KivDrwKey<T>& key)
-{
-    KivRatio::Add(name, 2.0, FromRepository<T>([&key](const KivSettingRepository& repository, T& value) {
-                      return repository.ReadSetting(key.name, &value, 1);
-                  }),
-                  FromContainer<T>(
-                      &BareTable, key.name, [](const Table& table, const char* wanted) -> const auto& {
-                          return table.find(std::string_view(wanted))->second;
-                      }));
-}
-
 // By the place that is known when the program is built, against one load from an array of values.
 template <class T> void AddReadByKey(const std::string& name, const KivDrwKey<T>& key)
 {
@@ -95,60 +82,6 @@ template <class T> void AddReadByKey(const std::string& name, const KivDrwKey<T>
                       [](const std::vector<KivSettingValue>& values, std::size_t place) -> const auto& {
                           return values[place];
                       }));
-}
-
-void Locker(benchmark::State& state)
-{
-    KivSettingsSandbox box;
-    FillFile(box);
-    const KivSettingRepository* repository = KivDrwRepository();
-    KivSettingProvenance place;
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(repository->GetProvenance(KivDrwKeys::RotSnapAngle.name, place));
-        benchmark::DoNotOptimize(place);
-    }
-}
-
-void BareLocker(benchmark::State& state)
-{
-    KivSettingsSandbox box;
-    FillFile(box);
-    const KivSettingRepository* repository = KivDrwRepository();
-    double value = 0.0;
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(repository->ReadSetting(KivDrwKeys::RotSnapAngle.name, &value, 1));
-        benchmark::DoNotOptimize(value);
-    }
-}
-
-void ReadAllKeys(const KivSettingRepository& repository, std::vector<KivSettingValue>& values)
-{
-    std::size_t i = 0;
-    for (const KivDrwRow& row : KivDrwCatalogue::Rows()) repository.ReadSetting(row.key, &values[i++], 1);
-}
-
-void Open(benchmark::State& state)
-{
-    KivSettingsSandbox box;
-    FillFile(box);
-    std::vector<KivSettingValue> values = BareValues();
-    for (auto _ : state) {
-        KivSettingRepository::ForgetAll();
-        ReadAllKeys(*KivDrwRepository(), values);
-    }
-}
-
-void BareOpen(benchmark::State& state)
-{
-    KivSettingsSandbox box;
-    FillFile(box);
-    const std::string file = box.File("user").string();
-    for (auto _ : state) {
-        std::ifstream stream(file, std::ios::binary);
-        std::vector<std::string> lines;
-        for (std::string line; std::getline(stream, line);) lines.push_back(line);
-        benchmark::DoNotOptimize(lines);
-    }
 }
 
 void WriteAll(benchmark::State& state)
@@ -166,40 +99,6 @@ void BareWriteAll(benchmark::State& state)
             const KivSettingValue value = table.find(std::string_view(row.key))->second;
             table.find(std::string_view(row.key))->second = value;
         }
-    }
-}
-
-void Save(benchmark::State& state)
-{
-    KivSettingsSandbox box;
-    FillFile(box);
-    KivSettingRepository* repository = KivDrwRepository();
-    int value = 0;
-    for (auto _ : state) {
-        value = 1 - value;
-        repository->WriteSetting(KivDrwKeys::Ruler.name, &value, 1, 0);
-        repository->SaveRepository(nullptr);
-        if (repository->LastReceipt() != KivSettingRepository::Receipt::Durable)
-            state.SkipWithError("not saved");
-    }
-}
-
-void BareSave(benchmark::State& state)
-{
-    KivSettingsSandbox box;
-    FillFile(box);
-    const std::string bytes = box.Bytes(box.File("user"));
-    const std::string directory = (box.root / "user").string(), file = directory + "/bare",
-                      temporary = file + ".tmp";
-    for (auto _ : state) {
-        const int handle = open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-        const bool written = write(handle, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size());
-        if (!written || fsync(handle) != 0) state.SkipWithError("not written");
-        close(handle);
-        rename(temporary.c_str(), file.c_str());
-        const int parent = open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-        fsync(parent);
-        close(parent);
     }
 }
 
@@ -258,16 +157,10 @@ void BareBuildPages(benchmark::State& state)
 
 int main(int argc, char** argv)
 {
-    AddRead("read one int", KivDrwKeys::Drw_settings_GridSecondaryStep);
-    AddRead("read one double", KivDrwKeys::Drw_settings_GridPrimarySpacing);
-    AddRead("read one string", KivDrwKeys::DrwGVSXmlTrel);
     AddReadByKey("read one int by its place / array load", KivDrwKeys::Drw_settings_GridSecondaryStep);
     AddReadByKey("read one double by its place / array load", KivDrwKeys::Drw_settings_GridPrimarySpacing);
     AddReadByKey("read one string by its place / array load", KivDrwKeys::DrwGVSXmlTrel);
-    KivRatio::Add("origin and lock of one key / read it", 1.5, &Locker, &BareLocker);
-    KivRatio::Add("open 218 keys and read all / bytes into lines", 3.0, &Open, &BareOpen);
     KivRatio::Add("ResetAndWriteSettings(1) / 218 hash look-ups twice", 10.0, &WriteAll, &BareWriteAll);
-    KivRatio::Add("save after one change / write, flush, rename, flush", 1.15, &Save, &BareSave);
     KivRatio::Add("open all pages in the tree / as many nodes", 30.0, &BuildPages, &BareBuildPages);
     return KivRatio::Run(argc, argv);
 }
