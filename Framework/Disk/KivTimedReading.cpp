@@ -1,5 +1,6 @@
 #include "Disk/KivTimedReading.h"
 
+#include "Disk/KivNearPath.h"
 #include "Disk/KivTimedCall.h"
 
 #include <map>
@@ -24,14 +25,14 @@ KivFileContent Late()
     return content;
 }
 
-// None when an earlier reader of the path has still not come back.
-std::optional<Reading> StartUnlessStuck(const KivUnicodeString& path,
-                                        const std::function<KivFileContent(const KivUnicodeString&)>& read)
+// Whether an earlier reader of the path has still not come back.
+bool IsStuck(const KivUnicodeString& path)
 {
-    if (const auto stuck = Stuck().find(path); stuck != Stuck().end() && !stuck->second.IsDone())
-        return std::nullopt;
-    Stuck().erase(path);
-    return Reading([path, read] { return read(path); });
+    const auto stuck = Stuck().find(path);
+    if (stuck == Stuck().end()) return false;
+    if (!stuck->second.IsDone()) return true;
+    Stuck().erase(stuck);
+    return false;
 }
 
 } // namespace
@@ -43,18 +44,24 @@ std::vector<KivFileContent> KivReadInTime(const std::vector<KivUnicodeString>& p
     const auto until = std::chrono::steady_clock::now() + limit;
     std::vector<std::optional<Reading>> readings;
     readings.reserve(paths.size());
-    for (const KivUnicodeString& path : paths) readings.push_back(StartUnlessStuck(path, read));
+    for (const KivUnicodeString& path : paths) {
+        readings.emplace_back();
+        if (!IsStuck(path) && !KivIsNearPath(path))
+            readings.back().emplace([path, read] { return read(path); });
+    }
 
     std::vector<KivFileContent> contents;
+    contents.reserve(paths.size());
     for (std::size_t i = 0; i < paths.size(); ++i) {
-        KivFileContent content = Late();
-        if (auto& reading = readings[i]) {
-            if (reading->WaitUntil(until))
-                content = reading->Take();
-            else
-                Stuck().insert_or_assign(paths[i], *reading);
+        auto& reading = readings[i];
+        if (!reading && !Stuck().contains(paths[i])) {
+            contents.push_back(read(paths[i])); // nothing to wait for, and a thread would cost more
+        } else if (reading && reading->WaitUntil(until)) {
+            contents.push_back(reading->Take());
+        } else {
+            contents.push_back(Late());
+            if (reading) Stuck().insert_or_assign(paths[i], *reading);
         }
-        contents.push_back(std::move(content));
     }
     return contents;
 }

@@ -19,8 +19,8 @@ public:
     // Keeps what an attribute says, unless there is a record of it already.
     void Add(std::size_t index, const KivSettingEntry& before)
     {
+        if (index < _isIn.size() && _isIn[index]) return;
         if (index >= _isIn.size()) _isIn.resize(index + 1);
-        if (_isIn[index]) return;
         _records.push_back({index, before});
         _isIn[index] = true;
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Base/KivTextHash.h"
+
 #include <bitset>
 #include <functional>
 #include <string>
@@ -28,7 +30,7 @@ public:
 private:
     struct Hash {
         using is_transparent = void;
-        std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
+        std::size_t operator()(std::string_view text) const { return KivTextHash(text); }
     };
     static constexpr std::size_t kLongest = 255; // of a key
 

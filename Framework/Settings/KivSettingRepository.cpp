@@ -48,13 +48,13 @@ struct KivSettingRepository::Opened {
     Receipt receipt = Receipt::Nothing;
 };
 
-KivSettingRepository::Opened& KivSettingRepository::Open() const
+inline KivSettingRepository::Opened& KivSettingRepository::Open() const
 {
-    if (!_opened) _opened.reset(new Opened{.store = {_name.View(), _editedLayer}});
+    if (!_opened) [[unlikely]] _opened.reset(new Opened{.store = {_name.View(), _editedLayer}});
     return *_opened;
 }
 
-KivSettingStore& KivSettingRepository::Store() const
+inline KivSettingStore& KivSettingRepository::Store() const
 {
     return Open().store;
 }
@@ -222,7 +222,7 @@ HRESULT KivSettingRepository::GetProvenance(const char* key, KivSettingProvenanc
     provenance = {};
     const KivSettingAttribute* attribute = Store().FindOrLocked(key);
     if (!attribute) return E_FAIL;
-    provenance = Store().Sources().Provenance(*attribute);
+    Store().Sources().Fill(provenance, *attribute);
     const bool isKnown = provenance.origin != KivSettingInfo::Origin::None || provenance.lockLayer;
     return isKnown ? S_OK : E_FAIL;
 }

@@ -56,18 +56,18 @@ void KivSettingSources::FillLock(const KivSettingAttribute& attribute, KivSettin
     }
 }
 
-KivSettingProvenance KivSettingSources::Provenance(const KivSettingAttribute& attribute) const
+void KivSettingSources::Fill(KivSettingProvenance& provenance, const KivSettingAttribute& attribute) const
 {
-    KivSettingProvenance provenance;
     FillValue(attribute, provenance);
     FillLock(attribute, provenance);
     provenance.canLock = _isAdministrator && !provenance.locked && !attribute.isUnderOwnPrefix;
-    return provenance;
 }
 
 void KivSettingSources::Describe(const KivSettingAttribute& attribute, KivSettingInfo& info) const
 {
-    Provenance(attribute).Fill(info);
+    KivSettingProvenance provenance;
+    Fill(provenance, attribute);
+    provenance.Fill(info);
     info.value = KivShownSettingText(attribute.Shown());
     if (KivHasValue(attribute.Shown())) info.type = KivSettingTypeName(attribute.Shown());
 }

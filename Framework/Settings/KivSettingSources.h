@@ -21,8 +21,8 @@ public:
     // Their files, whether they are there or not, outermost first; the own one last.
     std::vector<KivUnicodeString> Files() const;
 
-    // Where the value and the lock of an attribute of the repository stand.
-    KivSettingProvenance Provenance(const KivSettingAttribute& attribute) const;
+    // Where the value and the lock of an attribute of the repository stand; fills an empty one.
+    void Fill(KivSettingProvenance& provenance, const KivSettingAttribute& attribute) const;
 
     // The same in a record of its own, with the value; the record's names stay as they are.
     void Describe(const KivSettingAttribute& attribute, KivSettingInfo& info) const;

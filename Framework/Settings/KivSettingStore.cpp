@@ -198,30 +198,43 @@ void KivSettingStore::TakeOwnFile()
     ResolveAll();
 }
 
-void KivSettingStore::Change(std::size_t index, const KivSettingEntry& entry)
+// Before what an attribute says in the written layer changes.
+KivSettingEntry& KivSettingStore::Touch(std::size_t index)
 {
-    KivSettingAttribute& attribute = _table[index];
-    if (attribute.own.Equals(entry)) return;
-    _unsaved.Add(index, attribute.own);
-    _uncommitted.Add(index, attribute.own);
-    attribute.own = entry;
+    _unsaved.Add(index, _table[index].own);
+    _uncommitted.Add(index, _table[index].own);
+    return _table[index].own;
+}
+
+// And after it.
+void KivSettingStore::Resolve(KivSettingAttribute& attribute)
+{
     attribute.Resolve();
     UpdateBinding(attribute);
-    if (attribute.key.back() == '*') CollectOwnPrefixLocks();
+}
+
+void KivSettingStore::SetOwn(std::size_t index, KivSettingValue value, bool isInitial)
+{
+    KivSettingAttribute& attribute = _table[index];
+    if (attribute.own.initial == isInitial && KivSameValue(attribute.own.value, value)) return;
+    KivSettingEntry& own = Touch(index);
+    own.value = std::move(value);
+    own.initial = isInitial;
+    own.line = 0;
+    Resolve(attribute);
 }
 
 bool KivSettingStore::Write(std::string_view key, KivSettingValue value)
 {
-    if (!KivIsSettingKey(key) || !KivIsSound(value)) return false;
-    const std::size_t index = FindOrAdd(key, KivSettingTable::Hash(key));
+    const std::size_t hash = KivSettingTable::Hash(key);
+    std::size_t index = _table.IndexOf(key, hash);
+    const bool isKey = index == KivSettingTable::None ? KivIsSettingKey(key) : key.back() != '*';
+    if (!isKey || !KivIsSound(value)) return false;
+    if (index == KivSettingTable::None) index = FindOrAdd(key, hash);
     const KivSettingAttribute& attribute = _table[index];
     if (attribute.lockLayer >= 0) return false;
-    KivSettingEntry entry = attribute.own;
-    const bool isUsers = KivHasValue(entry.value) && !entry.initial;
-    entry.value = std::move(value);
-    entry.initial = _isInitial && !isUsers && !_isAdministrator;
-    entry.line = 0;
-    Change(index, entry);
+    const bool isUsers = KivHasValue(attribute.own.value) && !attribute.own.initial;
+    SetOwn(index, std::move(value), _isInitial && !isUsers && !_isAdministrator);
     return true;
 }
 
@@ -232,22 +245,18 @@ bool KivSettingStore::SetLock(std::string_view key, bool locked)
     const std::size_t index = FindOrAdd(key, KivSettingTable::Hash(key));
     if (_table[index].lockLayer >= 0) return false;
     if (!locked && !isPattern && _table[index].isUnderOwnPrefix) return false; // it would stay locked
-    KivSettingEntry entry = _table[index].own;
-    entry.lock = locked;
-    entry.lockLine = 0;
-    Change(index, entry);
+    if (_table[index].own.lock == locked) return true;
+    KivSettingEntry& own = Touch(index);
+    own.lock = locked;
+    own.lockLine = 0;
+    if (isPattern) CollectOwnPrefixLocks();
     return true;
 }
 
 void KivSettingStore::DropOwn(std::string_view key)
 {
-    const std::size_t index = _table.IndexOf(key);
-    if (index == KivSettingTable::None) return;
-    KivSettingEntry entry = _table[index].own;
-    entry.value = {};
-    entry.initial = false;
-    entry.line = 0;
-    Change(index, entry);
+    if (const std::size_t index = _table.IndexOf(key); index != KivSettingTable::None)
+        SetOwn(index, {}, false);
 }
 
 bool KivSettingStore::Concerns(std::size_t index, Only only) const
@@ -286,8 +295,7 @@ KivSettingStore::Keys KivSettingStore::Rollback(Only only)
     for (const auto& [index, before] : _uncommitted) {
         if (!Concerns(index, only)) continue;
         _table[index].own = before;
-        _table[index].Resolve();
-        UpdateBinding(_table[index]);
+        Resolve(_table[index]);
     }
     Drop(_uncommitted, only);
     CollectOwnPrefixLocks();

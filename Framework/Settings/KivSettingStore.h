@@ -86,7 +86,9 @@ private:
     void TakeOwnFile();
     std::vector<KivSettingChange> Unsaved(Only only) const;
     bool Concerns(std::size_t index, Only only) const;
-    void Change(std::size_t index, const KivSettingEntry& entry);
+    KivSettingEntry& Touch(std::size_t index);
+    void Resolve(KivSettingAttribute& attribute);
+    void SetOwn(std::size_t index, KivSettingValue value, bool isInitial);
     bool IsDirty(const KivSettingJournal::Record& saved) const
     {
         return !_table[saved.index].own.Equals(saved.before);

@@ -2,46 +2,13 @@
 
 #include <algorithm>
 
-KivSettingInfo::Origin KivSettingAttribute::OriginWith(const KivSettingEntry& entry) const
-{
-    using Origin = KivSettingInfo::Origin;
-    const bool isGiven = KivHasValue(given);
-    if (lockLayer >= 0) return isGiven ? Origin::Administrator : Origin::None;
-    if (KivHasValue(entry.value) && !(entry.initial && isGiven)) return Origin::User;
-    return isGiven ? Origin::Administrator : Origin::None;
-}
-
-const KivSettingValue& KivSettingAttribute::ShownWith(const KivSettingEntry& entry) const
-{
-    return OriginWith(entry) == KivSettingInfo::Origin::User ? entry.value : given;
-}
-
-std::size_t KivSettingTable::IndexOf(std::string_view key) const
-{
-    const std::size_t hash = Hash(key);
-    const std::size_t mask = _slots.size() - 1;
-    for (std::size_t at = hash & mask;; at = (at + 1) & mask) {
-        const Slot slot = _slots[at];
-        if (slot.next == 0) return None;
-        if (slot.hash == static_cast<std::uint32_t>(hash) && _attributes[slot.next - 1].key == key) {
-            return slot.next - 1;
-        }
-    }
-}
-
 std::size_t KivSettingTable::FindOrAdd(std::string_view key, std::size_t hash)
 {
     if (2 * (_attributes.size() + 1) > _slots.size()) Grow(2 * _slots.size());
-    const std::size_t mask = _slots.size() - 1;
-    std::size_t at = hash & mask;
-    for (; _slots[at].next != 0; at = (at + 1) & mask) {
-        const Slot slot = _slots[at];
-        if (slot.hash == static_cast<std::uint32_t>(hash) && _attributes[slot.next - 1].key == key) {
-            return slot.next - 1;
-        }
-    }
+    Slot& slot = _slots[SlotOf(key, hash)];
+    if (slot.next != 0) return slot.next - 1;
     _attributes.emplace_back().key = Keep(key);
-    _slots[at] = {static_cast<std::uint32_t>(hash), static_cast<std::uint32_t>(_attributes.size())};
+    slot = {static_cast<std::uint32_t>(hash >> 32), static_cast<std::uint32_t>(_attributes.size())};
     return _attributes.size() - 1;
 }
 
@@ -63,7 +30,7 @@ void KivSettingTable::Grow(std::size_t slots)
         const std::size_t hash = Hash(_attributes[index].key);
         std::size_t at = hash & mask;
         while (larger[at].next != 0) at = (at + 1) & mask;
-        larger[at] = {static_cast<std::uint32_t>(hash), static_cast<std::uint32_t>(index + 1)};
+        larger[at] = {static_cast<std::uint32_t>(hash >> 32), static_cast<std::uint32_t>(index + 1)};
     }
     _slots.swap(larger);
 }

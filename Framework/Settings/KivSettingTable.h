@@ -1,11 +1,11 @@
 #pragma once
 
+#include "Base/KivTextHash.h"
 #include "Settings/KivSettingEntry.h"
 #include "Settings/KivSettingInfo.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -39,8 +39,17 @@ struct KivSettingAttribute {
     }
 
     // Who decides with this entry in the written layer.
-    KivSettingInfo::Origin OriginWith(const KivSettingEntry& entry) const;
-    const KivSettingValue& ShownWith(const KivSettingEntry& entry) const;
+    KivSettingInfo::Origin OriginWith(const KivSettingEntry& entry) const
+    {
+        using Origin = KivSettingInfo::Origin;
+        const bool isGiven = KivHasValue(given);
+        if (lockLayer < 0 && KivHasValue(entry.value) && !(entry.initial && isGiven)) return Origin::User;
+        return isGiven ? Origin::Administrator : Origin::None;
+    }
+    const KivSettingValue& ShownWith(const KivSettingEntry& entry) const
+    {
+        return OriginWith(entry) == KivSettingInfo::Origin::User ? entry.value : given;
+    }
 
     void Resolve() { origin = OriginWith(own); }
     const KivSettingValue& Shown() const
@@ -57,9 +66,14 @@ public:
 
     KivSettingTable() : _slots(64) {}
 
-    static std::size_t Hash(std::string_view key) { return std::hash<std::string_view>()(key); }
+    static std::size_t Hash(std::string_view key) { return KivTextHash(key); }
 
-    std::size_t IndexOf(std::string_view key) const;
+    std::size_t IndexOf(std::string_view key) const { return IndexOf(key, Hash(key)); }
+    std::size_t IndexOf(std::string_view key, std::size_t hash) const
+    {
+        const std::uint32_t next = _slots[SlotOf(key, hash)].next;
+        return next == 0 ? None : next - 1;
+    }
     const KivSettingAttribute* Find(std::string_view key) const
     {
         const std::size_t index = IndexOf(key);
@@ -83,9 +97,20 @@ public:
 
 private:
     struct Slot {
-        std::uint32_t hash = 0;
+        std::uint32_t hash = 0; // its upper half
         std::uint32_t next = 0; // the attribute's index + 1; 0: free
     };
+    // The slot of the key, or the free one where it would come.
+    std::size_t SlotOf(std::string_view key, std::size_t hash) const
+    {
+        const std::size_t mask = _slots.size() - 1;
+        std::size_t at = hash & mask;
+        for (; _slots[at].next != 0; at = (at + 1) & mask) {
+            const bool isAlike = _slots[at].hash == static_cast<std::uint32_t>(hash >> 32);
+            if (isAlike && KivSameText(_attributes[_slots[at].next - 1].key, key)) break;
+        }
+        return at;
+    }
     void Grow(std::size_t slots);
     std::string_view Keep(std::string_view key);
 
