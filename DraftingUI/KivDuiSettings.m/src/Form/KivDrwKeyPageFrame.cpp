@@ -2,5 +2,5 @@
 
 void KivDrwKeyPageFrame::InitDraftingValues()
 {
-    for (KivBoundValue* value : _values) value->LoadDefault();
+    for (KivProperty* property : _properties) property->LoadDefault();
 }

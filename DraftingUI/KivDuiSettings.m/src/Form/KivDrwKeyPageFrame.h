@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Form/KivDrwKeyValue.h"
+#include "Form/KivDrwKeyProperty.h"
 #include "Form/KivPageFrame.h"
 #include "KivDrwRepository.h"
 
@@ -10,7 +10,7 @@ public:
     static constexpr const char* Name = "KivDrwKeyPageFrame";
     using KivClass::KivClass;
 
-    // Sets every cached value to its default, which Initialize does for those that are not stored.
+    // Sets every property to its default, which Initialize does for those that are not stored.
     void InitDraftingValues();
 
 protected:

@@ -24,12 +24,12 @@ KivFormGroup KivFormGroup::Part(const KivString& name, short columns)
     return {_form, *part};
 }
 
-KivDrwLockFrame* KivFormGroup::Radios(const KivString& name, KivCachedValue<int>& value,
+KivDrwLockFrame* KivFormGroup::Radios(const KivString& name, KivPropertyOf<int>& property,
                                       const KivSettingKind& kind, KivFormLine::Rule rule)
 {
     const short line = _lines++;
-    if (_form.LeavesOut(value)) return nullptr;
-    auto* frame = new KivDrwLockFrame(&_frame, name, value.Info(), KivDlgGridLayout);
+    if (_form.LeavesOut(property)) return nullptr;
+    auto* frame = new KivDrwLockFrame(&_frame, name, property.Info(), KivDlgGridLayout);
     frame->SetGridConstraints(line, 0, 1, 1, KivDlgAttachAllSides);
     std::vector<KivRadioRow::Button> buttons;
     short row = 0;
@@ -40,6 +40,6 @@ KivDrwLockFrame* KivFormGroup::Radios(const KivString& name, KivCachedValue<int>
         buttons.push_back({button, choice.value});
     }
     _form.Add(
-        std::make_unique<KivRadioRow>(frame, value, std::move(buttons), kind.otherwise, std::move(rule)));
+        std::make_unique<KivRadioRow>(frame, property, std::move(buttons), kind.otherwise, std::move(rule)));
     return frame;
 }

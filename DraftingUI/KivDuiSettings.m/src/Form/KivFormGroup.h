@@ -20,7 +20,7 @@ public:
 
     // Radio buttons under one padlock, one for each choice, in the place of the next line. The answered frame
     // belongs to the dialog tree.
-    KivDrwLockFrame* Radios(const KivString& name, KivCachedValue<int>& value, const KivSettingKind& kind,
+    KivDrwLockFrame* Radios(const KivString& name, KivPropertyOf<int>& property, const KivSettingKind& kind,
                             KivFormLine::Rule rule = {});
 
     KivDlgFrame& Frame() const { return _frame; }

@@ -37,9 +37,9 @@ void KivFormLine::Place(KivDialog& control)
     _attachment = KivDlgAttachAllSides;
 }
 
-bool KivFormLine::LeavesOut(const KivBoundValue& value)
+bool KivFormLine::LeavesOut(const KivProperty& property)
 {
-    if (!_form.LeavesOut(value)) return false;
+    if (!_form.LeavesOut(property)) return false;
     At(static_cast<short>(_column + _columns)).Attached(KivDlgAttachAllSides);
     return true;
 }
@@ -92,32 +92,32 @@ KivDlgPushButton* KivFormLine::Push(const KivString& name)
     return button;
 }
 
-KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivCachedValue<unsigned char>& value,
+KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivPropertyOf<unsigned char>& property,
                                           Rule rule)
 {
-    return CheckOf(name, value, false, std::move(rule));
+    return CheckOf(name, property, false, std::move(rule));
 }
 
-KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivCachedValue<int>& value, Rule rule)
+KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivPropertyOf<int>& property, Rule rule)
 {
-    return CheckOf(name, value, false, std::move(rule));
+    return CheckOf(name, property, false, std::move(rule));
 }
 
-KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivCachedValue<int>& value,
+KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivPropertyOf<int>& property,
                                           const KivSettingKind& kind)
 {
-    return CheckOf(name, value, kind.isOnFor1Alone, {});
+    return CheckOf(name, property, kind.isOnFor1Alone, {});
 }
 
 template <class T> KivDrwLockCheckButton*
-KivFormLine::CheckOf(const KivString& name, KivCachedValue<T>& value, bool isOnFor1Alone, Rule rule)
+KivFormLine::CheckOf(const KivString& name, KivPropertyOf<T>& property, bool isOnFor1Alone, Rule rule)
 {
-    if (LeavesOut(value)) return nullptr;
-    auto* button = new KivDrwLockCheckButton(&_frame, name, value.Info(), 0UL);
+    if (LeavesOut(property)) return nullptr;
+    auto* button = new KivDrwLockCheckButton(&_frame, name, property.Info(), 0UL);
     Place(*button);
     Name(button->GetDialog());
     _form.Connect(button->GetDialog(), button->GetChkBModifyNotification());
-    _form.Add(std::make_unique<KivCheckRow<T>>(button, value, isOnFor1Alone, std::move(rule)));
+    _form.Add(std::make_unique<KivCheckRow<T>>(button, property, isOnFor1Alone, std::move(rule)));
     return button;
 }
 
@@ -156,31 +156,31 @@ void KivFormLine::SayRange(KivDrwLockSpinner& spinner, const KivSettingKind& kin
     if (_label) _label->SetLongHelp(KivTextCatalogue::Fill(_label->GetLongHelp(), {least, greatest}));
 }
 
-KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivCachedValue<double>& value,
+KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivPropertyOf<double>& property,
                                         const KivSettingKind& kind, Rule rule, const KivSpinnerLook& look)
 {
-    if (LeavesOut(value)) return nullptr;
-    KivDrwLockSpinner* spinner = BareSpinner(name, value.Info(), kind, look);
-    _form.Add(std::make_unique<KivMeasureRow>(spinner, value, kind, std::move(rule)));
+    if (LeavesOut(property)) return nullptr;
+    KivDrwLockSpinner* spinner = BareSpinner(name, property.Info(), kind, look);
+    _form.Add(std::make_unique<KivMeasureRow>(spinner, property, kind, std::move(rule)));
     return spinner;
 }
 
-KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivCachedValue<int>& value,
+KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivPropertyOf<int>& property,
                                         const KivSettingKind& kind, Rule rule, const KivSpinnerLook& look)
 {
-    if (LeavesOut(value)) return nullptr;
-    KivDrwLockSpinner* spinner = BareSpinner(name, value.Info(), kind, look);
-    _form.Add(std::make_unique<KivWholeRow>(spinner, value, std::move(rule)));
+    if (LeavesOut(property)) return nullptr;
+    KivDrwLockSpinner* spinner = BareSpinner(name, property.Info(), kind, look);
+    _form.Add(std::make_unique<KivWholeRow>(spinner, property, std::move(rule)));
     return spinner;
 }
 
-KivDrwLockComboColor* KivFormLine::Color(const KivString& name, KivCachedValue<KivPageColor>& value,
+KivDrwLockComboColor* KivFormLine::Color(const KivString& name, KivPropertyOf<KivPageColor>& property,
                                          Rule rule)
 {
-    if (LeavesOut(value)) return nullptr;
-    auto* combo = new KivDrwLockComboColor(&_frame, name, value.Info());
+    if (LeavesOut(property)) return nullptr;
+    auto* combo = new KivDrwLockComboColor(&_frame, name, property.Info());
     PlaceNamed(*combo, combo->GetCombo());
-    _form.Add(std::make_unique<KivColorRow>(combo, value, std::move(rule)));
+    _form.Add(std::make_unique<KivColorRow>(combo, property, std::move(rule)));
     return combo;
 }
 
@@ -199,25 +199,25 @@ KivDrwLockCombo* KivFormLine::BareCombo(const KivString& name, const KivSettingI
     return combo;
 }
 
-KivDrwLockCombo* KivFormLine::Choice(const KivString& name, KivCachedValue<int>& value,
+KivDrwLockCombo* KivFormLine::Choice(const KivString& name, KivPropertyOf<int>& property,
                                      const KivSettingKind& kind, unsigned long style, Rule rule)
 {
-    if (LeavesOut(value)) return nullptr;
-    KivDrwLockCombo* combo = BareCombo(name, value.Info(), style);
-    _form.Add(std::make_unique<KivChoiceRow>(combo, value, kind, std::move(rule)));
+    if (LeavesOut(property)) return nullptr;
+    KivDrwLockCombo* combo = BareCombo(name, property.Info(), style);
+    _form.Add(std::make_unique<KivChoiceRow>(combo, property, kind, std::move(rule)));
     return combo;
 }
 
-KivDrwLockCombo* KivFormLine::Names(const KivString& name, KivCachedValue<KivUnicodeString>& value,
+KivDrwLockCombo* KivFormLine::Names(const KivString& name, KivPropertyOf<KivUnicodeString>& property,
                                     KivFormNames names, Rule rule)
 {
-    if (LeavesOut(value)) return nullptr;
-    KivDrwLockCombo* combo = BareCombo(name, value.Info(), 0UL);
-    _form.Add(std::make_unique<KivNameRow>(combo, value, names, std::move(rule)));
+    if (LeavesOut(property)) return nullptr;
+    KivDrwLockCombo* combo = BareCombo(name, property.Info(), 0UL);
+    _form.Add(std::make_unique<KivNameRow>(combo, property, names, std::move(rule)));
     return combo;
 }
 
-KivDrwLockComboDashed* KivFormLine::LineType(const KivString& name, KivCachedValue<unsigned int>& value,
+KivDrwLockComboDashed* KivFormLine::LineType(const KivString& name, KivPropertyOf<unsigned int>& property,
                                              KivSettingRepository* repository, const KivString& key)
 {
     constexpr char kWithBreakLine = 1;
@@ -225,11 +225,11 @@ KivDrwLockComboDashed* KivFormLine::LineType(const KivString& name, KivCachedVal
     PlaceNamed(*combo, combo->GetCombo());
     combo->SetVisibleTextWidth(kLineWidth);
     combo->SetVisibleTextHeight(kLinesHigh);
-    _form.Add(std::make_unique<KivLineTypeRow>(combo, value, Rule()));
+    _form.Add(std::make_unique<KivLineTypeRow>(combo, property, Rule()));
     return combo;
 }
 
-KivDrwLockComboWeight* KivFormLine::LineWeight(const KivString& name, KivCachedValue<unsigned int>& value,
+KivDrwLockComboWeight* KivFormLine::LineWeight(const KivString& name, KivPropertyOf<unsigned int>& property,
                                                KivSettingRepository* repository, const KivString& key)
 {
     auto* combo = new KivDrwLockComboWeight(repository, key, &_frame, name, 0UL, 0U);
@@ -238,21 +238,21 @@ KivDrwLockComboWeight* KivFormLine::LineWeight(const KivString& name, KivCachedV
         inner->SetVisibleTextHeight(kLinesHigh);
         inner->SetVisibleTextWidth(kLineWidth);
     }
-    _form.Add(std::make_unique<KivLineWeightRow>(combo, value, Rule()));
+    _form.Add(std::make_unique<KivLineWeightRow>(combo, property, Rule()));
     return combo;
 }
 
-KivDrwLockEditor* KivFormLine::Text(const KivString& name, KivCachedValue<KivUnicodeString>& value, int width,
-                                    Rule rule)
+KivDrwLockEditor* KivFormLine::Text(const KivString& name, KivPropertyOf<KivUnicodeString>& property,
+                                    int width, Rule rule)
 {
-    if (LeavesOut(value)) return nullptr;
-    auto* editor = new KivDrwLockEditor(&_frame, name, value.Info(), 0UL);
+    if (LeavesOut(property)) return nullptr;
+    auto* editor = new KivDrwLockEditor(&_frame, name, property.Info(), 0UL);
     Place(*editor);
     Name(editor->GetDialog());
     if (KivDlgEditor* field = editor->GetEditor()) {
         field->SetVisibleTextWidth(width);
         _form.Connect(field, field->GetEditModifyNotification());
     }
-    _form.Add(std::make_unique<KivTextRow>(editor, value, std::move(rule)));
+    _form.Add(std::make_unique<KivTextRow>(editor, property, std::move(rule)));
     return editor;
 }

@@ -2,8 +2,9 @@
 
 #include "Dialog/KivDlgFrame.h"
 #include "Dialog/KivDlgPushButton.h"
+#include "Form/KivPageColor.h"
 #include "Form/KivPageRows.h"
-#include "Form/KivPageValue.h"
+#include "Form/KivProperty.h"
 #include "KivSettingKind.h"
 #include "Lock/KivDrwLockCheckButton.h"
 #include "Lock/KivDrwLockCombo.h"
@@ -37,24 +38,25 @@ public:
     KivFormLine& At(short column, short columns = 1);
     KivFormLine& Attached(unsigned int attachment);
 
-    KivDrwLockCheckButton* Check(const KivString& name, KivCachedValue<unsigned char>& value, Rule rule = {});
-    KivDrwLockCheckButton* Check(const KivString& name, KivCachedValue<int>& value, Rule rule = {});
-    KivDrwLockCheckButton* Check(const KivString& name, KivCachedValue<int>& value,
+    KivDrwLockCheckButton* Check(const KivString& name, KivPropertyOf<unsigned char>& property,
+                                 Rule rule = {});
+    KivDrwLockCheckButton* Check(const KivString& name, KivPropertyOf<int>& property, Rule rule = {});
+    KivDrwLockCheckButton* Check(const KivString& name, KivPropertyOf<int>& property,
                                  const KivSettingKind& kind); // of a switch that is on for 1 alone
     // A measure, or a whole number: what is typed for that is cut.
-    KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<double>& value,
+    KivDrwLockSpinner* Spinner(const KivString& name, KivPropertyOf<double>& property,
                                const KivSettingKind& kind, Rule rule = {}, const KivSpinnerLook& look = {});
-    KivDrwLockSpinner* Spinner(const KivString& name, KivCachedValue<int>& value, const KivSettingKind& kind,
-                               Rule rule = {}, const KivSpinnerLook& look = {});
-    KivDrwLockComboColor* Color(const KivString& name, KivCachedValue<KivPageColor>& value, Rule rule = {});
-    KivDrwLockCombo* Choice(const KivString& name, KivCachedValue<int>& value, const KivSettingKind& kind,
+    KivDrwLockSpinner* Spinner(const KivString& name, KivPropertyOf<int>& property,
+                               const KivSettingKind& kind, Rule rule = {}, const KivSpinnerLook& look = {});
+    KivDrwLockComboColor* Color(const KivString& name, KivPropertyOf<KivPageColor>& property, Rule rule = {});
+    KivDrwLockCombo* Choice(const KivString& name, KivPropertyOf<int>& property, const KivSettingKind& kind,
                             unsigned long style, Rule rule = {});
-    KivDrwLockCombo* Names(const KivString& name, KivCachedValue<KivUnicodeString>& value, KivFormNames names,
-                           Rule rule = {});
+    KivDrwLockCombo* Names(const KivString& name, KivPropertyOf<KivUnicodeString>& property,
+                           KivFormNames names, Rule rule = {});
     // A line type and a line weight; the lock record is that of the key.
-    KivDrwLockComboDashed* LineType(const KivString& name, KivCachedValue<unsigned int>& value,
+    KivDrwLockComboDashed* LineType(const KivString& name, KivPropertyOf<unsigned int>& property,
                                     KivSettingRepository* repository, const KivString& key);
-    KivDrwLockComboWeight* LineWeight(const KivString& name, KivCachedValue<unsigned int>& value,
+    KivDrwLockComboWeight* LineWeight(const KivString& name, KivPropertyOf<unsigned int>& property,
                                       KivSettingRepository* repository, const KivString& key);
     // A button that opens something: the owner connects it.
     KivDlgPushButton* Push(const KivString& name);
@@ -70,16 +72,16 @@ public:
     KivUnicodeString LabelHelp() const;
 
     // A field for a text, so many characters wide.
-    KivDrwLockEditor* Text(const KivString& name, KivCachedValue<KivUnicodeString>& value, int width,
+    KivDrwLockEditor* Text(const KivString& name, KivPropertyOf<KivUnicodeString>& property, int width,
                            Rule rule = {});
 
 private:
     KivDrwLockSpinner* BareSpinner(const KivString& name, const KivSettingInfo& info,
                                    const KivSettingKind& kind, const KivSpinnerLook& look);
     KivDrwLockCombo* BareCombo(const KivString& name, const KivSettingInfo& info, unsigned long style);
-    template <class T> KivDrwLockCheckButton* CheckOf(const KivString& name, KivCachedValue<T>& value,
+    template <class T> KivDrwLockCheckButton* CheckOf(const KivString& name, KivPropertyOf<T>& property,
                                                       bool isOnFor1Alone, Rule rule);
-    bool LeavesOut(const KivBoundValue& value);
+    bool LeavesOut(const KivProperty& property);
     void SayRange(KivDrwLockSpinner& spinner, const KivSettingKind& kind);
     void Place(KivDialog& control);
     void PlaceNamed(KivDrwLockDialog& wrapper, KivDlgCombo* combo);

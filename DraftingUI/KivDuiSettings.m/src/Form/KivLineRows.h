@@ -7,8 +7,8 @@
 // A line type or a line weight, by its number. A stored number that no line has shows none as chosen.
 template <class LockCombo> class KivLineRow final : public KivValueRow<LockCombo, unsigned int> {
 public:
-    KivLineRow(LockCombo* combo, KivCachedValue<unsigned int>& value, KivPageRow::Rule rule)
-        : KivValueRow<LockCombo, unsigned int>(combo, value, std::move(rule))
+    KivLineRow(LockCombo* combo, KivPropertyOf<unsigned int>& property, KivPageRow::Rule rule)
+        : KivValueRow<LockCombo, unsigned int>(combo, property, std::move(rule))
     {}
 
 private:

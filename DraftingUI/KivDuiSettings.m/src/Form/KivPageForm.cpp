@@ -32,29 +32,29 @@ void KivPageForm::Take(KivCommand* from)
         if (!owner) return;
         if (!isTaken) continue;
         for (const auto& row : _rows) {
-            if (row.get() != taken && row->IsOf(taken->Value())) row->Show();
+            if (row.get() != taken && row->IsOf(taken->Property())) row->Show();
         }
         return;
     }
 }
 
-void KivPageForm::ShowValue(const KivBoundValue& value)
+void KivPageForm::Show(const KivProperty& property)
 {
     for (const auto& row : _rows) {
-        if (row->IsOf(value)) row->Show();
+        if (row->IsOf(property)) row->Show();
     }
 }
 
-void KivPageForm::Store(const KivBoundValues& values)
+void KivPageForm::Store(const KivProperties& properties)
 {
     // A control that is not there stores nothing.
     const KivWeakPtr<KivCommand> owner(&_owner);
-    for (KivBoundValue* value : values) {
-        const auto row = std::find_if(_rows.begin(), _rows.end(), [value](const auto& candidate) {
-            return candidate->IsAlive() && candidate->IsOf(*value);
+    for (KivProperty* property : properties) {
+        const auto row = std::find_if(_rows.begin(), _rows.end(), [property](const auto& candidate) {
+            return candidate->IsAlive() && candidate->IsOf(*property);
         });
         if (row == _rows.end()) continue;
-        value->Save();
+        property->Save();
         if (!owner) return; // whoever was told of it has destroyed the page
         (*row)->ShowInForce();
     }
@@ -67,10 +67,10 @@ void KivPageForm::Read(const KivCommand* from)
     }
 }
 
-bool KivPageForm::IsSender(const KivBoundValue& value, const KivCommand* from) const
+bool KivPageForm::IsSender(const KivProperty& property, const KivCommand* from) const
 {
     return std::any_of(_rows.begin(), _rows.end(),
-                       [&](const auto& row) { return row->IsOf(value) && row->IsSender(from); });
+                       [&](const auto& row) { return row->IsOf(property) && row->IsSender(from); });
 }
 
 void KivPageForm::ReadAll()
@@ -78,10 +78,10 @@ void KivPageForm::ReadAll()
     for (const auto& row : _rows) row->Read();
 }
 
-bool KivPageForm::LeavesOut(const KivBoundValue& value) const
+bool KivPageForm::LeavesOut(const KivProperty& property) const
 {
     KivSettingInfo info;
-    return _refused == Refused::LeaveOut && value.GetInfo(info) < 0;
+    return _refused == Refused::LeaveOut && property.GetInfo(info) < 0;
 }
 
 void KivPageForm::Add(std::unique_ptr<KivPageRow> row)

@@ -29,24 +29,24 @@ public:
 
     // Shows every lock record.
     void ShowLocks();
-    // Shows every cached value.
+    // Shows every property.
     void Show();
-    // Shows one value wherever it is shown.
-    void ShowValue(const KivBoundValue& value);
+    // Shows one property wherever it is shown.
+    void Show(const KivProperty& property);
     // Stores the value of the control that sent a notification, and shows it wherever else it is shown.
     void Take(KivCommand* from);
-    // Stores those of these values that have a control, in this order; what the controls show was taken
+    // Stores those of these properties that have a control, in this order; what the controls show was taken
     // before. The rows show then what is in force.
-    void Store(const KivBoundValues& values);
-    // Takes what the sender shows into the cached value, runs its rule, and stores nothing.
+    void Store(const KivProperties& properties);
+    // Takes what the sender shows into its property, runs its rule, and stores nothing.
     void Read(const KivCommand* from);
-    // Takes what every control shows into the cached values, and stores nothing.
+    // Takes what every control shows into the properties, and stores nothing.
     void ReadAll();
-    // Whether a control of this value sent a notification.
-    bool IsSender(const KivBoundValue& value, const KivCommand* from) const;
+    // Whether a control of this property sent a notification.
+    bool IsSender(const KivProperty& property, const KivCommand* from) const;
 
     // For rows that are being declared.
-    bool LeavesOut(const KivBoundValue& value) const;
+    bool LeavesOut(const KivProperty& property) const;
     void Add(std::unique_ptr<KivPageRow> row);
     void Connect(KivCommand* control, KivNotification* notification);
 

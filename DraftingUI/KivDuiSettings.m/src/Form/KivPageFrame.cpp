@@ -22,7 +22,7 @@ KivFormGroup KivPageFrame::Group(const KivString& name, const KivString& icon, s
 
 void KivPageFrame::Initialize()
 {
-    for (KivBoundValue* value : _values) value->Load();
+    for (KivProperty* property : _properties) property->Load();
     _form.ShowLocks();
     UpdateWidgets();
 }

@@ -3,7 +3,7 @@
 #include "Dialog/KivDlgFrame.h"
 #include "Form/KivPageForm.h"
 #include "Form/KivPageRules.h"
-#include "Form/KivPageValue.h"
+#include "Form/KivProperty.h"
 
 // What all page frames have in common, in calling order: construction, Build, Initialize, any number of
 // Write.
@@ -19,9 +19,9 @@ public:
 
     // Creates the widgets, once.
     virtual void Build() = 0;
-    // Loads all values, in accessor order, and shows them and their locks; at any time.
+    // Loads all properties, in accessor order, and shows them and their locks; at any time.
     virtual void Initialize();
-    // Shows the cached values and applies the rules that depend on them.
+    // Shows the properties and applies the rules that depend on them.
     virtual void UpdateWidgets();
     // The callback that every control's change notification reaches, unless a page has another.
     void Write(KivCommand* from, KivNotification* notification, void* data);
@@ -36,9 +36,9 @@ protected:
     KivFormGroup Group(const KivString& name, const KivString& icon, short row, short column = 0,
                        short rows = 1);
 
-    KivBoundValues _values; // in accessor order
+    KivProperties _properties; // in accessor order
     KivPageForm _form;
-    KivPageRules _rules; // applied whenever values are shown or stored
+    KivPageRules _rules; // applied whenever properties are shown or stored
 
 private:
     KivString _catalogue;

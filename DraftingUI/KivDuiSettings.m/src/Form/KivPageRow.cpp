@@ -2,13 +2,13 @@
 
 void KivPageRow::ShowLock()
 {
-    if (KivDrwLockDialog* control = Control()) control->SetInfo(_value.Info());
+    if (KivDrwLockDialog* control = Control()) control->SetInfo(_property.Info());
 }
 
 void KivPageRow::ShowInForce()
 {
     ShowLock();
-    _value.Load();
+    _property.Load();
     Show();
 }
 
@@ -31,13 +31,13 @@ bool KivPageRow::Take(KivCommand* from)
     if (!IsSender(from)) return false;
     // No user could have sent it when it is locked: another row's value was mirrored here, or the lock has
     // arrived meanwhile. The store would refuse it.
-    if (_value.Info().locked || !Read()) {
+    if (_property.Info().locked || !Read()) {
         ShowInForce();
         return true;
     }
     // Storing tells others, who may destroy the page and this row with it.
     const KivWeakPtr<KivDrwLockDialog> control(Control());
-    _value.Save();
+    _property.Save();
     if (!control) return true;
     ShowInForce();
     if (_rule) _rule();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Form/KivPageValue.h"
+#include "Form/KivProperty.h"
 #include "Lock/KivDrwLockDialog.h"
 
 #include <functional>
@@ -33,16 +33,16 @@ public:
     virtual bool IsSender(const KivCommand* from) const;
     // False once its control was destroyed.
     bool IsAlive() const { return Control() != nullptr; }
-    bool IsOf(const KivBoundValue& value) const { return &_value == &value; }
-    const KivBoundValue& Value() const { return _value; }
+    bool IsOf(const KivProperty& property) const { return &_property == &property; }
+    const KivProperty& Property() const { return _property; }
 
 protected:
-    KivPageRow(KivBoundValue& value, Rule rule) : _value(value), _rule(std::move(rule)) {}
+    KivPageRow(KivProperty& property, Rule rule) : _property(property), _rule(std::move(rule)) {}
 
     virtual KivDrwLockDialog* Control() const = 0;
 
 private:
-    KivBoundValue& _value;
+    KivProperty& _property;
     Rule _rule;
 };
 
@@ -52,7 +52,7 @@ public:
     void Show() final
     {
         if (!_control) return;
-        ShowValue(*_control, _value.cached);
+        ShowValue(*_control, _property.cached);
         _shown = Reading(*_control);
     }
     bool Read() final
@@ -60,14 +60,14 @@ public:
         if (!_control) return false;
         const std::optional<T> reading = Reading(*_control);
         const bool isNew = reading && reading != _shown;
-        if (isNew) _value.cached = *reading;
+        if (isNew) _property.cached = *reading;
         _shown = reading;
         return isNew;
     }
 
 protected:
-    KivValueRow(LockControl* control, KivCachedValue<T>& value, Rule rule)
-        : KivPageRow(value, std::move(rule)), _control(control), _value(value)
+    KivValueRow(LockControl* control, KivPropertyOf<T>& property, Rule rule)
+        : KivPageRow(property, std::move(rule)), _control(control), _property(property)
     {}
 
     virtual void ShowValue(LockControl& control, const T& value) = 0;
@@ -78,6 +78,6 @@ private:
     KivDrwLockDialog* Control() const final { return _control.Get(); }
 
     KivWeakPtr<LockControl> _control;
-    KivCachedValue<T>& _value;
+    KivPropertyOf<T>& _property;
     std::optional<T> _shown; // the reading since when a change is the user's
 };

@@ -7,9 +7,9 @@
 #include <algorithm>
 #include <utility>
 
-KivMeasureRow::KivMeasureRow(KivDrwLockSpinner* spinner, KivCachedValue<double>& value,
+KivMeasureRow::KivMeasureRow(KivDrwLockSpinner* spinner, KivPropertyOf<double>& property,
                              const KivSettingKind& kind, Rule rule)
-    : KivValueRow(spinner, value, std::move(rule)), _kind(kind)
+    : KivValueRow(spinner, property, std::move(rule)), _kind(kind)
 {}
 
 void KivMeasureRow::ShowValue(KivDrwLockSpinner& spinner, const double& value)
@@ -24,8 +24,8 @@ std::optional<double> KivMeasureRow::Reading(KivDrwLockSpinner& spinner)
     return value;
 }
 
-KivWholeRow::KivWholeRow(KivDrwLockSpinner* spinner, KivCachedValue<int>& value, Rule rule)
-    : KivValueRow(spinner, value, std::move(rule))
+KivWholeRow::KivWholeRow(KivDrwLockSpinner* spinner, KivPropertyOf<int>& property, Rule rule)
+    : KivValueRow(spinner, property, std::move(rule))
 {}
 
 void KivWholeRow::ShowValue(KivDrwLockSpinner& spinner, const int& value)
@@ -41,8 +41,8 @@ std::optional<int> KivWholeRow::Reading(KivDrwLockSpinner& spinner)
     return whole;
 }
 
-KivColorRow::KivColorRow(KivDrwLockComboColor* combo, KivCachedValue<KivPageColor>& value, Rule rule)
-    : KivValueRow(combo, value, std::move(rule))
+KivColorRow::KivColorRow(KivDrwLockComboColor* combo, KivPropertyOf<KivPageColor>& property, Rule rule)
+    : KivValueRow(combo, property, std::move(rule))
 {}
 
 void KivColorRow::ShowValue(KivDrwLockComboColor& combo, const KivPageColor& color)
@@ -61,9 +61,9 @@ std::optional<KivPageColor> KivColorRow::Reading(KivDrwLockComboColor& combo)
     return color;
 }
 
-KivChoiceRow::KivChoiceRow(KivDrwLockCombo* combo, KivCachedValue<int>& value, const KivSettingKind& kind,
+KivChoiceRow::KivChoiceRow(KivDrwLockCombo* combo, KivPropertyOf<int>& property, const KivSettingKind& kind,
                            Rule rule)
-    : KivValueRow(combo, value, std::move(rule)), _kind(kind)
+    : KivValueRow(combo, property, std::move(rule)), _kind(kind)
 {}
 
 void KivChoiceRow::ShowValue(KivDrwLockCombo& control, const int& value)
@@ -86,9 +86,9 @@ std::optional<int> KivChoiceRow::Reading(KivDrwLockCombo& control)
     return _kind.Choices()[static_cast<std::size_t>(line)].value;
 }
 
-KivNameRow::KivNameRow(KivDrwLockCombo* combo, KivCachedValue<KivUnicodeString>& value, KivFormNames names,
+KivNameRow::KivNameRow(KivDrwLockCombo* combo, KivPropertyOf<KivUnicodeString>& property, KivFormNames names,
                        Rule rule)
-    : KivValueRow(combo, value, std::move(rule)), _names(names)
+    : KivValueRow(combo, property, std::move(rule)), _names(names)
 {}
 
 void KivNameRow::ShowValue(KivDrwLockCombo& control, const KivUnicodeString& value)
@@ -111,9 +111,9 @@ std::optional<KivUnicodeString> KivNameRow::Reading(KivDrwLockCombo& control)
     return name;
 }
 
-KivRadioRow::KivRadioRow(KivDrwLockFrame* frame, KivCachedValue<int>& value, std::vector<Button> buttons,
+KivRadioRow::KivRadioRow(KivDrwLockFrame* frame, KivPropertyOf<int>& property, std::vector<Button> buttons,
                          std::optional<int> otherwise, Rule rule)
-    : KivValueRow(frame, value, std::move(rule)), _buttons(std::move(buttons)), _otherwise(otherwise)
+    : KivValueRow(frame, property, std::move(rule)), _buttons(std::move(buttons)), _otherwise(otherwise)
 {}
 
 void KivRadioRow::ShowValue(KivDrwLockFrame&, const int& wanted)

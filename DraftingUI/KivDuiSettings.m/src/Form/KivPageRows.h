@@ -3,6 +3,7 @@
 #include "Base/KivListOfUnicodeString.h"
 #include "Base/KivResult.h"
 #include "Dialog/KivDlgRadioButton.h"
+#include "Form/KivPageColor.h"
 #include "Form/KivPageRow.h"
 #include "KivDrwSettingsServices.h"
 #include "KivSettingKind.h"
@@ -17,9 +18,10 @@
 // A switch: it is read as 1 or 0.
 template <class T> class KivCheckRow final : public KivValueRow<KivDrwLockCheckButton, T> {
 public:
-    KivCheckRow(KivDrwLockCheckButton* button, KivCachedValue<T>& value, bool isOnFor1Alone,
+    KivCheckRow(KivDrwLockCheckButton* button, KivPropertyOf<T>& property, bool isOnFor1Alone,
                 KivPageRow::Rule rule)
-        : KivValueRow<KivDrwLockCheckButton, T>(button, value, std::move(rule)), _isOnFor1Alone(isOnFor1Alone)
+        : KivValueRow<KivDrwLockCheckButton, T>(button, property, std::move(rule)),
+          _isOnFor1Alone(isOnFor1Alone)
     {}
 
 private:
@@ -41,7 +43,7 @@ private:
 // A measure: shown in the spinner's unit, stored in another.
 class KivMeasureRow final : public KivValueRow<KivDrwLockSpinner, double> {
 public:
-    KivMeasureRow(KivDrwLockSpinner* spinner, KivCachedValue<double>& value, const KivSettingKind& kind,
+    KivMeasureRow(KivDrwLockSpinner* spinner, KivPropertyOf<double>& property, const KivSettingKind& kind,
                   Rule rule);
 
 private:
@@ -54,7 +56,7 @@ private:
 // A whole number that is typed as a real one: what is typed is cut towards zero and shown so.
 class KivWholeRow final : public KivValueRow<KivDrwLockSpinner, int> {
 public:
-    KivWholeRow(KivDrwLockSpinner* spinner, KivCachedValue<int>& value, Rule rule);
+    KivWholeRow(KivDrwLockSpinner* spinner, KivPropertyOf<int>& property, Rule rule);
 
 private:
     void ShowValue(KivDrwLockSpinner& spinner, const int& value) override;
@@ -64,7 +66,8 @@ private:
 // The lock of a value that its owner shows and reads itself.
 class KivLockOnlyRow final : public KivPageRow {
 public:
-    KivLockOnlyRow(KivDrwLockDialog* control, KivBoundValue& value) : KivPageRow(value, {}), _control(control)
+    KivLockOnlyRow(KivDrwLockDialog* control, KivProperty& property)
+        : KivPageRow(property, {}), _control(control)
     {}
     void Show() override {}
     bool Read() override { return false; }
@@ -78,7 +81,7 @@ private:
 // A color. What is none, components out of range, shows no line as chosen.
 class KivColorRow final : public KivValueRow<KivDrwLockComboColor, KivPageColor> {
 public:
-    KivColorRow(KivDrwLockComboColor* combo, KivCachedValue<KivPageColor>& value, Rule rule);
+    KivColorRow(KivDrwLockComboColor* combo, KivPropertyOf<KivPageColor>& property, Rule rule);
 
 private:
     void ShowValue(KivDrwLockComboColor& combo, const KivPageColor& color) override;
@@ -88,7 +91,7 @@ private:
 // A choice from words.
 class KivChoiceRow final : public KivValueRow<KivDrwLockCombo, int> {
 public:
-    KivChoiceRow(KivDrwLockCombo* combo, KivCachedValue<int>& value, const KivSettingKind& kind, Rule rule);
+    KivChoiceRow(KivDrwLockCombo* combo, KivPropertyOf<int>& property, const KivSettingKind& kind, Rule rule);
 
 private:
     void ShowValue(KivDrwLockCombo& combo, const int& value) override;
@@ -103,7 +106,7 @@ using KivFormNames = HRESULT (*)(KivListOfUnicodeString& names);
 // A choice from names that are found when the page is shown, such as files on the disk.
 class KivNameRow final : public KivValueRow<KivDrwLockCombo, KivUnicodeString> {
 public:
-    KivNameRow(KivDrwLockCombo* combo, KivCachedValue<KivUnicodeString>& value, KivFormNames names,
+    KivNameRow(KivDrwLockCombo* combo, KivPropertyOf<KivUnicodeString>& property, KivFormNames names,
                Rule rule);
 
 private:
@@ -121,7 +124,7 @@ public:
         int value;
     };
     // Without a value that another button has, the one of `otherwise` is shown as chosen, if there is one.
-    KivRadioRow(KivDrwLockFrame* frame, KivCachedValue<int>& value, std::vector<Button> buttons,
+    KivRadioRow(KivDrwLockFrame* frame, KivPropertyOf<int>& property, std::vector<Button> buttons,
                 std::optional<int> otherwise, Rule rule);
     bool IsSender(const KivCommand* from) const override;
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Form/KivPageValue.h"
+#include "Form/KivAccessorProperty.h"
 
-// One option of a generic frame: the value that its control shows and its three accessors, which refuse until
-// a derived frame binds them to a store. The frame states the alias Self and derives from KivPageFrame. Every
-// name is written out and can be searched.
-#define KIV_PAGE_SETTING(T, value, SetAccessor, GetAccessor, GetInfoAccessor)                                \
+// One option of a generic frame: the property that its control shows and its three accessors, which refuse
+// until a derived frame binds them to a store. The frame states the alias Self and derives from KivPageFrame.
+// Every name is written out and can be searched.
+#define KIV_PAGE_SETTING(T, property, SetAccessor, GetAccessor, GetInfoAccessor)                             \
 public:                                                                                                      \
     virtual int SetAccessor(const T&)                                                                        \
     {                                                                                                        \
@@ -22,11 +22,11 @@ public:                                                                         
     }                                                                                                        \
                                                                                                              \
 protected:                                                                                                   \
-    KivPageValue<Self, T> value{_values, *this, &Self::SetAccessor, &Self::GetAccessor,                      \
-                                &Self::GetInfoAccessor};
+    KivAccessorProperty<Self, T> property{_properties, *this, &Self::SetAccessor, &Self::GetAccessor,        \
+                                          &Self::GetInfoAccessor};
 
 // The same for a color, whose accessors take red, green and blue.
-#define KIV_PAGE_COLOR(value, SetAccessor, GetAccessor, GetInfoAccessor)                                     \
+#define KIV_PAGE_COLOR(property, SetAccessor, GetAccessor, GetInfoAccessor)                                  \
 public:                                                                                                      \
     virtual int SetAccessor(const int&, const int&, const int&)                                              \
     {                                                                                                        \
@@ -43,5 +43,5 @@ public:                                                                         
     }                                                                                                        \
                                                                                                              \
 protected:                                                                                                   \
-    KivPageValue<Self, KivPageColor> value{_values, *this, &Self::SetAccessor, &Self::GetAccessor,           \
-                                           &Self::GetInfoAccessor};
+    KivAccessorProperty<Self, KivPageColor> property{_properties, *this, &Self::SetAccessor,                 \
+                                                     &Self::GetAccessor, &Self::GetInfoAccessor};

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-KivTextRow::KivTextRow(KivDrwLockEditor* editor, KivCachedValue<KivUnicodeString>& value, Rule rule)
-    : KivValueRow(editor, value, std::move(rule))
+KivTextRow::KivTextRow(KivDrwLockEditor* editor, KivPropertyOf<KivUnicodeString>& property, Rule rule)
+    : KivValueRow(editor, property, std::move(rule))
 {}
 
 void KivTextRow::ShowValue(KivDrwLockEditor& editor, const KivUnicodeString& value)

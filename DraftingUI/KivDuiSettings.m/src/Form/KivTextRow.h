@@ -6,7 +6,7 @@
 // A text. It is stored as it was typed.
 class KivTextRow final : public KivValueRow<KivDrwLockEditor, KivUnicodeString> {
 public:
-    KivTextRow(KivDrwLockEditor* editor, KivCachedValue<KivUnicodeString>& value, Rule rule);
+    KivTextRow(KivDrwLockEditor* editor, KivPropertyOf<KivUnicodeString>& property, Rule rule);
 
 private:
     void ShowValue(KivDrwLockEditor& editor, const KivUnicodeString& value) override;

@@ -69,7 +69,7 @@ void Kiv2DBaseOptAnnotFrm::BuildDlgSnap()
     if (!_snapWindow) return;
     _form.Group(*_snapWindow, "frameAnnotActivSnap", "")
         .Radios("frameRadioAnnotActivSnap", _snapMod, KivDrwKinds::SnapMode);
-    _form.ShowValue(_snapMod);
+    _form.Show(_snapMod);
 }
 
 void Kiv2DBaseOptAnnotFrm::CloseDlg(KivCommand* from, KivNotification*, void*)

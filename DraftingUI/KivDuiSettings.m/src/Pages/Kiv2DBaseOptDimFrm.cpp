@@ -12,9 +12,9 @@ enum Column : short { Left, Right };
 // A state of dimensions: whether it has a color of its own, and which.
 struct Kiv2DBaseOptDimFrm::AnalysisRow {
     const char* checkName;
-    KivCachedValue<unsigned char>& isColored;
+    KivPropertyOf<unsigned char>& isColored;
     const char* comboName;
-    KivCachedValue<KivPageColor>& color;
+    KivPropertyOf<KivPageColor>& color;
 };
 
 void Kiv2DBaseOptDimFrm::Build()

@@ -35,7 +35,7 @@ void Kiv2DBaseOptGeoFrm::BuildConstraint()
         constraint.Line("labelCstColor").Color("comboCstColor", _cstColor)};
     struct KindRow {
         const char* name;
-        KivCachedValue<unsigned char>& value;
+        KivPropertyOf<unsigned char>& property;
     };
     const KindRow kinds[][2] = {
         {{"checkCstHori", _cstVisuHori}, {"checkCstVerti", _cstVisuVerti}},
@@ -45,7 +45,7 @@ void Kiv2DBaseOptGeoFrm::BuildConstraint()
     };
     for (const auto& pair : kinds) {
         KivFormLine line = constraint.Line();
-        for (const auto& [name, value] : pair) shown.push_back(line.Check(name, value));
+        for (const auto& [name, property] : pair) shown.push_back(line.Check(name, property));
     }
     _rules.AvailableWhile([this] { return _cstVisu.cached; }, shown);
 }

@@ -17,9 +17,9 @@ struct Kiv2DBaseOptManipFrm::DimRow {
     const char* iconName;
     const char* labelName;
     const char* creationName;
-    KivCachedValue<unsigned char>& creation;
+    KivPropertyOf<unsigned char>& creation;
     const char* modificationName;
-    KivCachedValue<unsigned char>& modification;
+    KivPropertyOf<unsigned char>& modification;
 };
 
 void Kiv2DBaseOptManipFrm::Build()

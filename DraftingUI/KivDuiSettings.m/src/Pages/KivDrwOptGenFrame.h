@@ -20,12 +20,12 @@ public:
 private:
     void BuildDimensions();
 
-    KIV_KEY_VALUE(_genDim, int, KivDrwKeys::GenDim)
-    KIV_KEY_VALUE(_genDimFilter, int, KivDrwKeys::GenDimFilter)
-    KIV_KEY_VALUE(_genDimAutoPos, int, KivDrwKeys::GenDimAutoPos)
-    KIV_KEY_VALUE(_genDimAutoTrans, int, KivDrwKeys::GenDimAutoTrans)
-    KIV_KEY_VALUE(_genDimAnal, int, KivDrwKeys::GenDimAnal)
-    KIV_KEY_VALUE(_genDimSemiAutoTimeOut, int, KivDrwKeys::GenDimSemiAutoTimeOut)
-    KIV_KEY_VALUE(_genBalloonByInstance, int, KivDrwKeys::GenBalloonByInstance)
-    KIV_KEY_VALUE(_genDimFromPart, int, KivDrwKeys::DrwGenDimFromPart)
+    KIV_KEY_PROPERTY(_genDim, int, KivDrwKeys::GenDim)
+    KIV_KEY_PROPERTY(_genDimFilter, int, KivDrwKeys::GenDimFilter)
+    KIV_KEY_PROPERTY(_genDimAutoPos, int, KivDrwKeys::GenDimAutoPos)
+    KIV_KEY_PROPERTY(_genDimAutoTrans, int, KivDrwKeys::GenDimAutoTrans)
+    KIV_KEY_PROPERTY(_genDimAnal, int, KivDrwKeys::GenDimAnal)
+    KIV_KEY_PROPERTY(_genDimSemiAutoTimeOut, int, KivDrwKeys::GenDimSemiAutoTimeOut)
+    KIV_KEY_PROPERTY(_genBalloonByInstance, int, KivDrwKeys::GenBalloonByInstance)
+    KIV_KEY_PROPERTY(_genDimFromPart, int, KivDrwKeys::DrwGenDimFromPart)
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Form/KivDrwSketcherBinding.h"
+#include "Form/KivDrwSketcherAccessors.h"
 #include "KivDrwRepository.h"
 #include "Pages/Kiv2DBaseOptGeoFrm.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Form/KivDrwPageBinding.h"
+#include "Form/KivDrwPageAccessors.h"
 #include "KivDrwRepository.h"
 #include "Pages/Kiv2DBaseOptDimFrm.h"
 #include "Pages/KivDrwDimensionColors.h"

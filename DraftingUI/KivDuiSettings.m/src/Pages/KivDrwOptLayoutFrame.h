@@ -20,16 +20,16 @@ private:
     void DirectoryAnswered(KivCommand* from, KivNotification* notification, void* data);
     void MarkDirectory();
 
-    KIV_KEY_VALUE(_calloutSize, int, KivDrwKeys::DrwCalloutSize)
-    KIV_KEY_VALUE(_viewName, unsigned char, KivDrwKeys::ViewName)
-    KIV_KEY_VALUE(_viewScale, unsigned char, KivDrwKeys::ViewScale)
-    KIV_KEY_VALUE(_viewFrame, unsigned char, KivDrwKeys::ViewFrame)
-    KIV_KEY_VALUE(_viewOrientation, unsigned char, KivDrwKeys::ViewOrientation)
-    KIV_KEY_VALUE(_genPropagation, unsigned char, KivDrwKeys::GenPropagation)
-    KIV_KEY_VALUE(_sourceSheetType, int, KivDrwKeys::SourceSheetType)
-    KIV_KEY_VALUE(_backgroundViewToCopy, unsigned char, KivDrwKeys::BackgroundViewToCopy)
-    KIV_KEY_VALUE(_titleBlockPath, KivUnicodeString, KivDrwKeys::DrwFrameAndTitleBlockPath)
-    KIV_KEY_VALUE(_strictPositioning, unsigned char, KivDrwKeys::KivDrwStrictPositioning)
+    KIV_KEY_PROPERTY(_calloutSize, int, KivDrwKeys::DrwCalloutSize)
+    KIV_KEY_PROPERTY(_viewName, unsigned char, KivDrwKeys::ViewName)
+    KIV_KEY_PROPERTY(_viewScale, unsigned char, KivDrwKeys::ViewScale)
+    KIV_KEY_PROPERTY(_viewFrame, unsigned char, KivDrwKeys::ViewFrame)
+    KIV_KEY_PROPERTY(_viewOrientation, unsigned char, KivDrwKeys::ViewOrientation)
+    KIV_KEY_PROPERTY(_genPropagation, unsigned char, KivDrwKeys::GenPropagation)
+    KIV_KEY_PROPERTY(_sourceSheetType, int, KivDrwKeys::SourceSheetType)
+    KIV_KEY_PROPERTY(_backgroundViewToCopy, unsigned char, KivDrwKeys::BackgroundViewToCopy)
+    KIV_KEY_PROPERTY(_titleBlockPath, KivUnicodeString, KivDrwKeys::DrwFrameAndTitleBlockPath)
+    KIV_KEY_PROPERTY(_strictPositioning, unsigned char, KivDrwKeys::KivDrwStrictPositioning)
     KivWeakPtr<KivDrwLockEditor> _titleBlockField;
     KivWeakPtr<KivDrwLockLabel> _missingLabel;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Form/KivDrwPageBinding.h"
+#include "Form/KivDrwPageAccessors.h"
 #include "Form/KivPageFrame.h"
 #include "KivDrwRepository.h"
 

@@ -162,14 +162,14 @@ void KivDrwOptViewFrame::Write(KivCommand* from, KivNotification*, void*)
     if (!_repository) return;
     const KivWeakPtr<KivDrwOptViewFrame> self(this);
     _form.ReadAll();
-    KivBoundValues stored = {&_occlusionCulling, &_exactPreview, &_genBox,
-                             &_genBoxTol,        &_qmtAnnotLay,  &_geomOf2DLView};
-    const auto store = [&stored](const KivBoundValues& more) {
+    KivProperties stored = {&_occlusionCulling, &_exactPreview, &_genBox,
+                            &_genBoxTol,        &_qmtAnnotLay,  &_geomOf2DLView};
+    const auto store = [&stored](const KivProperties& more) {
         stored.insert(stored.end(), more.begin(), more.end());
     };
     // These two are stored only when their own button was pressed, deliberately.
-    for (KivBoundValue* value : {&_dimClipNoShow, &_selBodyInAss}) {
-        if (_form.IsSender(*value, from)) store({value});
+    for (KivProperty* property : {&_dimClipNoShow, &_selBodyInAss}) {
+        if (_form.IsSender(*property, from)) store({property});
     }
     // What the style or the mode governs is never written from here.
     if (!StyleGoverns()) {

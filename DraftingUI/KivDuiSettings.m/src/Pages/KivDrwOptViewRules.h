@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Dialog/KivDlgPushButton.h"
-#include "Form/KivPageValue.h"
+#include "Form/KivProperty.h"
 #include "Lock/KivDrwLockDialog.h"
 
 #include <variant>
@@ -9,9 +9,9 @@
 
 // When a control of the View page is enabled, while the generative view style governs or while it does not.
 struct KivDrwViewCondition {
-    unsigned modes = 0;                          // in these generation modes, one bit each
-    const KivCachedValue<int>* tick = nullptr;   // if this option is on
-    const KivCachedValue<int>* unless = nullptr; // and if this one is not; see KivDrwViewRule::Apply
+    unsigned modes = 0;                         // in these generation modes, one bit each
+    const KivPropertyOf<int>* tick = nullptr;   // if this option is on
+    const KivPropertyOf<int>* unless = nullptr; // and if this one is not; see KivDrwViewRule::Apply
 };
 
 // What occasions that controls are enabled anew.

@@ -17,12 +17,12 @@ void KivDrwButtonDialog::Open()
 
 void KivDrwButtonDialog::InitValues()
 {
-    for (KivBoundValue* value : _values) value->LoadDefault();
+    for (KivProperty* property : _properties) property->LoadDefault();
 }
 
 void KivDrwButtonDialog::Init()
 {
-    for (KivBoundValue* value : _values) value->Load();
+    for (KivProperty* property : _properties) property->Load();
     _form.ShowLocks();
     ShowValues();
     _holdsChoices = false;
@@ -36,7 +36,7 @@ void KivDrwButtonDialog::Notification(KivCommand* from, KivNotification*, void*)
 
 void KivDrwButtonDialog::Ok(KivCommand*, KivNotification*, void*)
 {
-    for (KivBoundValue* value : _values) value->Save();
+    for (KivProperty* property : _properties) property->Save();
     SetVisibility(KivDlgHidden);
     RequestDelayedDestruction();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Dialog/KivDlgDialog.h"
-#include "Form/KivDrwKeyValue.h"
+#include "Form/KivDrwKeyProperty.h"
 #include "Form/KivPageForm.h"
 #include "KivDrwRepository.h"
 
@@ -14,13 +14,13 @@ public:
     static constexpr const char* Name = "KivDrwButtonDialog";
     static constexpr const char* Framework = "DraftingUI";
 
-    // Takes the defaults of all values, which Init does for those that are not stored; shows nothing.
+    // Takes the defaults of all properties, which Init does for those that are not stored; shows nothing.
     void InitValues();
     // Takes the values in force, and shows them and their locks; what was chosen since is given up.
     void Init();
     // A control has changed: takes its value, and stores nothing.
     void Notification(KivCommand* from, KivNotification* notification, void* data);
-    // Closed: stores all values, in the order in which they are read.
+    // Closed: saves all properties, in the order in which they are loaded.
     void Ok(KivCommand* from, KivNotification* notification, void* data);
     bool HoldsChoices() const override { return _holdsChoices; }
 
@@ -34,7 +34,7 @@ protected:
     virtual void ReadFrom(KivCommand* from) { _form.Read(from); }
 
     KivSettingRepository* _repository = KivDrwRepository(); // may be null: the window then shows defaults
-    KivBoundValues _values;                                 // in the order of reading and writing
+    KivProperties _properties;                              // in the order of loading and saving
     KivPageForm _form{*this};
 
 private:

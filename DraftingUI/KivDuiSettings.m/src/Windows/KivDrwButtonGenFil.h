@@ -11,5 +11,5 @@ public:
     void Build();
 
 private:
-    KIV_KEY_VALUE(_representation, int, KivDrwKeys::DrwGenFilConfigure)
+    KIV_KEY_PROPERTY(_representation, int, KivDrwKeys::DrwGenFilConfigure)
 };

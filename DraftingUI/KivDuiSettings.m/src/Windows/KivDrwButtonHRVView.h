@@ -27,7 +27,7 @@ private:
     double _a = 10.0;
     float _c = 0.011555555F;
 
-    KIV_KEY_VALUE(_level, int, KivDrwKeys::KivDrwHRVLOD)
+    KIV_KEY_PROPERTY(_level, int, KivDrwKeys::KivDrwHRVLOD)
     KivWeakPtr<KivDrwLockSpinner> _spinner;
     KivWeakPtr<Kiv2DViewer> _viewer;
     KivWeakPtr<Kiv2DPointRep> _cursor;

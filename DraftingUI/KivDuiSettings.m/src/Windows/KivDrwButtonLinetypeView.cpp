@@ -13,10 +13,10 @@ void KivDrwButtonLinetypeView::Build()
     struct Row {
         const char* label;
         const char* typeName;
-        KivCachedValue<unsigned int>& type;
+        KivPropertyOf<unsigned int>& type;
         const char* typeKey;
         const char* thicknessName;
-        KivCachedValue<unsigned int>& thickness;
+        KivPropertyOf<unsigned int>& thickness;
         const char* thicknessKey;
     };
     // Only the keys of the thicknesses begin with "Drw".

@@ -13,14 +13,14 @@ public:
     void OnChange(KivCommand* from, KivNotification* notification, void* data);
 
 private:
-    KIV_KEY_VALUE(_sectionType, unsigned int, KivDrwKeys::SectionLinetype)
-    KIV_KEY_VALUE(_detailType, unsigned int, KivDrwKeys::DetailLinetype)
-    KIV_KEY_VALUE(_brokenType, unsigned int, KivDrwKeys::BrokenLinetype)
-    KIV_KEY_VALUE(_breakoutType, unsigned int, KivDrwKeys::BreakoutLinetype)
-    KIV_KEY_VALUE(_skinType, unsigned int, KivDrwKeys::SkinLinetype)
-    KIV_KEY_VALUE(_sectionThickness, unsigned int, KivDrwKeys::DrwSectionThickness)
-    KIV_KEY_VALUE(_detailThickness, unsigned int, KivDrwKeys::DrwDetailThickness)
-    KIV_KEY_VALUE(_brokenThickness, unsigned int, KivDrwKeys::DrwBrokenThickness)
-    KIV_KEY_VALUE(_breakoutThickness, unsigned int, KivDrwKeys::DrwBreakoutThickness)
-    KIV_KEY_VALUE(_skinThickness, unsigned int, KivDrwKeys::DrwSkinThickness)
+    KIV_KEY_PROPERTY(_sectionType, unsigned int, KivDrwKeys::SectionLinetype)
+    KIV_KEY_PROPERTY(_detailType, unsigned int, KivDrwKeys::DetailLinetype)
+    KIV_KEY_PROPERTY(_brokenType, unsigned int, KivDrwKeys::BrokenLinetype)
+    KIV_KEY_PROPERTY(_breakoutType, unsigned int, KivDrwKeys::BreakoutLinetype)
+    KIV_KEY_PROPERTY(_skinType, unsigned int, KivDrwKeys::SkinLinetype)
+    KIV_KEY_PROPERTY(_sectionThickness, unsigned int, KivDrwKeys::DrwSectionThickness)
+    KIV_KEY_PROPERTY(_detailThickness, unsigned int, KivDrwKeys::DrwDetailThickness)
+    KIV_KEY_PROPERTY(_brokenThickness, unsigned int, KivDrwKeys::DrwBrokenThickness)
+    KIV_KEY_PROPERTY(_breakoutThickness, unsigned int, KivDrwKeys::DrwBreakoutThickness)
+    KIV_KEY_PROPERTY(_skinThickness, unsigned int, KivDrwKeys::DrwSkinThickness)
 };

@@ -16,7 +16,7 @@ private:
     void ShowValues() override;
     void ReadFrom(KivCommand* from) override;
 
-    KIV_KEY_VALUE(_symbol, int, KivDrwKeys::DrwProject3DSymbol)
+    KIV_KEY_PROPERTY(_symbol, int, KivDrwKeys::DrwProject3DSymbol)
     KivWeakPtr<KivDlgRadioButton> _inherited, _chosen;
     KivWeakPtr<KivComboSymbol> _combo;
 };

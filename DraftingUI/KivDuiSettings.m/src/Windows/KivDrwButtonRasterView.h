@@ -20,19 +20,19 @@ private:
 
     // What one of the two, screen or paper, consists of.
     struct Medium {
-        KivDrwKeyValue<int>& quality;
-        KivDrwKeyValue<int>& resolution;
+        KivDrwKeyProperty<int>& quality;
+        KivDrwKeyProperty<int>& resolution;
         KivWeakPtr<KivDrwLockSpinner> spinner;
     };
     void BuildMedium(KivFormLine line, const char* combo, unsigned long comboStyle, const char* spinner,
                      Medium& medium);
     void ShowResolution(const Medium& medium);
 
-    KIV_KEY_VALUE(_mode, int, KivDrwKeys::KivDrwRasterMod)
-    KIV_KEY_VALUE(_screenResolution, int, KivDrwKeys::DrwDefVisuPicture)
-    KIV_KEY_VALUE(_paperResolution, int, KivDrwKeys::DrwDefPrintPicture)
-    KIV_KEY_VALUE(_screenQuality, int, KivDrwKeys::KivDrwLODVisuMod)
-    KIV_KEY_VALUE(_paperQuality, int, KivDrwKeys::KivDrwLODPrintMod)
+    KIV_KEY_PROPERTY(_mode, int, KivDrwKeys::KivDrwRasterMod)
+    KIV_KEY_PROPERTY(_screenResolution, int, KivDrwKeys::DrwDefVisuPicture)
+    KIV_KEY_PROPERTY(_paperResolution, int, KivDrwKeys::DrwDefPrintPicture)
+    KIV_KEY_PROPERTY(_screenQuality, int, KivDrwKeys::KivDrwLODVisuMod)
+    KIV_KEY_PROPERTY(_paperQuality, int, KivDrwKeys::KivDrwLODPrintMod)
     Medium _screen{_screenQuality, _screenResolution, {}};
     Medium _paper{_paperQuality, _paperResolution, {}};
     KivWeakPtr<KivDrwLockLabel> _picture;

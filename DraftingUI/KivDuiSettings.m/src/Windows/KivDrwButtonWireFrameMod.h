@@ -14,6 +14,6 @@ public:
 private:
     void ShowValues() override;
 
-    KIV_KEY_VALUE(_mode, int, KivDrwKeys::GenWireFrameMod)
+    KIV_KEY_PROPERTY(_mode, int, KivDrwKeys::GenWireFrameMod)
     KivWeakPtr<KivDlgRadioButton> _hidden, _visible;
 };

@@ -1,22 +1,22 @@
 #pragma once
 
-#include "Form/KivPageValue.h"
+#include "Form/KivAccessorProperty.h"
 #include "Settings/KivDrwAttributeDefault.h"
 #include "Settings/KivDrwBackgroundColor.h"
 #include "Settings/KivDrwPageWrite.h"
 #include "Settings/KivDrwStoredColor.h"
 
-// The type of the value that a frame's Set accessor takes.
-template <class Accessor> struct KivAccessorValue;
-template <class Frame, class T> struct KivAccessorValue<int (Frame::*)(const T&)> {
+// The type of the argument that a frame's Set accessor takes.
+template <class Accessor> struct KivAccessorArgument;
+template <class Frame, class T> struct KivAccessorArgument<int (Frame::*)(const T&)> {
     using Type = T;
 };
-template <auto accessor> using KivValueOf = typename KivAccessorValue<decltype(accessor)>::Type;
+template <auto accessor> using KivArgumentOf = typename KivAccessorArgument<decltype(accessor)>::Type;
 
 // How an option of a drafting frame is read from a key of its _repository: two of its three accessors. The
 // frame states the alias Base.
 #define KIV_BIND_READING(key, SetAccessor, GetAccessor, GetInfoAccessor)                                     \
-    int GetAccessor(KivValueOf<&Base::SetAccessor>& value) override                                          \
+    int GetAccessor(KivArgumentOf<&Base::SetAccessor>& value) override                                       \
     {                                                                                                        \
         return KivDrwGet(_repository, key, value);                                                           \
     }                                                                                                        \
@@ -27,7 +27,7 @@ template <auto accessor> using KivValueOf = typename KivAccessorValue<decltype(a
 
 // The whole accessor triple, bound to one key.
 #define KIV_BIND_SETTING(key, SetAccessor, GetAccessor, GetInfoAccessor)                                     \
-    int SetAccessor(const KivValueOf<&Base::SetAccessor>& value) override                                    \
+    int SetAccessor(const KivArgumentOf<&Base::SetAccessor>& value) override                                 \
     {                                                                                                        \
         return KivDrwChoose(_repository, key, value);                                                        \
     }                                                                                                        \
@@ -54,12 +54,12 @@ template <auto accessor> using KivValueOf = typename KivAccessorValue<decltype(a
 // The accessor triple of an attribute of the drafting settings' controller, which may be missing in
 // _attributes. What cannot be read is its default.
 #define KIV_BIND_ATTRIBUTE(SetAccessor, GetAccessor, GetInfoAccessor, Set, Get, GetInfo)                     \
-    int SetAccessor(const KivValueOf<&Base::SetAccessor>& value) override                                    \
+    int SetAccessor(const KivArgumentOf<&Base::SetAccessor>& value) override                                 \
     {                                                                                                        \
         if (_attributes) _attributes->Set(value);                                                            \
         return S_OK;                                                                                         \
     }                                                                                                        \
-    int GetAccessor(KivValueOf<&Base::SetAccessor>& value) override                                          \
+    int GetAccessor(KivArgumentOf<&Base::SetAccessor>& value) override                                       \
     {                                                                                                        \
         value = KivDrwAttributeDefault<&KivIDrwDraftingSettingAtt::Get>::Make();                             \
         if (_attributes) _attributes->Get(value);                                                            \
@@ -71,9 +71,9 @@ template <auto accessor> using KivValueOf = typename KivAccessorValue<decltype(a
         return S_OK;                                                                                         \
     }
 
-// One option of a page without a generic frame: its value and its three accessors, bound to a key of
+// One option of a page without a generic frame: its property and its three accessors, bound to a key of
 // _repository. The frame states the alias Self and derives from KivPageFrame.
-#define KIV_KEY_SETTING(T, value, key, SetAccessor, GetAccessor, GetInfoAccessor)                            \
+#define KIV_KEY_SETTING(T, property, key, SetAccessor, GetAccessor, GetInfoAccessor)                         \
 public:                                                                                                      \
     virtual int SetAccessor(const T& in)                                                                     \
     {                                                                                                        \
@@ -89,5 +89,5 @@ public:                                                                         
     }                                                                                                        \
                                                                                                              \
 private:                                                                                                     \
-    KivPageValue<Self, T> value{_values, *this, &Self::SetAccessor, &Self::GetAccessor,                      \
-                                &Self::GetInfoAccessor};
+    KivAccessorProperty<Self, T> property{_properties, *this, &Self::SetAccessor, &Self::GetAccessor,        \
+                                          &Self::GetInfoAccessor};

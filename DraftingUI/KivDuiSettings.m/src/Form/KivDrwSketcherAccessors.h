@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Form/KivDrwPageBinding.h"
+#include "Form/KivDrwPageAccessors.h"
 #include "KivDrwSketcherSettings.h"
 
 // Settings by which the sketcher draws and picks: whoever listens to it is told of each change, as its own
@@ -17,7 +17,7 @@ template <class Store> void KivDrwStoreAndTell(bool canStore, KivDrwTellSketcher
 
 // The accessor triple of a drafting frame, bound to a key of which the sketcher is told by this operation.
 #define KIV_BIND_TOLD(Tell, key, SetAccessor, GetAccessor, GetInfoAccessor)                                  \
-    int SetAccessor(const KivValueOf<&Base::SetAccessor>& value) override                                    \
+    int SetAccessor(const KivArgumentOf<&Base::SetAccessor>& value) override                                 \
     {                                                                                                        \
         KivDrwStoreAndTell(_repository, &Kiv2DBaseSketcherSettingsAdapt::Tell,                               \
                            [&] { KivDrwChoose(_repository, key, value); });                                  \

@@ -1,17 +1,18 @@
 #pragma once
 
-#include "Form/KivPageValue.h"
+#include "Form/KivProperty.h"
 #include "Settings/KivDrwPageWrite.h"
 
-// A value of a page without accessors, bound to a key itself. Registers with the page's values when it is
-// constructed, so that declaration order is the order of reading.
-template <class T, class Stored = T> class KivDrwKeyValue final : public KivCachedValue<T> {
+// A property of a page without accessors, which reads and writes a key itself. Registers with the page's
+// properties when it is constructed, so that declaration order is the order of reading.
+template <class T, class Stored = T> class KivDrwKeyProperty final : public KivPropertyOf<T> {
 public:
     // The repository may be null and is not owned.
-    KivDrwKeyValue(KivBoundValues& values, KivSettingRepository* repository, const KivDrwKey<Stored>& key)
+    KivDrwKeyProperty(KivProperties& properties, KivSettingRepository* repository,
+                      const KivDrwKey<Stored>& key)
         : _repository(repository), _key(key)
     {
-        values.push_back(this);
+        properties.push_back(this);
     }
     const KivSettingKind& Kind() const { return _key.kind; }
     void LoadDefault() override { LoadFrom(nullptr); }
@@ -38,7 +39,7 @@ private:
     T _loaded{};
 };
 
-// A value as a member of a page or a window that has _values and _repository:
-// KIV_KEY_VALUE(_genDim, int, KivDrwKeys::GenDim).
-#define KIV_KEY_VALUE(value, T, key)                                                                         \
-    KivDrwKeyValue<T, KivDrwStored<decltype(key)>> value{_values, _repository, key};
+// A property as a member of a page or a window that has _properties and _repository:
+// KIV_KEY_PROPERTY(_genDim, int, KivDrwKeys::GenDim).
+#define KIV_KEY_PROPERTY(property, T, key)                                                                   \
+    KivDrwKeyProperty<T, KivDrwStored<decltype(key)>> property{_properties, _repository, key};
