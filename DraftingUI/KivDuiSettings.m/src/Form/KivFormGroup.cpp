@@ -1,7 +1,7 @@
 #include "Form/KivFormGroup.h"
 
+#include "Form/KivControlBindings.h"
 #include "Form/KivPageForm.h"
-#include "Form/KivPageRows.h"
 
 #include <utility>
 
@@ -31,7 +31,7 @@ KivDrwLockFrame* KivFormGroup::Radios(const KivString& name, KivPropertyOf<int>&
     if (_form.LeavesOut(property)) return nullptr;
     auto* frame = new KivDrwLockFrame(&_frame, name, property.Info(), KivDlgGridLayout);
     frame->SetGridConstraints(line, 0, 1, 1, KivDlgAttachAllSides);
-    std::vector<KivRadioRow::Button> buttons;
+    std::vector<KivRadioBinding::Button> buttons;
     short row = 0;
     for (const KivSettingChoice& choice : kind.Choices()) {
         auto* button = new KivDlgRadioButton(frame->GetDialog(), choice.name, 0UL);
@@ -39,7 +39,7 @@ KivDrwLockFrame* KivFormGroup::Radios(const KivString& name, KivPropertyOf<int>&
         _form.Connect(button, button->GetRadBModifyNotification());
         buttons.push_back({button, choice.value});
     }
-    _form.Add(
-        std::make_unique<KivRadioRow>(frame, property, std::move(buttons), kind.otherwise, std::move(rule)));
+    _form.Add(std::make_unique<KivRadioBinding>(frame, property, std::move(buttons), kind.otherwise,
+                                                std::move(rule)));
     return frame;
 }

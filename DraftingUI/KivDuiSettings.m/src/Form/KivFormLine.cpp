@@ -2,9 +2,9 @@
 
 #include "Base/KivTextCatalogue.h"
 #include "DrwOptionsServices.h"
-#include "Form/KivLineRows.h"
+#include "Form/KivLineStyleBinding.h"
 #include "Form/KivPageForm.h"
-#include "Form/KivTextRow.h"
+#include "Form/KivTextBinding.h"
 
 #include <utility>
 
@@ -117,7 +117,7 @@ KivFormLine::CheckOf(const KivString& name, KivPropertyOf<T>& property, bool isO
     Place(*button);
     Name(button->GetDialog());
     _form.Connect(button->GetDialog(), button->GetChkBModifyNotification());
-    _form.Add(std::make_unique<KivCheckRow<T>>(button, property, isOnFor1Alone, std::move(rule)));
+    _form.Add(std::make_unique<KivCheckBinding<T>>(button, property, isOnFor1Alone, std::move(rule)));
     return button;
 }
 
@@ -161,7 +161,7 @@ KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivPropertyOf<dou
 {
     if (LeavesOut(property)) return nullptr;
     KivDrwLockSpinner* spinner = BareSpinner(name, property.Info(), kind, look);
-    _form.Add(std::make_unique<KivMeasureRow>(spinner, property, kind, std::move(rule)));
+    _form.Add(std::make_unique<KivMeasureBinding>(spinner, property, kind, std::move(rule)));
     return spinner;
 }
 
@@ -170,7 +170,7 @@ KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivPropertyOf<int
 {
     if (LeavesOut(property)) return nullptr;
     KivDrwLockSpinner* spinner = BareSpinner(name, property.Info(), kind, look);
-    _form.Add(std::make_unique<KivWholeRow>(spinner, property, std::move(rule)));
+    _form.Add(std::make_unique<KivWholeNumberBinding>(spinner, property, std::move(rule)));
     return spinner;
 }
 
@@ -180,7 +180,7 @@ KivDrwLockComboColor* KivFormLine::Color(const KivString& name, KivPropertyOf<Ki
     if (LeavesOut(property)) return nullptr;
     auto* combo = new KivDrwLockComboColor(&_frame, name, property.Info());
     PlaceNamed(*combo, combo->GetCombo());
-    _form.Add(std::make_unique<KivColorRow>(combo, property, std::move(rule)));
+    _form.Add(std::make_unique<KivColorBinding>(combo, property, std::move(rule)));
     return combo;
 }
 
@@ -204,7 +204,7 @@ KivDrwLockCombo* KivFormLine::Choice(const KivString& name, KivPropertyOf<int>& 
 {
     if (LeavesOut(property)) return nullptr;
     KivDrwLockCombo* combo = BareCombo(name, property.Info(), style);
-    _form.Add(std::make_unique<KivChoiceRow>(combo, property, kind, std::move(rule)));
+    _form.Add(std::make_unique<KivChoiceBinding>(combo, property, kind, std::move(rule)));
     return combo;
 }
 
@@ -213,7 +213,7 @@ KivDrwLockCombo* KivFormLine::Names(const KivString& name, KivPropertyOf<KivUnic
 {
     if (LeavesOut(property)) return nullptr;
     KivDrwLockCombo* combo = BareCombo(name, property.Info(), 0UL);
-    _form.Add(std::make_unique<KivNameRow>(combo, property, names, std::move(rule)));
+    _form.Add(std::make_unique<KivNameBinding>(combo, property, names, std::move(rule)));
     return combo;
 }
 
@@ -225,7 +225,7 @@ KivDrwLockComboDashed* KivFormLine::LineType(const KivString& name, KivPropertyO
     PlaceNamed(*combo, combo->GetCombo());
     combo->SetVisibleTextWidth(kLineWidth);
     combo->SetVisibleTextHeight(kLinesHigh);
-    _form.Add(std::make_unique<KivLineTypeRow>(combo, property, Rule()));
+    _form.Add(std::make_unique<KivLineTypeBinding>(combo, property, Rule()));
     return combo;
 }
 
@@ -238,7 +238,7 @@ KivDrwLockComboWeight* KivFormLine::LineWeight(const KivString& name, KivPropert
         inner->SetVisibleTextHeight(kLinesHigh);
         inner->SetVisibleTextWidth(kLineWidth);
     }
-    _form.Add(std::make_unique<KivLineWeightRow>(combo, property, Rule()));
+    _form.Add(std::make_unique<KivLineWeightBinding>(combo, property, Rule()));
     return combo;
 }
 
@@ -253,6 +253,6 @@ KivDrwLockEditor* KivFormLine::Text(const KivString& name, KivPropertyOf<KivUnic
         field->SetVisibleTextWidth(width);
         _form.Connect(field, field->GetEditModifyNotification());
     }
-    _form.Add(std::make_unique<KivTextRow>(editor, property, std::move(rule)));
+    _form.Add(std::make_unique<KivTextBinding>(editor, property, std::move(rule)));
     return editor;
 }

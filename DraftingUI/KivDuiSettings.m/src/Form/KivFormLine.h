@@ -2,8 +2,8 @@
 
 #include "Dialog/KivDlgFrame.h"
 #include "Dialog/KivDlgPushButton.h"
+#include "Form/KivControlBindings.h"
 #include "Form/KivPageColor.h"
-#include "Form/KivPageRows.h"
 #include "Form/KivProperty.h"
 #include "KivSettingKind.h"
 #include "Lock/KivDrwLockCheckButton.h"
@@ -29,7 +29,7 @@ struct KivSpinnerLook {
 // when the form leaves out what has no lock record.
 class KivFormLine {
 public:
-    using Rule = KivPageRow::Rule;
+    using Rule = KivControlBinding::Rule;
 
     KivFormLine(KivPageForm& form, KivDlgFrame& frame, short line) : _form(form), _frame(frame), _line(line)
     {}

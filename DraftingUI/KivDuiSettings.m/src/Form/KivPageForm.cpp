@@ -14,25 +14,25 @@ KivFormGroup KivPageForm::Group(KivDialog& surface, const KivString& name, const
 
 void KivPageForm::ShowLocks()
 {
-    for (const auto& row : _rows) row->ShowLock();
+    for (const auto& binding : _bindings) binding->ShowLock();
 }
 
 void KivPageForm::Show()
 {
-    for (const auto& row : _rows) row->Show();
+    for (const auto& binding : _bindings) binding->Show();
 }
 
 void KivPageForm::Take(KivCommand* from)
 {
     // Storing a value tells others, who may destroy the page.
     const KivWeakPtr<KivCommand> owner(&_owner);
-    for (std::size_t i = 0; i < _rows.size(); ++i) {
-        KivPageRow* const taken = _rows[i].get();
+    for (std::size_t i = 0; i < _bindings.size(); ++i) {
+        KivControlBinding* const taken = _bindings[i].get();
         const bool isTaken = taken->Take(from);
         if (!owner) return;
         if (!isTaken) continue;
-        for (const auto& row : _rows) {
-            if (row.get() != taken && row->IsOf(taken->Property())) row->Show();
+        for (const auto& binding : _bindings) {
+            if (binding.get() != taken && binding->IsOf(taken->Property())) binding->Show();
         }
         return;
     }
@@ -40,8 +40,8 @@ void KivPageForm::Take(KivCommand* from)
 
 void KivPageForm::Show(const KivProperty& property)
 {
-    for (const auto& row : _rows) {
-        if (row->IsOf(property)) row->Show();
+    for (const auto& binding : _bindings) {
+        if (binding->IsOf(property)) binding->Show();
     }
 }
 
@@ -50,32 +50,34 @@ void KivPageForm::Store(const KivProperties& properties)
     // A control that is not there stores nothing.
     const KivWeakPtr<KivCommand> owner(&_owner);
     for (KivProperty* property : properties) {
-        const auto row = std::find_if(_rows.begin(), _rows.end(), [property](const auto& candidate) {
-            return candidate->IsAlive() && candidate->IsOf(*property);
-        });
-        if (row == _rows.end()) continue;
+        const auto binding =
+            std::find_if(_bindings.begin(), _bindings.end(), [property](const auto& candidate) {
+                return candidate->IsAlive() && candidate->IsOf(*property);
+            });
+        if (binding == _bindings.end()) continue;
         property->Save();
         if (!owner) return; // whoever was told of it has destroyed the page
-        (*row)->ShowInForce();
+        (*binding)->ShowInForce();
     }
 }
 
 void KivPageForm::Read(const KivCommand* from)
 {
-    for (const auto& row : _rows) {
-        if (row->ReadIfSender(from)) return;
+    for (const auto& binding : _bindings) {
+        if (binding->ReadIfSender(from)) return;
     }
 }
 
 bool KivPageForm::IsSender(const KivProperty& property, const KivCommand* from) const
 {
-    return std::any_of(_rows.begin(), _rows.end(),
-                       [&](const auto& row) { return row->IsOf(property) && row->IsSender(from); });
+    return std::any_of(_bindings.begin(), _bindings.end(), [&](const auto& binding) {
+        return binding->IsOf(property) && binding->IsSender(from);
+    });
 }
 
 void KivPageForm::ReadAll()
 {
-    for (const auto& row : _rows) row->Read();
+    for (const auto& binding : _bindings) binding->Read();
 }
 
 bool KivPageForm::LeavesOut(const KivProperty& property) const
@@ -84,11 +86,11 @@ bool KivPageForm::LeavesOut(const KivProperty& property) const
     return _refused == Refused::LeaveOut && property.GetInfo(info) < 0;
 }
 
-void KivPageForm::Add(std::unique_ptr<KivPageRow> row)
+void KivPageForm::Add(std::unique_ptr<KivControlBinding> binding)
 {
     // Those of windows that were closed.
-    std::erase_if(_rows, [](const auto& old) { return !old->IsAlive(); });
-    _rows.push_back(std::move(row));
+    std::erase_if(_bindings, [](const auto& old) { return !old->IsAlive(); });
+    _bindings.push_back(std::move(binding));
 }
 
 void KivPageForm::Connect(KivCommand* control, KivNotification* notification)

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "Form/KivControlBinding.h"
 #include "Form/KivFormGroup.h"
-#include "Form/KivPageRow.h"
 
 #include <memory>
 #include <vector>
 
 // The groups and rows of a page or of a window of it, as they are declared: builds each control from its
-// setting's lock record, connects it to the owner's callback, and moves values both ways.
+// setting's lock record, connects it to the owner's callback, and keeps its binding.
 class KivPageForm {
 public:
     // Whether a control is made whose lock record is refused.
@@ -36,7 +36,7 @@ public:
     // Stores the value of the control that sent a notification, and shows it wherever else it is shown.
     void Take(KivCommand* from);
     // Stores those of these properties that have a control, in this order; what the controls show was taken
-    // before. The rows show then what is in force.
+    // before. Their controls show then what is in force.
     void Store(const KivProperties& properties);
     // Takes what the sender shows into its property, runs its rule, and stores nothing.
     void Read(const KivCommand* from);
@@ -45,14 +45,14 @@ public:
     // Whether a control of this property sent a notification.
     bool IsSender(const KivProperty& property, const KivCommand* from) const;
 
-    // For rows that are being declared.
+    // For rows that are being declared: KivFormLine and KivFormGroup.
     bool LeavesOut(const KivProperty& property) const;
-    void Add(std::unique_ptr<KivPageRow> row);
+    void Add(std::unique_ptr<KivControlBinding> binding);
     void Connect(KivCommand* control, KivNotification* notification);
 
 private:
     KivCommand& _owner;
     KivCommand::Method _callback = nullptr;
     Refused _refused;
-    std::vector<std::unique_ptr<KivPageRow>> _rows;
+    std::vector<std::unique_ptr<KivControlBinding>> _bindings;
 };

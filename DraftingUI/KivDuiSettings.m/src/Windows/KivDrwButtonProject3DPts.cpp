@@ -1,6 +1,6 @@
 #include "Windows/KivDrwButtonProject3DPts.h"
 
-#include "Form/KivPageRows.h"
+#include "Form/KivControlBindings.h"
 
 namespace {
 
@@ -34,7 +34,7 @@ void KivDrwButtonProject3DPts::Build()
     _combo->SetGridConstraints(1, 1, 1, 1, KivDlgAttachAllSides);
     _combo->SetVisibleTextWidth(kComboWidth);
     _form.Connect(_combo.Get(), _combo->GetCombo()->GetComboSelectNotification());
-    _form.Add(std::make_unique<KivLockOnlyRow>(frame, _symbol));
+    _form.Add(std::make_unique<KivLockOnlyBinding>(frame, _symbol));
 }
 
 void KivDrwButtonProject3DPts::ShowValues()

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "Form/KivPageRow.h"
+#include "Form/KivTypedBinding.h"
 #include "Lock/KivDrwLockEditor.h"
 
 // A text. It is stored as it was typed.
-class KivTextRow final : public KivValueRow<KivDrwLockEditor, KivUnicodeString> {
+class KivTextBinding final : public KivTypedBinding<KivDrwLockEditor, KivUnicodeString> {
 public:
-    KivTextRow(KivDrwLockEditor* editor, KivPropertyOf<KivUnicodeString>& property, Rule rule);
+    KivTextBinding(KivDrwLockEditor* editor, KivPropertyOf<KivUnicodeString>& property, Rule rule);
 
 private:
     void ShowValue(KivDrwLockEditor& editor, const KivUnicodeString& value) override;

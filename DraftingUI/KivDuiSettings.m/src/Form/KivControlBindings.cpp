@@ -1,4 +1,4 @@
-#include "Form/KivPageRows.h"
+#include "Form/KivControlBindings.h"
 
 #include "Base/KivTextCatalogue.h"
 #include "Form/KivWholeOf.h"
@@ -7,33 +7,34 @@
 #include <algorithm>
 #include <utility>
 
-KivMeasureRow::KivMeasureRow(KivDrwLockSpinner* spinner, KivPropertyOf<double>& property,
-                             const KivSettingKind& kind, Rule rule)
-    : KivValueRow(spinner, property, std::move(rule)), _kind(kind)
+KivMeasureBinding::KivMeasureBinding(KivDrwLockSpinner* spinner, KivPropertyOf<double>& property,
+                                     const KivSettingKind& kind, Rule rule)
+    : KivTypedBinding(spinner, property, std::move(rule)), _kind(kind)
 {}
 
-void KivMeasureRow::ShowValue(KivDrwLockSpinner& spinner, const double& value)
+void KivMeasureBinding::ShowValue(KivDrwLockSpinner& spinner, const double& value)
 {
     KivDrwSettingsServices::UpdateSpinner(&spinner, value * _kind.shownPerStored);
 }
 
-std::optional<double> KivMeasureRow::Reading(KivDrwLockSpinner& spinner)
+std::optional<double> KivMeasureBinding::Reading(KivDrwLockSpinner& spinner)
 {
     double value = 0.0;
     KivDrwSettingsServices::GetValueFromSpinner(&spinner, spinner.GetDialog(), _kind.storedPerShown, value);
     return value;
 }
 
-KivWholeRow::KivWholeRow(KivDrwLockSpinner* spinner, KivPropertyOf<int>& property, Rule rule)
-    : KivValueRow(spinner, property, std::move(rule))
+KivWholeNumberBinding::KivWholeNumberBinding(KivDrwLockSpinner* spinner, KivPropertyOf<int>& property,
+                                             Rule rule)
+    : KivTypedBinding(spinner, property, std::move(rule))
 {}
 
-void KivWholeRow::ShowValue(KivDrwLockSpinner& spinner, const int& value)
+void KivWholeNumberBinding::ShowValue(KivDrwLockSpinner& spinner, const int& value)
 {
     KivDrwSettingsServices::UpdateSpinner(&spinner, static_cast<double>(value));
 }
 
-std::optional<int> KivWholeRow::Reading(KivDrwLockSpinner& spinner)
+std::optional<int> KivWholeNumberBinding::Reading(KivDrwLockSpinner& spinner)
 {
     const int whole = KivWholeOf(spinner.GetValue());
     // What is typed is shown as it counts.
@@ -41,17 +42,18 @@ std::optional<int> KivWholeRow::Reading(KivDrwLockSpinner& spinner)
     return whole;
 }
 
-KivColorRow::KivColorRow(KivDrwLockComboColor* combo, KivPropertyOf<KivPageColor>& property, Rule rule)
-    : KivValueRow(combo, property, std::move(rule))
+KivColorBinding::KivColorBinding(KivDrwLockComboColor* combo, KivPropertyOf<KivPageColor>& property,
+                                 Rule rule)
+    : KivTypedBinding(combo, property, std::move(rule))
 {}
 
-void KivColorRow::ShowValue(KivDrwLockComboColor& combo, const KivPageColor& color)
+void KivColorBinding::ShowValue(KivDrwLockComboColor& combo, const KivPageColor& color)
 {
     if (KivDrwSettingsServices::UpdateComboColor(&combo, color.red, color.green, color.blue) == S_OK) return;
-    if (KivDlgCombo* lines = combo.GetCombo()) lines->SetSelect(-1);
+    if (KivDlgCombo* inner = combo.GetCombo()) inner->SetSelect(-1);
 }
 
-std::optional<KivPageColor> KivColorRow::Reading(KivDrwLockComboColor& combo)
+std::optional<KivPageColor> KivColorBinding::Reading(KivDrwLockComboColor& combo)
 {
     KivPageColor color;
     if (!combo.GetCombo() || combo.GetCombo()->GetSelect() < 0 ||
@@ -61,12 +63,12 @@ std::optional<KivPageColor> KivColorRow::Reading(KivDrwLockComboColor& combo)
     return color;
 }
 
-KivChoiceRow::KivChoiceRow(KivDrwLockCombo* combo, KivPropertyOf<int>& property, const KivSettingKind& kind,
-                           Rule rule)
-    : KivValueRow(combo, property, std::move(rule)), _kind(kind)
+KivChoiceBinding::KivChoiceBinding(KivDrwLockCombo* combo, KivPropertyOf<int>& property,
+                                   const KivSettingKind& kind, Rule rule)
+    : KivTypedBinding(combo, property, std::move(rule)), _kind(kind)
 {}
 
-void KivChoiceRow::ShowValue(KivDrwLockCombo& control, const int& value)
+void KivChoiceBinding::ShowValue(KivDrwLockCombo& control, const int& value)
 {
     KivDlgCombo* combo = control.GetCombo();
     if (!combo) return;
@@ -79,19 +81,19 @@ void KivChoiceRow::ShowValue(KivDrwLockCombo& control, const int& value)
     }
 }
 
-std::optional<int> KivChoiceRow::Reading(KivDrwLockCombo& control)
+std::optional<int> KivChoiceBinding::Reading(KivDrwLockCombo& control)
 {
-    const int line = control.GetCombo() ? control.GetCombo()->GetSelect() : -1;
-    if (line < 0) return {};
-    return _kind.Choices()[static_cast<std::size_t>(line)].value;
+    const int index = control.GetCombo() ? control.GetCombo()->GetSelect() : -1;
+    if (index < 0) return {};
+    return _kind.Choices()[static_cast<std::size_t>(index)].value;
 }
 
-KivNameRow::KivNameRow(KivDrwLockCombo* combo, KivPropertyOf<KivUnicodeString>& property, KivFormNames names,
-                       Rule rule)
-    : KivValueRow(combo, property, std::move(rule)), _names(names)
+KivNameBinding::KivNameBinding(KivDrwLockCombo* combo, KivPropertyOf<KivUnicodeString>& property,
+                               KivFormNames names, Rule rule)
+    : KivTypedBinding(combo, property, std::move(rule)), _names(names)
 {}
 
-void KivNameRow::ShowValue(KivDrwLockCombo& control, const KivUnicodeString& value)
+void KivNameBinding::ShowValue(KivDrwLockCombo& control, const KivUnicodeString& value)
 {
     KivDlgCombo* combo = control.GetCombo();
     if (!combo) return;
@@ -103,7 +105,7 @@ void KivNameRow::ShowValue(KivDrwLockCombo& control, const KivUnicodeString& val
     combo->SetSelect(value);
 }
 
-std::optional<KivUnicodeString> KivNameRow::Reading(KivDrwLockCombo& control)
+std::optional<KivUnicodeString> KivNameBinding::Reading(KivDrwLockCombo& control)
 {
     const KivDlgCombo* combo = control.GetCombo();
     KivUnicodeString name;
@@ -111,12 +113,12 @@ std::optional<KivUnicodeString> KivNameRow::Reading(KivDrwLockCombo& control)
     return name;
 }
 
-KivRadioRow::KivRadioRow(KivDrwLockFrame* frame, KivPropertyOf<int>& property, std::vector<Button> buttons,
-                         std::optional<int> otherwise, Rule rule)
-    : KivValueRow(frame, property, std::move(rule)), _buttons(std::move(buttons)), _otherwise(otherwise)
+KivRadioBinding::KivRadioBinding(KivDrwLockFrame* frame, KivPropertyOf<int>& property,
+                                 std::vector<Button> buttons, std::optional<int> otherwise, Rule rule)
+    : KivTypedBinding(frame, property, std::move(rule)), _buttons(std::move(buttons)), _otherwise(otherwise)
 {}
 
-void KivRadioRow::ShowValue(KivDrwLockFrame&, const int& wanted)
+void KivRadioBinding::ShowValue(KivDrwLockFrame&, const int& wanted)
 {
     const bool isThere = std::any_of(_buttons.begin(), _buttons.end(),
                                      [wanted](const Button& button) { return button.value == wanted; });
@@ -126,7 +128,7 @@ void KivRadioRow::ShowValue(KivDrwLockFrame&, const int& wanted)
     }
 }
 
-std::optional<int> KivRadioRow::Reading(KivDrwLockFrame&)
+std::optional<int> KivRadioBinding::Reading(KivDrwLockFrame&)
 {
     for (const auto& [button, value] : _buttons) {
         if (button && button->GetState() == KivDlgChecked) return value;
@@ -134,7 +136,7 @@ std::optional<int> KivRadioRow::Reading(KivDrwLockFrame&)
     return {};
 }
 
-bool KivRadioRow::IsSender(const KivCommand* from) const
+bool KivRadioBinding::IsSender(const KivCommand* from) const
 {
     return from && std::any_of(_buttons.begin(), _buttons.end(),
                                [from](const Button& button) { return button.button.Get() == from; });

@@ -4,7 +4,7 @@
 #include "Base/KivResult.h"
 #include "Dialog/KivDlgRadioButton.h"
 #include "Form/KivPageColor.h"
-#include "Form/KivPageRow.h"
+#include "Form/KivTypedBinding.h"
 #include "KivDrwSettingsServices.h"
 #include "KivSettingKind.h"
 #include "Lock/KivDrwLockCheckButton.h"
@@ -13,14 +13,14 @@
 #include "Lock/KivDrwLockFrame.h"
 #include "Lock/KivDrwLockSpinner.h"
 
-// The kinds of rows, by the control that they have.
+// The bindings, by the kind of control that they tie.
 
 // A switch: it is read as 1 or 0.
-template <class T> class KivCheckRow final : public KivValueRow<KivDrwLockCheckButton, T> {
+template <class T> class KivCheckBinding final : public KivTypedBinding<KivDrwLockCheckButton, T> {
 public:
-    KivCheckRow(KivDrwLockCheckButton* button, KivPropertyOf<T>& property, bool isOnFor1Alone,
-                KivPageRow::Rule rule)
-        : KivValueRow<KivDrwLockCheckButton, T>(button, property, std::move(rule)),
+    KivCheckBinding(KivDrwLockCheckButton* button, KivPropertyOf<T>& property, bool isOnFor1Alone,
+                    KivControlBinding::Rule rule)
+        : KivTypedBinding<KivDrwLockCheckButton, T>(button, property, std::move(rule)),
           _isOnFor1Alone(isOnFor1Alone)
     {}
 
@@ -41,10 +41,10 @@ private:
 };
 
 // A measure: shown in the spinner's unit, stored in another.
-class KivMeasureRow final : public KivValueRow<KivDrwLockSpinner, double> {
+class KivMeasureBinding final : public KivTypedBinding<KivDrwLockSpinner, double> {
 public:
-    KivMeasureRow(KivDrwLockSpinner* spinner, KivPropertyOf<double>& property, const KivSettingKind& kind,
-                  Rule rule);
+    KivMeasureBinding(KivDrwLockSpinner* spinner, KivPropertyOf<double>& property, const KivSettingKind& kind,
+                      Rule rule);
 
 private:
     void ShowValue(KivDrwLockSpinner& spinner, const double& value) override;
@@ -54,44 +54,40 @@ private:
 };
 
 // A whole number that is typed as a real one: what is typed is cut towards zero and shown so.
-class KivWholeRow final : public KivValueRow<KivDrwLockSpinner, int> {
+class KivWholeNumberBinding final : public KivTypedBinding<KivDrwLockSpinner, int> {
 public:
-    KivWholeRow(KivDrwLockSpinner* spinner, KivPropertyOf<int>& property, Rule rule);
+    KivWholeNumberBinding(KivDrwLockSpinner* spinner, KivPropertyOf<int>& property, Rule rule);
 
 private:
     void ShowValue(KivDrwLockSpinner& spinner, const int& value) override;
     std::optional<int> Reading(KivDrwLockSpinner& spinner) override;
 };
 
-// The lock of a value that its owner shows and reads itself.
-class KivLockOnlyRow final : public KivPageRow {
+// The lock of a property that its owner shows and reads itself.
+class KivLockOnlyBinding final : public KivControlBinding {
 public:
-    KivLockOnlyRow(KivDrwLockDialog* control, KivProperty& property)
-        : KivPageRow(property, {}), _control(control)
+    KivLockOnlyBinding(KivDrwLockDialog* control, KivProperty& property)
+        : KivControlBinding(control, property, {})
     {}
     void Show() override {}
     bool Read() override { return false; }
-
-private:
-    KivDrwLockDialog* Control() const override { return _control.Get(); }
-
-    KivWeakPtr<KivDrwLockDialog> _control;
 };
 
-// A color. What is none, components out of range, shows no line as chosen.
-class KivColorRow final : public KivValueRow<KivDrwLockComboColor, KivPageColor> {
+// A color. What is none, components out of range, shows none as chosen.
+class KivColorBinding final : public KivTypedBinding<KivDrwLockComboColor, KivPageColor> {
 public:
-    KivColorRow(KivDrwLockComboColor* combo, KivPropertyOf<KivPageColor>& property, Rule rule);
+    KivColorBinding(KivDrwLockComboColor* combo, KivPropertyOf<KivPageColor>& property, Rule rule);
 
 private:
     void ShowValue(KivDrwLockComboColor& combo, const KivPageColor& color) override;
     std::optional<KivPageColor> Reading(KivDrwLockComboColor& combo) override;
 };
 
-// A choice from words.
-class KivChoiceRow final : public KivValueRow<KivDrwLockCombo, int> {
+// A choice from texts.
+class KivChoiceBinding final : public KivTypedBinding<KivDrwLockCombo, int> {
 public:
-    KivChoiceRow(KivDrwLockCombo* combo, KivPropertyOf<int>& property, const KivSettingKind& kind, Rule rule);
+    KivChoiceBinding(KivDrwLockCombo* combo, KivPropertyOf<int>& property, const KivSettingKind& kind,
+                     Rule rule);
 
 private:
     void ShowValue(KivDrwLockCombo& combo, const int& value) override;
@@ -104,10 +100,10 @@ private:
 using KivFormNames = HRESULT (*)(KivListOfUnicodeString& names);
 
 // A choice from names that are found when the page is shown, such as files on the disk.
-class KivNameRow final : public KivValueRow<KivDrwLockCombo, KivUnicodeString> {
+class KivNameBinding final : public KivTypedBinding<KivDrwLockCombo, KivUnicodeString> {
 public:
-    KivNameRow(KivDrwLockCombo* combo, KivPropertyOf<KivUnicodeString>& property, KivFormNames names,
-               Rule rule);
+    KivNameBinding(KivDrwLockCombo* combo, KivPropertyOf<KivUnicodeString>& property, KivFormNames names,
+                   Rule rule);
 
 private:
     void ShowValue(KivDrwLockCombo& combo, const KivUnicodeString& value) override;
@@ -117,15 +113,15 @@ private:
 };
 
 // A choice of radio buttons under one padlock. A button that is chosen already stores nothing.
-class KivRadioRow final : public KivValueRow<KivDrwLockFrame, int> {
+class KivRadioBinding final : public KivTypedBinding<KivDrwLockFrame, int> {
 public:
     struct Button {
         KivWeakPtr<KivDlgRadioButton> button;
         int value;
     };
     // Without a value that another button has, the one of `otherwise` is shown as chosen, if there is one.
-    KivRadioRow(KivDrwLockFrame* frame, KivPropertyOf<int>& property, std::vector<Button> buttons,
-                std::optional<int> otherwise, Rule rule);
+    KivRadioBinding(KivDrwLockFrame* frame, KivPropertyOf<int>& property, std::vector<Button> buttons,
+                    std::optional<int> otherwise, Rule rule);
     bool IsSender(const KivCommand* from) const override;
 
 private:
