@@ -20,14 +20,16 @@ using Table = std::unordered_map<std::string, KivSettingValue, Hash, std::equal_
 Table BareTable()
 {
     Table table;
-    for (const KivDrwRow& row : KivDrwCatalogue::Rows()) table.emplace(row.key, row.makeDefault());
+    for (const KivDrwCatalogueEntry& entry : KivDrwCatalogue::Entries())
+        table.emplace(entry.key, entry.makeDefault());
     return table;
 }
 
 std::vector<KivSettingValue> BareValues()
 {
     std::vector<KivSettingValue> values;
-    for (const KivDrwRow& row : KivDrwCatalogue::Rows()) values.push_back(row.makeDefault());
+    for (const KivDrwCatalogueEntry& entry : KivDrwCatalogue::Entries())
+        values.push_back(entry.makeDefault());
     return values;
 }
 
@@ -95,9 +97,9 @@ void BareWriteAll(benchmark::State& state)
 {
     Table table = BareTable();
     for (auto _ : state) {
-        for (const KivDrwRow& row : KivDrwCatalogue::Rows()) {
-            const KivSettingValue value = table.find(std::string_view(row.key))->second;
-            table.find(std::string_view(row.key))->second = value;
+        for (const KivDrwCatalogueEntry& entry : KivDrwCatalogue::Entries()) {
+            const KivSettingValue value = table.find(std::string_view(entry.key))->second;
+            table.find(std::string_view(entry.key))->second = value;
         }
     }
 }

@@ -21,7 +21,7 @@ enum class KivDrwGroup {
 };
 
 // One setting as data.
-struct KivDrwRow {
+struct KivDrwCatalogueEntry {
     KivDrwGroup group;
     const char* key;
     KivSettingValue (*makeDefault)();
@@ -33,9 +33,9 @@ struct KivDrwRow {
 // The catalogue of settings as a table, for whatever goes over many of them.
 namespace KivDrwCatalogue {
 
-// Every row, in writing order, and those of one group.
-std::span<const KivDrwRow> Rows();
-std::span<const KivDrwRow> Rows(KivDrwGroup group);
+// Every entry, in writing order, and those of one group.
+std::span<const KivDrwCatalogueEntry> Entries();
+std::span<const KivDrwCatalogueEntry> Entries(KivDrwGroup group);
 std::span<const KivDrwGroup> Groups();
 
 // The keys that a reset of the group's page returns to the administrator's values: those that it edits, and
@@ -44,7 +44,7 @@ std::vector<const char*> ResetKeys(KivDrwGroup group);
 
 // The group's name: what its tab is called in English.
 const char* NameOf(KivDrwGroup group);
-// The row of a key, or null for a key that is none of the catalogue's.
-const KivDrwRow* Find(std::string_view key);
+// The entry of a key, or null for a key that is none of the catalogue's.
+const KivDrwCatalogueEntry* Find(std::string_view key);
 
 } // namespace KivDrwCatalogue

@@ -7,7 +7,7 @@
 // How new views are generated, as the setting "DrwGenerationModeVal" stores it.
 enum KivDrwGenerationMode { KivDrwExactMode = 0, KivDrwVbxMode = 1, KivDrwRasterMode = 2, KivDrwHrvMode = 3 };
 
-// The kinds of settings that the rows of KivDrwSettings.def name.
+// The kinds of settings that the entries of KivDrwSettings.def name.
 namespace KivDrwKinds {
 
 // Switches, 0 or 1.

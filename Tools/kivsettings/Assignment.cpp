@@ -17,8 +17,8 @@ std::string Read(Assignment& assignment, std::string_view typed, const Settings&
                  const Arguments& arguments)
 {
     const std::string& key = assignment.key;
-    if (const KivDrwRow* row = KivDrwCatalogue::Find(key)) {
-        const std::string wrong = ReadTyped(*row, typed, assignment.value);
+    if (const KivDrwCatalogueEntry* entry = KivDrwCatalogue::Find(key)) {
+        const std::string wrong = ReadTyped(*entry, typed, assignment.value);
         return wrong.empty() ? wrong : key + ": " + wrong;
     }
     if (!arguments.Has("force")) return KeySelection::UnknownWords(key);

@@ -13,7 +13,7 @@ namespace {
 std::vector<Change> OwnChanges(Settings& settings)
 {
     std::vector<std::string> keys = settings.UnknownKeys();
-    for (const KivDrwRow& row : KivDrwCatalogue::Rows()) keys.emplace_back(row.key);
+    for (const KivDrwCatalogueEntry& entry : KivDrwCatalogue::Entries()) keys.emplace_back(entry.key);
     std::vector<Change> changes;
     for (const std::string& key : keys) {
         const Setting setting = settings.Describe(key);

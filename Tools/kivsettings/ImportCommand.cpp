@@ -14,9 +14,9 @@ namespace {
 std::string Fault(const std::string& key, const KivSettingEntry& entry, bool force)
 {
     if (KivIsSettingPattern(key)) return {};
-    const KivDrwRow* const row = KivDrwCatalogue::Find(key);
-    if (!row) return force ? "" : KeySelection::UnknownWords(key);
-    const std::string wrong = KivHasValue(entry.value) ? WrongWith(*row, entry.value) : "";
+    const KivDrwCatalogueEntry* const known = KivDrwCatalogue::Find(key);
+    if (!known) return force ? "" : KeySelection::UnknownWords(key);
+    const std::string wrong = KivHasValue(entry.value) ? WrongWith(*known, entry.value) : "";
     return wrong.empty() ? wrong : key + ": " + wrong;
 }
 

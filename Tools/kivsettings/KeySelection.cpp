@@ -31,7 +31,7 @@ bool KeySelection::IsPattern(std::string_view name)
 std::string KeySelection::Suggestion(std::string_view key)
 {
     std::vector<std::string_view> known;
-    for (const KivDrwRow& row : KivDrwCatalogue::Rows()) known.emplace_back(row.key);
+    for (const KivDrwCatalogueEntry& entry : KivDrwCatalogue::Entries()) known.emplace_back(entry.key);
     return DidYouMean(key, known);
 }
 
@@ -58,7 +58,8 @@ std::optional<std::vector<std::string>> KeySelection::Named(const Settings& sett
         bool isFound = false;
         if (IsPattern(name)) {
             std::vector<std::string> candidates;
-            for (const KivDrwRow& row : KivDrwCatalogue::Rows()) candidates.emplace_back(row.key);
+            for (const KivDrwCatalogueEntry& entry : KivDrwCatalogue::Entries())
+                candidates.emplace_back(entry.key);
             if (force) {
                 for (const std::string& unknown : settings.UnknownKeys()) candidates.push_back(unknown);
             }

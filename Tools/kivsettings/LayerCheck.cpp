@@ -30,8 +30,9 @@ std::vector<KivUnicodeString> Paths(const KivUnicodeString& edited)
 void CheckValues(const KivUnicodeString& path, const KivSettingFile& file, LayerCheck& check)
 {
     for (const KivSettingLine& line : file.Lines()) {
-        const KivDrwRow* const row = KivHasValue(line.value) ? KivDrwCatalogue::Find(line.key) : nullptr;
-        const std::string wrong = row ? WrongWith(*row, line.value) : "";
+        const KivDrwCatalogueEntry* const entry =
+            KivHasValue(line.value) ? KivDrwCatalogue::Find(line.key) : nullptr;
+        const std::string wrong = entry ? WrongWith(*entry, line.value) : "";
         if (wrong.empty()) continue;
         check.findings.push_back(
             {Kind::Wrong, {}, path, line.number, KivString(line.key), KivUnicodeString(wrong)});
@@ -64,7 +65,7 @@ LayerCheck CheckLayers(const KivUnicodeString& editedLayer)
 {
     LayerCheck check;
     std::vector<const char*> known;
-    for (const KivDrwRow& row : KivDrwCatalogue::Rows()) known.push_back(row.key);
+    for (const KivDrwCatalogueEntry& entry : KivDrwCatalogue::Entries()) known.push_back(entry.key);
     // What is said meanwhile is of the list of layers, and said each time that it is read.
     std::set<KivUnicodeString> said;
     std::vector<KivUnicodeString> paths;

@@ -2,7 +2,7 @@
 #include "Commands.h"
 #include "Console.h"
 #include "KeySelection.h"
-#include "SettingRow.h"
+#include "SettingListing.h"
 
 #include <algorithm>
 #include <unistd.h>
@@ -19,8 +19,9 @@ std::vector<std::string> Keys(const Settings& settings, const Arguments& argumen
                               const std::optional<KivDrwGroup>& page)
 {
     std::vector<std::string> keys;
-    for (const KivDrwRow& row : page ? KivDrwCatalogue::Rows(*page) : KivDrwCatalogue::Rows())
-        keys.emplace_back(row.key);
+    for (const KivDrwCatalogueEntry& entry :
+         page ? KivDrwCatalogue::Entries(*page) : KivDrwCatalogue::Entries())
+        keys.emplace_back(entry.key);
     if (arguments.Has("all") && !page) {
         for (const std::string& key : settings.UnknownKeys()) keys.push_back(key);
     }

@@ -9,11 +9,11 @@ Setting Settings::Describe(const std::string& key) const
 {
     Setting setting;
     setting.key = key;
-    setting.row = KivDrwCatalogue::Find(key);
-    if (setting.row) setting.value = setting.fallback = setting.row->makeDefault();
+    setting.entry = KivDrwCatalogue::Find(key);
+    if (setting.entry) setting.value = setting.fallback = setting.entry->makeDefault();
     _repository.ReadSetting(key.c_str(), &setting.value, 1);
     _repository.GetInfo(key.c_str(), &setting.info, 0);
-    if (setting.row) setting.info.ReadAs(KivSettingTypeName(setting.fallback));
+    if (setting.entry) setting.info.ReadAs(KivSettingTypeName(setting.fallback));
     return setting;
 }
 

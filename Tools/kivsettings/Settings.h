@@ -13,15 +13,15 @@ class Console;
 // One setting with all that is known of it.
 struct Setting {
     std::string key;
-    const KivDrwRow* row = nullptr; // null for a key that the catalogue does not know
-    KivSettingValue value;          // in force
-    KivSettingValue fallback;       // the default; none for an unknown key
+    const KivDrwCatalogueEntry* entry = nullptr; // null for a key that the catalogue does not know
+    KivSettingValue value;                       // in force
+    KivSettingValue fallback;                    // the default; none for an unknown key
     KivSettingInfo info;
 
     bool IsLocked() const { return info.locked || info.lockedHere; }
     bool IsChanged() const { return !KivSameValue(value, fallback); }
-    const char* TypeWord() const { return KivSettingTypeWord(row ? fallback : value); }
-    const char* Page() const { return row ? KivDrwCatalogue::NameOf(row->group) : ""; }
+    const char* TypeWord() const { return KivSettingTypeWord(entry ? fallback : value); }
+    const char* Page() const { return entry ? KivDrwCatalogue::NameOf(entry->group) : ""; }
 };
 
 // The drafting settings, as the commands see them.

@@ -55,27 +55,27 @@ std::string ReadTyped(std::string_view type, std::string_view typed, KivSettingV
     return wrong ? wrong : "";
 }
 
-std::string ReadTyped(const KivDrwRow& row, std::string_view typed, KivSettingValue& value)
+std::string ReadTyped(const KivDrwCatalogueEntry& entry, std::string_view typed, KivSettingValue& value)
 {
-    const KivSettingValue fallback = row.makeDefault();
-    const bool isColor = row.kind.color == KivSettingKind::Color::Packed;
+    const KivSettingValue fallback = entry.makeDefault();
+    const bool isColor = entry.kind.color == KivSettingKind::Color::Packed;
     KivSettingValue read;
     const std::string wrong =
         ReadTyped(KivSettingTypeWord(fallback), isColor ? PlainColor(typed) : std::string(typed), read);
     if (!wrong.empty()) return wrong + " (" + KivSettingTypeWord(fallback) + ")";
-    const std::string outside = WrongWith(row, read);
+    const std::string outside = WrongWith(entry, read);
     if (outside.empty()) value = read;
     return outside;
 }
 
-std::string WrongWith(const KivDrwRow& row, const KivSettingValue& value)
+std::string WrongWith(const KivDrwCatalogueEntry& entry, const KivSettingValue& value)
 {
-    const KivSettingValue fallback = row.makeDefault();
+    const KivSettingValue fallback = entry.makeDefault();
     if (value.index() != fallback.index()) {
         return std::string("the value is of the type ") + KivSettingTypeWord(value) + " instead of " +
                KivSettingTypeWord(fallback);
     }
-    const KivSettingKind& kind = row.kind;
+    const KivSettingKind& kind = entry.kind;
     if (kind.Holds(value)) return {};
     return "the value is out of range (" + std::string(kind.name) + ": " + Number(kind.minimum) + " to " +
            Number(kind.maximum) + ")";

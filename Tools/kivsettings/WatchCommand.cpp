@@ -3,7 +3,7 @@
 #include "Console.h"
 #include "FileWatch.h"
 #include "KeySelection.h"
-#include "SettingRow.h"
+#include "SettingListing.h"
 #include "ValueText.h"
 
 #include "Settings/KivSettingLayers.h"

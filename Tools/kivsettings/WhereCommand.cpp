@@ -2,7 +2,7 @@
 #include "Commands.h"
 #include "Console.h"
 #include "KeySelection.h"
-#include "SettingRow.h"
+#include "SettingListing.h"
 
 namespace {
 

@@ -18,13 +18,13 @@ TEST(Catalogue, IsTheOneThatExistingFilesWereWrittenWith)
 {
     std::ifstream kept(KIV_TEST_DATA "/Catalogue.txt");
     std::string line;
-    for (const KivDrwRow& row : KivDrwCatalogue::Rows()) {
-        EXPECT_TRUE(row.kind.Holds(row.makeDefault())) << row.key;
+    for (const KivDrwCatalogueEntry& entry : KivDrwCatalogue::Entries()) {
+        EXPECT_TRUE(entry.kind.Holds(entry.makeDefault())) << entry.key;
         std::getline(kept, line);
-        if (std::string_view(row.key) == "DrwFrameAndTitleBlockPath") {
+        if (std::string_view(entry.key) == "DrwFrameAndTitleBlockPath") {
             EXPECT_EQ(line, "DrwFrameAndTitleBlockPath string computed");
         } else {
-            EXPECT_EQ(line, row.key + (" " + Written(row.makeDefault())));
+            EXPECT_EQ(line, entry.key + (" " + Written(entry.makeDefault())));
         }
     }
     EXPECT_FALSE(std::getline(kept, line)) << line;
@@ -56,7 +56,7 @@ protected:
 TEST_F(FirstStart, PutsEveryKeyOnDiskAndTheSecondChangesNothing)
 {
     KivDrwOptionsServices::InitOptionsOnDisk();
-    EXPECT_EQ(Attributes(), KivDrwCatalogue::Rows().size());
+    EXPECT_EQ(Attributes(), KivDrwCatalogue::Entries().size());
     EXPECT_EQ(KivDrwRead(KivDrwRepository(), KivDrwKeys::KivDrwQmtAnnotLay), 4);
 
     const std::string bytes = box.Bytes(file);
@@ -76,7 +76,7 @@ TEST_F(FirstStart, KeepsWhatThereIsAndGathersWithoutWriting)
     EXPECT_EQ(ResetAndWriteSettings(0), 1);
     EXPECT_EQ(Attributes(), 1U);
     EXPECT_EQ(ResetAndWriteSettings(1), 1);
-    EXPECT_EQ(Attributes(), KivDrwCatalogue::Rows().size());
+    EXPECT_EQ(Attributes(), KivDrwCatalogue::Entries().size());
     int ruler = 0;
     KivDrwRepository()->ReadSetting("Ruler", &ruler, 1);
     EXPECT_EQ(ruler, 1);

@@ -12,7 +12,7 @@ TEST_F(ToolTest, ListsEverySettingAndFilters)
     box.Write(box.File("user"), "double RotSnapAngle = 30\nint Foreign = 1\n");
     const ToolRun all = Run("list");
     EXPECT_EQ(static_cast<std::size_t>(std::count(all.out.begin(), all.out.end(), '\n')),
-              KivDrwCatalogue::Rows().size());
+              KivDrwCatalogue::Entries().size());
     Expect("list --locked", 0, "Ruler\tint\t1\t0\tsite\tsite\tGeneral\n");
     Expect("list --changed --page general", 0,
            "Ruler\tint\t1\t0\tsite\tsite\tGeneral\nRotSnapAngle\tdouble\t30\t15\tuser\t-\tGeneral\n");

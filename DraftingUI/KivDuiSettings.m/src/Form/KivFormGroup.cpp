@@ -5,37 +5,37 @@
 
 #include <utility>
 
-KivFormLine KivFormGroup::Line()
+KivFormRow KivFormGroup::Row()
 {
-    return {_form, _frame, _lines++};
+    return {_form, _frame, _rows++};
 }
 
-KivFormLine KivFormGroup::Line(const KivString& labelName)
+KivFormRow KivFormGroup::Row(const KivString& labelName)
 {
-    KivFormLine line = Line();
-    line.Label(labelName);
-    return line;
+    KivFormRow row = Row();
+    row.Label(labelName);
+    return row;
 }
 
 KivFormGroup KivFormGroup::Part(const KivString& name, short columns)
 {
     auto* part = new KivDlgFrame(&_frame, name, KivDlgGridLayout);
-    part->SetGridConstraints(_lines++, 0, 1, columns, KivDlgAttachAllSides);
+    part->SetGridConstraints(_rows++, 0, 1, columns, KivDlgAttachAllSides);
     return {_form, *part};
 }
 
 KivDrwLockFrame* KivFormGroup::Radios(const KivString& name, KivPropertyOf<int>& property,
-                                      const KivSettingKind& kind, KivFormLine::Rule rule)
+                                      const KivSettingKind& kind, KivFormRow::Rule rule)
 {
-    const short line = _lines++;
+    const short row = _rows++;
     if (_form.LeavesOut(property)) return nullptr;
     auto* frame = new KivDrwLockFrame(&_frame, name, property.Info(), KivDlgGridLayout);
-    frame->SetGridConstraints(line, 0, 1, 1, KivDlgAttachAllSides);
+    frame->SetGridConstraints(row, 0, 1, 1, KivDlgAttachAllSides);
     std::vector<KivRadioBinding::Button> buttons;
-    short row = 0;
+    short buttonRow = 0;
     for (const KivSettingChoice& choice : kind.Choices()) {
         auto* button = new KivDlgRadioButton(frame->GetDialog(), choice.name, 0UL);
-        button->SetGridConstraints(row++, 0, 1, 1, KivDlgAttachAllSides);
+        button->SetGridConstraints(buttonRow++, 0, 1, 1, KivDlgAttachAllSides);
         _form.Connect(button, button->GetRadBModifyNotification());
         buttons.push_back({button, choice.value});
     }

@@ -1,32 +1,32 @@
 #pragma once
 
 #include "Dialog/KivDlgFrame.h"
-#include "Form/KivFormLine.h"
+#include "Form/KivFormRow.h"
 
 class KivPageForm;
 
-// A group of a page while it is declared, line by line.
+// A group of a page while it is declared, row by row.
 class KivFormGroup {
 public:
     KivFormGroup(KivPageForm& form, KivDlgFrame& frame) : _form(form), _frame(frame) {}
 
-    // The next line of controls; with a name, it starts with a label of that name, which names its first
+    // The next row of controls; with a name, it starts with a label of that name, which names its first
     // control.
-    KivFormLine Line();
-    KivFormLine Line(const KivString& labelName);
+    KivFormRow Row();
+    KivFormRow Row(const KivString& labelName);
 
-    // A part of the group with lines of its own, in the place of the next line.
+    // A part of the group with rows of its own, where the next row would be.
     KivFormGroup Part(const KivString& name, short columns = 1);
 
-    // Radio buttons under one padlock, one for each choice, in the place of the next line. The answered frame
+    // Radio buttons under one padlock, one for each choice, where the next row would be. The answered frame
     // belongs to the dialog tree.
     KivDrwLockFrame* Radios(const KivString& name, KivPropertyOf<int>& property, const KivSettingKind& kind,
-                            KivFormLine::Rule rule = {});
+                            KivFormRow::Rule rule = {});
 
     KivDlgFrame& Frame() const { return _frame; }
 
 private:
     KivPageForm& _form;
     KivDlgFrame& _frame;
-    short _lines = 0;
+    short _rows = 0;
 };

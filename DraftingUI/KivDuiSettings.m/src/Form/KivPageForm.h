@@ -45,7 +45,7 @@ public:
     // Whether a control of this property sent a notification.
     bool IsSender(const KivProperty& property, const KivCommand* from) const;
 
-    // For rows that are being declared: KivFormLine and KivFormGroup.
+    // For rows that are being declared: KivFormRow and KivFormGroup.
     bool LeavesOut(const KivProperty& property) const;
     void Add(std::unique_ptr<KivControlBinding> binding);
     void Connect(KivCommand* control, KivNotification* notification);

@@ -11,39 +11,39 @@ constexpr unsigned long kComboStyle = 0x40000;
 void Kiv2DBaseOptAnnotFrm::Build()
 {
     KivFormGroup creation = Group("frameAnnotCreation", "I_DrwText");
-    creation.Line().Check("TextSnappingOn", _textAlongRef);
-    creation.Line().Label("labelSnappingOn");
-    creation.Line().Check("TextLeadSnappingOn", _leaderTextNormal);
-    creation.Line().Check("GDTSnappingOn", _leaderGDTNormal);
+    creation.Row().Check("TextSnappingOn", _textAlongRef);
+    creation.Row().Label("labelSnappingOn");
+    creation.Row().Check("TextLeadSnappingOn", _leaderTextNormal);
+    creation.Row().Check("GDTSnappingOn", _leaderGDTNormal);
 
     BuildMove();
 
     KivFormGroup ditto = Group("frameDittoInv", "I_DrwDitto");
-    ditto.Line().Check("DittoInvViewScale", _dittoWithFixSize);
-    ditto.Line().Check("DittoDrag", _dittoPreventManip);
-    ditto.Line().Check("DittoScale", _dittoPreventScale);
+    ditto.Row().Check("DittoInvViewScale", _dittoWithFixSize);
+    ditto.Row().Check("DittoDrag", _dittoPreventManip);
+    ditto.Row().Check("DittoScale", _dittoPreventScale);
 
     BuildBalloon();
 
     KivFormGroup table = Group("frmTable", "I_DrwTable");
-    table.Line().Check("chkTableResize", _recomputeTable);
-    table.Line().Check("chkTableAutoSplit", _preventTableSplit);
+    table.Row().Check("chkTableResize", _recomputeTable);
+    table.Row().Check("chkTableAutoSplit", _preventTableSplit);
 }
 
 void Kiv2DBaseOptAnnotFrm::BuildMove()
 {
     KivFormGroup move = Group("frameAnnotMove", "I_Select");
-    KivFormLine config = move.Part("frmConfigSnap").Line();
+    KivFormRow config = move.Part("frmConfigSnap").Row();
     config.Spacer("invLock3"); // puts the button in line with the check button below it
     _snapButton = config.Push("pushAnnotActiveSnap");
     AddAnalyseNotificationCB(_snapButton.Get(), _snapButton->GetPushBActivateNotification(),
                              &Kiv2DBaseOptAnnotFrm::NotifPush, nullptr);
-    move.Line().Check("AnnotActivSnap", _snap);
+    move.Row().Check("AnnotActivSnap", _snap);
 }
 
 void Kiv2DBaseOptAnnotFrm::BuildBalloon()
 {
-    KivFormLine balloon = Group("frmBalloon", "I_DrwBalloon").Line();
+    KivFormRow balloon = Group("frmBalloon", "I_DrwBalloon").Row();
     balloon.Check("chkBalAssoc", _balloon3DAssoc);
     // What a balloon shows of its part can be chosen only while balloons are associated with the 3D.
     _rules.AvailableWhile(

@@ -10,7 +10,7 @@ enum Column : short { Left, Right };
 } // namespace
 
 // A state of dimensions: whether it has a color of its own, and which.
-struct Kiv2DBaseOptDimFrm::AnalysisRow {
+struct Kiv2DBaseOptDimFrm::AnalyzedState {
     const char* checkName;
     KivPropertyOf<unsigned char>& isColored;
     const char* comboName;
@@ -29,40 +29,39 @@ void Kiv2DBaseOptDimFrm::Build()
 void Kiv2DBaseOptDimFrm::BuildCreation()
 {
     KivFormGroup creation = Group("frameDimCreation", "I_DrwDim", 0, Left);
-    creation.Line().Check("checkDimSketch", _dimSketch);
-    creation.Line().Check("checkDimDrivingAuto", _dimDrivingAuto);
-    creation.Line().Check("checkDimForce2D", _dimForce2D);
-    creation.Line().Check("checkDimCircle", _dimCircle);
-    creation.Line().Check("checkDimChamfer", _dimDetectChamfer);
-    creation.Line().Check("checkDimApproximate", _assocDimOnApproximate);
+    creation.Row().Check("checkDimSketch", _dimSketch);
+    creation.Row().Check("checkDimDrivingAuto", _dimDrivingAuto);
+    creation.Row().Check("checkDimForce2D", _dimForce2D);
+    creation.Row().Check("checkDimCircle", _dimCircle);
+    creation.Row().Check("checkDimChamfer", _dimDetectChamfer);
+    creation.Row().Check("checkDimApproximate", _assocDimOnApproximate);
 }
 
 void Kiv2DBaseOptDimFrm::BuildLinePos()
 {
     KivFormGroup position = Group("frameDimLinePos", "I_Dim2D", 1, Left);
-    position.Line("labelDimLinePos")
-        .Spinner("spinnerDimLinePos", _dimLinePosValue, KivDrwKinds::SymbolLength);
-    position.Line().At(0, 2).Check("checkDimLinePosRelative", _dimLinePosRelative);
-    position.Line().At(0, 2).Check("checkDimLineUpEnds", _dimLineUpEnds);
+    position.Row("labelDimLinePos").Spinner("spinnerDimLinePos", _dimLinePosValue, KivDrwKinds::SymbolLength);
+    position.Row().At(0, 2).Check("checkDimLinePosRelative", _dimLinePosRelative);
+    position.Row().At(0, 2).Check("checkDimLineUpEnds", _dimLineUpEnds);
 }
 
 void Kiv2DBaseOptDimFrm::BuildLineUp()
 {
     KivFormGroup lineUp = Group("frameDimLineUp", "I_DrwLineUp", 2, Left);
-    KivFormLine base = lineUp.Line("labelLineUpBase");
+    KivFormRow base = lineUp.Row("labelLineUpBase");
     base.Spinner("spinnerLineUpBaseLength", _lineUpBaseOffsetLength, KivDrwKinds::SymbolLength);
     base.Spinner("spinnerLineUpBaseAngle", _lineUpBaseOffsetAngle, KivDrwKinds::Angle);
-    KivFormLine offset = lineUp.Line("labelLineUpOffset");
+    KivFormRow offset = lineUp.Row("labelLineUpOffset");
     offset.Spinner("spinnerLineUpLength", _lineUpOffsetLength, KivDrwKinds::SymbolLength);
     offset.Spinner("spinnerLineUpAngle", _lineUpOffsetAngle, KivDrwKinds::Angle);
-    lineUp.Line().At(0, 3).Check("checkLineUpStack", _lineUpStackVal);
-    lineUp.Line().At(0, 3).Check("checkLineUpCumul", _lineUpCumulVal);
-    lineUp.Line().At(0, 3).Check("checkLineUpFunnel", _lineUpAutoFunnel);
+    lineUp.Row().At(0, 3).Check("checkLineUpStack", _lineUpStackVal);
+    lineUp.Row().At(0, 3).Check("checkLineUpCumul", _lineUpCumulVal);
+    lineUp.Row().At(0, 3).Check("checkLineUpFunnel", _lineUpAutoFunnel);
 }
 
 void Kiv2DBaseOptDimFrm::BuildAnalysis()
 {
-    const AnalysisRow rows[] = {
+    const AnalyzedState states[] = {
         {"checkDimNotUpToDate", _dimNotUpToDate, "comboDimNotUpToDate", _dimNotUpToDateColor},
         {"checkDimNonAssoc", _dimNonAssociative, "comboDimNonAssoc", _dimNonAssociativeColor},
         {"checkDimIsolated", _isolatedDimension, "comboDimIsolated", _isolatedDimensionColor},
@@ -75,23 +74,23 @@ void Kiv2DBaseOptDimFrm::BuildAnalysis()
         {"checkDimNonVis", _dimOnNonVisGeom, "comboDimNonVis", _dimOnNonVisGeomColor},
     };
     KivFormGroup analysis = Group("frameDimAnalysis", "I_ColorChooser", 0, Right, 2);
-    analysis.Line().At(0, 2).Check("checkDimDesignMode", _dimDesignMode);
-    for (const AnalysisRow& row : rows) {
-        KivFormLine line = analysis.Line();
+    analysis.Row().At(0, 2).Check("checkDimDesignMode", _dimDesignMode);
+    for (const AnalyzedState& state : states) {
+        KivFormRow row = analysis.Row();
         _rules.AvailableWhile([this] { return _dimDesignMode.cached; },
-                              {line.Check(row.checkName, row.isColored)});
+                              {row.Check(state.checkName, state.isColored)});
         _rules.AvailableWhile(
-            [this, &isColored = row.isColored] { return _dimDesignMode.cached && isColored.cached; },
-            {line.Color(row.comboName, row.color)});
+            [this, &isColored = state.isColored] { return _dimDesignMode.cached && isColored.cached; },
+            {row.Color(state.comboName, state.color)});
     }
 }
 
 void Kiv2DBaseOptDimFrm::BuildMove()
 {
     KivFormGroup move = Group("frameDimMove", "I_Select", 2, Right);
-    move.Line().Check("checkDimSnap", _dimSnap);
-    KivDrwLockDialog* onGrid = move.Line().Check("checkDimSnapOnGrid", _dimSnapOnGrid);
-    KivDrwLockDialog* value = move.Line().Check("checkDimSnapValue", _dimSnapValue);
+    move.Row().Check("checkDimSnap", _dimSnap);
+    KivDrwLockDialog* onGrid = move.Row().Check("checkDimSnapOnGrid", _dimSnapOnGrid);
+    KivDrwLockDialog* value = move.Row().Check("checkDimSnapValue", _dimSnapValue);
     _rules.AvailableWhile([this] { return _dimSnap.cached; }, {onGrid, value});
-    move.Line().Check("checkDimMoveSubPart", _dimMoveSubPart);
+    move.Row().Check("checkDimMoveSubPart", _dimMoveSubPart);
 }

@@ -88,7 +88,7 @@ public:
     virtual int WithFrameDimMove() { return 0; }
 
 private:
-    struct AnalysisRow;
+    struct AnalyzedState;
 
     void BuildCreation();
     void BuildLinePos();

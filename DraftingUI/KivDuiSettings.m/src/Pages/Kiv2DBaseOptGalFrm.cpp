@@ -4,32 +4,32 @@
 
 void Kiv2DBaseOptGalFrm::Build()
 {
-    if (WithFrameRuler()) Group("frameRuler", "").Line().Check("checkRuler", _showRuler);
+    if (WithFrameRuler()) Group("frameRuler", "").Row().Check("checkRuler", _showRuler);
     if (WithFrameGrid()) BuildGrid();
     if (WithFrameRotation()) BuildRotation();
     if (WithFrameColor()) BuildColor();
     if (WithFrameTree()) {
         KivFormGroup tree = Group("frameTreeVisu", "I_Formula");
-        tree.Line().Check("_checkTreeParameters", _displayParam);
-        tree.Line().Check("_checkTreeFormulas", _displayRelation);
+        tree.Row().Check("_checkTreeParameters", _displayParam);
+        tree.Row().Check("_checkTreeFormulas", _displayRelation);
     }
     if (WithFrame2DAxis()) Build2DAxis();
     if (WithFrameHideWhenStartWkb())
-        Group("frmHideStartWkb", "").Line().Check("chkHideStartWkb", _hideWhenStartWkb);
+        Group("frmHideStartWkb", "").Row().Check("chkHideStartWkb", _hideWhenStartWkb);
 }
 
 void Kiv2DBaseOptGalFrm::BuildGrid()
 {
     KivFormGroup grid = Group("frameGrid", "I_DisplayGrid");
-    grid.Line().Check("checkGrid", _displayGrid);
-    grid.Line().Check("checkSnap", _snapToPoint);
-    grid.Line().Check("checkAllowDistortions", _allowDistortions);
+    grid.Row().Check("checkGrid", _displayGrid);
+    grid.Row().Check("checkSnap", _snapToPoint);
+    grid.Row().Check("checkAllowDistortions", _allowDistortions);
 
-    KivFormLine spacing = grid.Line("labelGridSpacing");
+    KivFormRow spacing = grid.Row("labelGridSpacing");
     spacing.Spinner("editorGridSpacing", _primSpaceH, KivDrwKinds::SheetLength, [this] { MirrorSpacing(); });
     _spacingV = spacing.Spinner("editorGridSpacingV", _primSpaceV, KivDrwKinds::SheetLength);
 
-    KivFormLine graduation = grid.Line("labelGridGraduation");
+    KivFormRow graduation = grid.Row("labelGridGraduation");
     graduation.Spinner("editorGridGraduation", _gradH, KivDrwKinds::Graduation,
                        [this] { MirrorGraduation(); });
     _graduationV = graduation.Spinner("editorGridGraduationV", _gradV, KivDrwKinds::Graduation);
@@ -42,18 +42,18 @@ void Kiv2DBaseOptGalFrm::BuildGrid()
 void Kiv2DBaseOptGalFrm::BuildRotation()
 {
     KivFormGroup rotation = Group("frameRotation", "I_Rotate");
-    rotation.Line("labelRotSnapAngle")
+    rotation.Row("labelRotSnapAngle")
         .Spinner("spinnerRotSnapAngle", _rotationSnapAngle, KivDrwKinds::SnapAngle);
-    rotation.Line().Check("checkRotSnapAuto", _rotationAutoSnap);
+    rotation.Row().Check("checkRotSnapAuto", _rotationAutoSnap);
 }
 
 void Kiv2DBaseOptGalFrm::BuildColor()
 {
     KivFormGroup color = Group("frameColor", "I_ColorChooser");
-    KivFormLine sheet = color.Line("labelBackgroundColor");
+    KivFormRow sheet = color.Row("labelBackgroundColor");
     sheet.Color("comboBackgroundColor", _sheetColor);
     sheet.Check("checkGraduatedColor", _sheetColorGrad);
-    KivFormLine detail = color.Line("labelBackgroundColorDD");
+    KivFormRow detail = color.Row("labelBackgroundColorDD");
     detail.Color("comboBackgroundColorDD", _detailColor);
     detail.Check("checkGraduatedColorDD", _detailColorGrad);
 }
@@ -61,9 +61,9 @@ void Kiv2DBaseOptGalFrm::BuildColor()
 void Kiv2DBaseOptGalFrm::Build2DAxis()
 {
     KivFormGroup axis = Group("frameViewReferential", "I_DisplayViewReferential");
-    axis.Line().Check("checkViewReferential", _2DAxisDisplay);
-    axis.Line().Check("checkViewRefZoom", _2DAxisZoom);
-    axis.Line("labelViewAxisSize").Spinner("spinnerViewAxisSize", _2DAxisLength, KivDrwKinds::SheetLength);
+    axis.Row().Check("checkViewReferential", _2DAxisDisplay);
+    axis.Row().Check("checkViewRefZoom", _2DAxisZoom);
+    axis.Row("labelViewAxisSize").Spinner("spinnerViewAxisSize", _2DAxisLength, KivDrwKinds::SheetLength);
 }
 
 // Without distortions the vertical grid follows the horizontal one; the spinner's notification stores it.

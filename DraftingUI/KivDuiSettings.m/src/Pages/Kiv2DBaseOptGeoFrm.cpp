@@ -13,9 +13,9 @@ void Kiv2DBaseOptGeoFrm::Build()
 {
     if (WithFrameGeomCreation()) {
         KivFormGroup creation = Group("frameGeomCreation", "I_CircleCtrRad", 0, Left);
-        creation.Line().Check("checkCreateCenter", _createGeomCenter);
-        creation.Line().Check("checkEndPtsDupli", _endPtsDupliGenGeom);
-        creation.Line().Check("checkShowHV", _showHV);
+        creation.Row().Check("checkCreateCenter", _createGeomCenter);
+        creation.Row().Check("checkEndPtsDupli", _endPtsDupliGenGeom);
+        creation.Row().Check("checkShowHV", _showHV);
     }
     if (WithFrameConstraint()) BuildConstraint();
     if (WithFrameGeomDrag()) BuildDrag();
@@ -27,25 +27,25 @@ void Kiv2DBaseOptGeoFrm::BuildConstraint()
 {
     KivFormGroup constraint = Group("frameConstraint", "I_DrwConstraint", 0, Right, 2);
     _rules.AvailableWhile([this] { return FindsAnything(); },
-                          {constraint.Line().At(0, 2).Check("checkCstCreation", _cstCreation)});
-    constraint.Line().At(0, 2).Check("checkCstVisu", _cstVisu);
+                          {constraint.Row().At(0, 2).Check("checkCstCreation", _cstCreation)});
+    constraint.Row().At(0, 2).Check("checkCstVisu", _cstVisu);
     std::vector<KivDrwLockDialog*> shown = {
-        constraint.Line("labelCstRefSize")
+        constraint.Row("labelCstRefSize")
             .Spinner("spinnerCstRefSize", _cstRefSize, KivDrwKinds::SymbolLength),
-        constraint.Line("labelCstColor").Color("comboCstColor", _cstColor)};
-    struct KindRow {
+        constraint.Row("labelCstColor").Color("comboCstColor", _cstColor)};
+    struct Symbol {
         const char* name;
         KivPropertyOf<unsigned char>& property;
     };
-    const KindRow kinds[][2] = {
+    const Symbol symbols[][2] = {
         {{"checkCstHori", _cstVisuHori}, {"checkCstVerti", _cstVisuVerti}},
         {{"checkCstPara", _cstVisuPara}, {"checkCstPerpen", _cstVisuPerpen}},
         {{"checkCstConcen", _cstVisuConcen}, {"checkCstCoinci", _cstVisuCoinci}},
         {{"checkCstTangen", _cstVisuTangen}, {"checkCstSym", _cstVisuSym}},
     };
-    for (const auto& pair : kinds) {
-        KivFormLine line = constraint.Line();
-        for (const auto& [name, property] : pair) shown.push_back(line.Check(name, property));
+    for (const auto& pair : symbols) {
+        KivFormRow row = constraint.Row();
+        for (const auto& [name, property] : pair) shown.push_back(row.Check(name, property));
     }
     _rules.AvailableWhile([this] { return _cstVisu.cached; }, shown);
 }
@@ -53,8 +53,8 @@ void Kiv2DBaseOptGeoFrm::BuildConstraint()
 void Kiv2DBaseOptGeoFrm::BuildDrag()
 {
     KivFormGroup drag = Group("frameGeomDrag", "I_Select", 1, Left);
-    drag.Line().Check("checkGeomManip", _allowGeomManip);
-    KivDrwLockDialog* endPoints = drag.Line().Check("checkDragEndPts", _dragWithEndPts);
+    drag.Row().Check("checkGeomManip", _allowGeomManip);
+    KivDrwLockDialog* endPoints = drag.Row().Check("checkDragEndPts", _dragWithEndPts);
     KivDrwLockDialog* modes = drag.Radios("frameDragMode", _dragSolveMode, KivDrwKinds::DragMode);
     _rules.AvailableWhile([this] { return _allowGeomManip.cached; }, {endPoints, modes});
 }
@@ -62,12 +62,12 @@ void Kiv2DBaseOptGeoFrm::BuildDrag()
 void Kiv2DBaseOptGeoFrm::BuildSmartPick()
 {
     KivFormGroup pick = Group("frameSmartPick", "I_SmartPick", 2, Left);
-    pick.Line().At(0, 2).Check("checkPickCoincid", _smartPickCoincid);
-    pick.Line().At(0, 2).Check("checkPickAlign", _smartPickAlign);
-    pick.Line().At(0, 2).Check("checkPickParaPerpenTang", _smartPickParaPerpenTang);
-    pick.Line().At(0, 2).Check("checkPickHoriVerti", _smartPickHoriVerti);
+    pick.Row().At(0, 2).Check("checkPickCoincid", _smartPickCoincid);
+    pick.Row().At(0, 2).Check("checkPickAlign", _smartPickAlign);
+    pick.Row().At(0, 2).Check("checkPickParaPerpenTang", _smartPickParaPerpenTang);
+    pick.Row().At(0, 2).Check("checkPickHoriVerti", _smartPickHoriVerti);
     _rules.AvailableWhile([this] { return FindsAnything(); },
-                          {pick.Line("labelSmartPickColor").Color("comboSmartPickColor", _smartPickColor)});
+                          {pick.Row("labelSmartPickColor").Color("comboSmartPickColor", _smartPickColor)});
 }
 
 // Constraints are created from what smart picking has found.
@@ -80,11 +80,11 @@ bool Kiv2DBaseOptGeoFrm::FindsAnything() const
 void Kiv2DBaseOptGeoFrm::BuildColor()
 {
     KivFormGroup color = Group("frameGeomColor", "I_ColorChooser", 2, Right);
-    color.Line().At(0, 2).Check("checkVisuDiagnostic", _visuDiagnostic);
+    color.Row().At(0, 2).Check("checkVisuDiagnostic", _visuDiagnostic);
     _rules.AvailableWhile([this] { return _visuDiagnostic.cached; },
-                          {color.Line("labelOverCons").Color("comboOverCons", _overConsEltsColor),
-                           color.Line("labelIncons").Color("comboIncons", _inconsEltsColor),
-                           color.Line("labelNotChan").Color("comboNotChan", _notChanEltsColor),
-                           color.Line("labelIsoCons").Color("comboIsoCons", _isoConsEltsColor)});
-    color.Line("labelConst").Color("comboConst", _constEltsColor);
+                          {color.Row("labelOverCons").Color("comboOverCons", _overConsEltsColor),
+                           color.Row("labelIncons").Color("comboIncons", _inconsEltsColor),
+                           color.Row("labelNotChan").Color("comboNotChan", _notChanEltsColor),
+                           color.Row("labelIsoCons").Color("comboIsoCons", _isoConsEltsColor)});
+    color.Row("labelConst").Color("comboConst", _constEltsColor);
 }

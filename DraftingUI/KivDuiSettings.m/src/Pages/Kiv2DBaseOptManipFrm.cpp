@@ -12,7 +12,7 @@ enum Column : short { Icon, Kind, Creation, Gap, Modification };
 } // namespace
 
 // A kind of handle: its icon, its texts and its two switches.
-struct Kiv2DBaseOptManipFrm::DimRow {
+struct Kiv2DBaseOptManipFrm::Handle {
     const char* icon;
     const char* iconName;
     const char* labelName;
@@ -31,14 +31,14 @@ void Kiv2DBaseOptManipFrm::Build()
 void Kiv2DBaseOptManipFrm::BuildManipulator()
 {
     KivFormGroup manipulator = Group("frameManip", "I_Select");
-    manipulator.Line("labelManipRefSize")
+    manipulator.Row("labelManipRefSize")
         .Spinner("editorManipRefSize", _manipRefSize, KivDrwKinds::SymbolLength);
-    manipulator.Line().Check("checkManipZoom", _manipZoom);
+    manipulator.Row().Check("checkManipZoom", _manipZoom);
 }
 
 void Kiv2DBaseOptManipFrm::BuildDimManipulators()
 {
-    const DimRow rows[] = {
+    const Handle handles[] = {
         {"S_DrwManipTranslation", "_labelIconORun", "_labelDimORun", "_checkDimORunCre", _dimORunCre,
          "_checkDimORunMod", _dimORunMod},
         {"S_DrwManipTranslation", "_labelIconBlank", "_labelDimBlank", "_checkDimBlankCre", _dimBlankCre,
@@ -55,23 +55,23 @@ void Kiv2DBaseOptManipFrm::BuildDimManipulators()
          _dimMove2dPartCre, "_checkDimMove2dPartMod", _dimMove2dPartMod},
     };
     KivFormGroup dimension = Group("frameDim", "I_DrwDim");
-    KivFormLine header = dimension.Line();
+    KivFormRow header = dimension.Row();
     header.At(Creation).Attached(KivDlgAttachAllSidesCentered).PlainLabel("_labelDimCreation");
     // Keeps the two columns of switches apart.
     header.Attached(KivDlgAttachAllSidesCentered).PlainLabel("_labelSpaceDim")->SetTitle("   ");
     header.Attached(KivDlgAttachAllSidesCentered).PlainLabel("_labelDimModification");
-    for (const DimRow& row : rows) BuildDimRow(dimension.Line(), row);
+    for (const Handle& handle : handles) BuildHandle(dimension.Row(), handle);
 }
 
-void Kiv2DBaseOptManipFrm::BuildDimRow(KivFormLine line, const DimRow& row)
+void Kiv2DBaseOptManipFrm::BuildHandle(KivFormRow row, const Handle& handle)
 {
-    line.Attached(KivDlgAttachAllSidesCentered).Picture(row.iconName)->SetIconName(row.icon, "", "", "");
-    line.Attached(kFilledCentered).PlainLabel(row.labelName);
+    row.Attached(KivDlgAttachAllSidesCentered).Picture(handle.iconName)->SetIconName(handle.icon, "", "", "");
+    row.Attached(kFilledCentered).PlainLabel(handle.labelName);
     for (KivDrwLockCheckButton* button :
-         {line.At(Creation).Check(row.creationName, row.creation),
-          line.At(Modification).Check(row.modificationName, row.modification)}) {
+         {row.At(Creation).Check(handle.creationName, handle.creation),
+          row.At(Modification).Check(handle.modificationName, handle.modification)}) {
         if (!button) continue;
         button->SetTitle("");
-        button->SetLongHelp(line.LabelHelp());
+        button->SetLongHelp(row.LabelHelp());
     }
 }

@@ -47,8 +47,8 @@ public:
     virtual int WithFrameDimManipulator() { return 0; }
 
 private:
-    struct DimRow;
+    struct Handle;
     void BuildManipulator();
     void BuildDimManipulators();
-    void BuildDimRow(KivFormLine line, const DimRow& row);
+    void BuildHandle(KivFormRow row, const Handle& handle);
 };

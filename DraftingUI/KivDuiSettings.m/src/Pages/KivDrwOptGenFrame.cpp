@@ -19,7 +19,7 @@ void KivDrwOptGenFrame::Build()
 {
     BuildDimensions();
     Group("frameGenBal", "I_DrwGenballoon", kBalloonRow)
-        .Line()
+        .Row()
         .Check("checkGenBalloonByInstance", _genBalloonByInstance);
 }
 
@@ -27,19 +27,19 @@ void KivDrwOptGenFrame::BuildDimensions()
 {
     KivFormGroup dimensions = Group("frameGenDim", "I_GenDim", kDimensionRow);
     const auto timeOut = [&] {
-        KivFormLine line = dimensions.Line();
+        KivFormRow row = dimensions.Row();
         // The label never grays, deliberately.
-        line.Label("labelGenDimSemiAuto")->GetDialog()->SetGraysWithControl(false);
-        return line.Spinner("spinnerGenDimSemiAuto", _genDimSemiAutoTimeOut, _genDimSemiAutoTimeOut.Kind(),
-                            {}, kTimeOutLook);
+        row.Label("labelGenDimSemiAuto")->GetDialog()->SetGraysWithControl(false);
+        return row.Spinner("spinnerGenDimSemiAuto", _genDimSemiAutoTimeOut, _genDimSemiAutoTimeOut.Kind(), {},
+                           kTimeOutLook);
     };
     const std::vector<KivDrwLockDialog*> controls = {
-        dimensions.Line().At(0, 2).Check("checkGenDim", _genDim),
-        dimensions.Line().Check("checkGenDimFilter", _genDimFilter),
-        dimensions.Line().At(0, 2).Check("checkGenDimAutoPos", _genDimAutoPos),
-        dimensions.Line().At(0, 2).Check("checkGenDimAutoTrans", _genDimAutoTrans),
-        dimensions.Line().Check("checkGenDimAnal", _genDimAnal),
-        dimensions.Line().At(0, 2).Check("checkGenDimFromPart", _genDimFromPart),
+        dimensions.Row().At(0, 2).Check("checkGenDim", _genDim),
+        dimensions.Row().Check("checkGenDimFilter", _genDimFilter),
+        dimensions.Row().At(0, 2).Check("checkGenDimAutoPos", _genDimAutoPos),
+        dimensions.Row().At(0, 2).Check("checkGenDimAutoTrans", _genDimAutoTrans),
+        dimensions.Row().Check("checkGenDimAnal", _genDimAnal),
+        dimensions.Row().At(0, 2).Check("checkGenDimFromPart", _genDimFromPart),
         timeOut(),
     };
     // Only exact views have dimensions of their own. Balloons and the label never gray, deliberately.

@@ -18,21 +18,21 @@ void KivDrwOptLayoutFrame::Build()
 void KivDrwOptLayoutFrame::BuildViews()
 {
     KivFormGroup shown = Group("frameViewCreation", "I_DrwFrontView");
-    shown.Line().At(0, 2).Check("checkViewName", _viewName);
-    shown.Line().At(0, 2).Check("checkViewScale", _viewScale);
-    shown.Line().At(0, 2).Check("checkViewFrame", _viewFrame);
-    shown.Line("labelCalloutSize").Choice("comboCalloutSize", _calloutSize, _calloutSize.Kind(), 0UL);
+    shown.Row().At(0, 2).Check("checkViewName", _viewName);
+    shown.Row().At(0, 2).Check("checkViewScale", _viewScale);
+    shown.Row().At(0, 2).Check("checkViewFrame", _viewFrame);
+    shown.Row("labelCalloutSize").Choice("comboCalloutSize", _calloutSize, _calloutSize.Kind(), 0UL);
 
     KivFormGroup placed = Group("frameViewPosition", "I_DrwViewPosition");
-    placed.Line().Check("checkViewOrientation", _viewOrientation);
-    placed.Line().Check("checkStrictPositioning", _strictPositioning);
-    placed.Line().Check("checkGenPropagation", _genPropagation);
+    placed.Row().Check("checkViewOrientation", _viewOrientation);
+    placed.Row().Check("checkStrictPositioning", _strictPositioning);
+    placed.Row().Check("checkGenPropagation", _genPropagation);
 }
 
 void KivDrwOptLayoutFrame::BuildSheets()
 {
     KivFormGroup sheet = Group("frameNewSheet", "I_DrwNewSheet");
-    sheet.Line().Check("checkBackgroundToCopy", _backgroundViewToCopy);
+    sheet.Row().Check("checkBackgroundToCopy", _backgroundViewToCopy);
     KivDrwLockDialog* sources = sheet.Radios("frameSheetSource", _sourceSheetType, _sourceSheetType.Kind());
     _rules.AvailableWhile([this] { return _backgroundViewToCopy.cached; }, {sources});
 }
@@ -41,9 +41,9 @@ void KivDrwOptLayoutFrame::BuildTitleBlock()
 {
     KivFormGroup titleBlock = Group("frameTitleBlock", "I_DrwTitleBlock");
     _titleBlockField =
-        titleBlock.Line("labelTitleBlockPath")
+        titleBlock.Row("labelTitleBlockPath")
             .Text("editorTitleBlockPath", _titleBlockPath, kPathWidth, [this] { MarkDirectory(); });
-    _missingLabel = titleBlock.Line().At(1).Label("labelTitleBlockMissing");
+    _missingLabel = titleBlock.Row().At(1).Label("labelTitleBlockMissing");
     KivDlgEditor* field = _titleBlockField ? _titleBlockField->GetEditor() : nullptr;
     if (!field) return;
     field->SetIsDirectory(true);

@@ -8,15 +8,15 @@ constexpr int kStyleWidth = 15; // characters
 
 void KivDrwOptTrelFrm::Build()
 {
-    Group("frameGeom", "I_CircleCtrRad").Line().Check("_checkCenterEndPoints", _createCenterEndPts);
+    Group("frameGeom", "I_CircleCtrRad").Row().Check("_checkCenterEndPoints", _createCenterEndPts);
     Group("frameConvertDimensionAsGraphic", "I_Dim2D")
-        .Line()
+        .Row()
         .Check("checkConvertDimensionAsGraphic", _convertDimensionAsGraphic);
     KivFormGroup explode = Group("frameExplode", "I_DrwDitto");
-    explode.Line().Check("chkExplodeDitto", _explodeDitto);
-    explode.Line().Check("chkExplodeSymbolo", _explodeSymbolo);
-    Group("frameBlinkRed", "").Line().Check("checkBlinkRed", _blinkRedValue);
-    KivDrwLockCombo* style = Group("frameGVSXml", "").Line("lbl").Names("chkGVSXml", _gvsXml, &GetGPSList);
+    explode.Row().Check("chkExplodeDitto", _explodeDitto);
+    explode.Row().Check("chkExplodeSymbolo", _explodeSymbolo);
+    Group("frameBlinkRed", "").Row().Check("checkBlinkRed", _blinkRedValue);
+    KivDrwLockCombo* style = Group("frameGVSXml", "").Row("lbl").Names("chkGVSXml", _gvsXml, &GetGPSList);
     if (style->GetCombo()) style->GetCombo()->SetVisibleTextWidth(kStyleWidth);
     // Nobody chooses a generative view style while the administrator prevents such styles.
     _rules.AvailableWhile([this] { return KivDrwRead(_repository, KivDrwKeys::DrwPreventGVS) == 0; },

@@ -39,11 +39,11 @@ void KivDrwOptViewFrame::Build()
     BuildElements(made);
     BuildGeneration(made);
     Group("frameClipping", "I_DrwClippingView")
-        .Line()
+        .Row()
         .Check("chkDimClipNoShow", _dimClipNoShow, _dimClipNoShow.Kind());
     KivFormGroup view3D = Group("frameView3D", "I_DrwZekView");
-    view3D.Line().Check("chkQmtAnnotLay", _qmtAnnotLay);
-    view3D.Line().Check("chkGeomOf2DLView", _geomOf2DLView);
+    view3D.Row().Check("chkQmtAnnotLay", _qmtAnnotLay);
+    view3D.Row().Check("chkGeomOf2DLView", _geomOf2DLView);
 
     _enabling = {
         {{made.axis, made.center, made.thread, made.fillets, made.wireframe}, {kExact}},
@@ -64,33 +64,33 @@ void KivDrwOptViewFrame::BuildElements(Controls& made)
 {
     _form.SetCallback(&KivDrwOptViewFrame::Write);
     KivFormGroup elements = Group("frameGenElem", "I_DrwFrontView");
-    KivFormLine axis = elements.Line();
+    KivFormRow axis = elements.Row();
     made.axis = axis.Check("_checkGenAxis", _genAxis);
     made.thread = axis.Attached(KivDlgAttachAllSidesCentered).Check("_checkGenThread", _genThread);
-    KivFormLine center = elements.Line();
+    KivFormRow center = elements.Row();
     made.center = center.Check("_checkGenCenter", _genCenter);
     made.hiddenLines = center.Check("_checkGenHiddenLines", _genHiddenLines);
 
-    KivFormLine fillets = elements.Part("frameButtonGenFil", 3).Line();
+    KivFormRow fillets = elements.Part("frameButtonGenFil", 3).Row();
     made.fillets = fillets.Check("_checkGenFil", _genFil);
     fillets.Spacer("invisibleLock2");
     made.filletsPush = BuildPush(fillets, "pushGenFil", &KivDrwOptViewFrame::PushGenFil);
 
-    made.colors = elements.Line().At(0, 2).Check("_checkGen3DColors", _gen3DColors);
+    made.colors = elements.Row().At(0, 2).Check("_checkGen3DColors", _gen3DColors);
 
-    KivFormLine wireframe = elements.Part("frmWireFrame", 2).Line();
+    KivFormRow wireframe = elements.Part("frmWireFrame", 2).Row();
     made.wireframe = wireframe.Check("checkGenWireFrame", _genWireFrame);
     made.wireframePush =
         BuildPush(wireframe.At(2), "pushGenWireFrameMod", &KivDrwOptViewFrame::WireFrameModButton);
 
-    KivFormLine points = elements.Part("frameProject3DPts", 2).Line();
+    KivFormRow points = elements.Part("frameProject3DPts", 2).Row();
     made.points = points.Check("checkProject3DPts", _project3DPts);
     points.Spacer("invisibleLock3");
     made.pointsPush = BuildPush(points, "project3DPtsPushButton", &KivDrwOptViewFrame::Project3DPtsButton);
 
-    made.uncut = elements.Line().At(0, 2).Check("checkGenApplyUncut", _genApplyUncut);
+    made.uncut = elements.Row().At(0, 2).Check("checkGenApplyUncut", _genApplyUncut);
 
-    KivFormLine lines = elements.Part("frameButtonLinetype", 3).Line("labelLinetype");
+    KivFormRow lines = elements.Part("frameButtonLinetype", 3).Row("labelLinetype");
     lines.Spacer("invisibleLock1");
     made.linesPush = BuildPush(lines, "linetypePushButton", &KivDrwOptViewFrame::LinetypeButton);
 }
@@ -99,24 +99,24 @@ void KivDrwOptViewFrame::BuildGeneration(Controls& made)
 {
     KivFormGroup generation = Group("frameGenView", "I_DrwFrontView");
     _form.SetCallback(&KivDrwOptViewFrame::GenFromVbxCallback);
-    KivFormLine mode = generation.Part("frmViewMod", 2).Line("lbl");
+    KivFormRow mode = generation.Part("frmViewMod", 2).Row("lbl");
     mode.Choice("combViewMod", _mode, _mode.Kind(), kComboStyle);
     _form.SetCallback(&KivDrwOptViewFrame::Write);
     mode.Spacer("lbl1");
     made.picturesPush = BuildPush(mode, "pushRasterOptions", &KivDrwOptViewFrame::PushRasterOptions);
 
-    made.exactPreview = generation.Line().Check("chkExactPreview", _exactPreview);
-    KivFormLine box = generation.Part("frmGenBox").Line();
+    made.exactPreview = generation.Row().Check("chkExactPreview", _exactPreview);
+    KivFormRow box = generation.Part("frmGenBox").Row();
     const KivDrwLockCheckButton* check = box.At(1).Check("checkGenBox", _genBox);
     made.boxTolerance = box.Spinner("spinGenBox", _genBoxTol, _genBoxTol.Kind());
     made.boxTolerance->SetLongHelp(check->GetLongHelp());
-    made.culling = generation.Line().Check("chkOcclusionCulling", _occlusionCulling);
-    generation.Line().Check("chkSelBodyInAss", _selBodyInAss, _selBodyInAss.Kind());
+    made.culling = generation.Row().Check("chkOcclusionCulling", _occlusionCulling);
+    generation.Row().Check("chkSelBodyInAss", _selBodyInAss, _selBodyInAss.Kind());
 }
 
-KivDlgPushButton* KivDrwOptViewFrame::BuildPush(KivFormLine line, const KivString& name, Callback callback)
+KivDlgPushButton* KivDrwOptViewFrame::BuildPush(KivFormRow row, const KivString& name, Callback callback)
 {
-    KivDlgPushButton* button = line.Push(name);
+    KivDlgPushButton* button = row.Push(name);
     AddAnalyseNotificationCB(button, button->GetPushBActivateNotification(), callback, nullptr);
     return button;
 }

@@ -34,7 +34,7 @@ private:
     struct Controls;
     void BuildElements(Controls& made);
     void BuildGeneration(Controls& made);
-    KivDlgPushButton* BuildPush(KivFormLine line, const KivString& name, Callback callback);
+    KivDlgPushButton* BuildPush(KivFormRow row, const KivString& name, Callback callback);
     bool StyleGoverns() const;
     void Apply(KivDrwViewOccasion occasion) const;
     template <class Window> void OpenWindow(const char* name, const char* catalogue, const char* title);

@@ -61,7 +61,7 @@ const KivDrwKey<unsigned int>* DiagnosticColor(int diagnostic)
 
 } // namespace
 
-// The pairs of getter and setter, a row each. Every name is written out and can be searched.
+// The pairs of getter and setter, one an entry. Every name is written out and can be searched.
 
 // A setter alone, for a getter with a rule of its own: it stores what Fit makes of the value under the key
 // and tells the listeners by the operation Tell.

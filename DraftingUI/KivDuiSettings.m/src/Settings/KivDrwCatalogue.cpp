@@ -11,17 +11,17 @@ template <const auto& key> KivSettingValue DefaultOf()
     return key.makeDefault();
 }
 
-constexpr KivDrwRow kRows[] = {
-#define KIV_ROW(group, key, kind, onPage, source)                                                            \
+constexpr KivDrwCatalogueEntry kEntries[] = {
+#define KIV_ENTRY(group, key, kind, onPage, source)                                                          \
     {group, #key, &DefaultOf<KivDrwKeys::key>, KivDrwKinds::kind, onPage, #source},
-#define KIV_SETTING(group, type, key, function, value, kind) KIV_ROW(group, key, kind, true, key)
-#define KIV_COMPUTED(group, type, key, function, kind) KIV_ROW(group, key, kind, true, key)
-#define KIV_RESET_ONLY(group, type, key, function, value, kind) KIV_ROW(group, key, kind, false, key)
-#define KIV_LITERAL(group, type, key, value, kind) KIV_ROW(group, key, kind, false, key)
+#define KIV_SETTING(group, type, key, function, value, kind) KIV_ENTRY(group, key, kind, true, key)
+#define KIV_COMPUTED(group, type, key, function, kind) KIV_ENTRY(group, key, kind, true, key)
+#define KIV_RESET_ONLY(group, type, key, function, value, kind) KIV_ENTRY(group, key, kind, false, key)
+#define KIV_LITERAL(group, type, key, value, kind) KIV_ENTRY(group, key, kind, false, key)
 #define KIV_WRITTEN_FROM(group, type, key, function, value, kind, source)                                    \
-    KIV_ROW(group, key, kind, true, source)
+    KIV_ENTRY(group, key, kind, true, source)
 #include "KivDrwSettings.def"
-#undef KIV_ROW
+#undef KIV_ENTRY
 };
 
 constexpr KivDrwGroup kGroups[] = {General,   Layout,       View,       Generation, Geometry,
@@ -32,19 +32,19 @@ constexpr const char* kGroupNames[] = {"General",       "Layout",        "View",
 
 } // namespace
 
-std::span<const KivDrwRow> KivDrwCatalogue::Rows()
+std::span<const KivDrwCatalogueEntry> KivDrwCatalogue::Entries()
 {
-    return kRows;
+    return kEntries;
 }
 
-std::span<const KivDrwRow> KivDrwCatalogue::Rows(KivDrwGroup group)
+std::span<const KivDrwCatalogueEntry> KivDrwCatalogue::Entries(KivDrwGroup group)
 {
-    const auto rows = Rows();
+    const auto entries = Entries();
     std::size_t first = 0;
-    while (first < rows.size() && rows[first].group != group) ++first;
+    while (first < entries.size() && entries[first].group != group) ++first;
     std::size_t last = first;
-    while (last < rows.size() && rows[last].group == group) ++last;
-    return rows.subspan(first, last - first);
+    while (last < entries.size() && entries[last].group == group) ++last;
+    return entries.subspan(first, last - first);
 }
 
 std::span<const KivDrwGroup> KivDrwCatalogue::Groups()
@@ -55,8 +55,8 @@ std::span<const KivDrwGroup> KivDrwCatalogue::Groups()
 std::vector<const char*> KivDrwCatalogue::ResetKeys(KivDrwGroup group)
 {
     std::vector<const char*> keys;
-    for (const KivDrwRow& row : Rows(group)) {
-        if (row.onPage) keys.push_back(row.key);
+    for (const KivDrwCatalogueEntry& entry : Entries(group)) {
+        if (entry.onPage) keys.push_back(entry.key);
     }
     // A setting of the General page that has neither a control nor a default.
     if (group == General) keys.push_back("DrwAreaFillTol");
@@ -68,10 +68,10 @@ const char* KivDrwCatalogue::NameOf(KivDrwGroup group)
     return kGroupNames[static_cast<std::size_t>(group)];
 }
 
-const KivDrwRow* KivDrwCatalogue::Find(std::string_view key)
+const KivDrwCatalogueEntry* KivDrwCatalogue::Find(std::string_view key)
 {
-    for (const KivDrwRow& row : kRows) {
-        if (row.key == key) return &row;
+    for (const KivDrwCatalogueEntry& entry : kEntries) {
+        if (entry.key == key) return &entry;
     }
     return nullptr;
 }

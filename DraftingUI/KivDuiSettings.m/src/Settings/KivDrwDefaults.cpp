@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-// The constant defaults, and from their rows alone.
+// The constant defaults, and from their entries alone.
 #define KIV_SETTING(group, type, key, function, value, kind)                                                 \
     type function()                                                                                          \
     {                                                                                                        \

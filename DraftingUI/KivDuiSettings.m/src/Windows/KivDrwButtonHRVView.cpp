@@ -44,9 +44,9 @@ KivDrwButtonHRVView::KivDrwButtonHRVView(KivDialog* parent, const KivString& nam
 void KivDrwButtonHRVView::Build()
 {
     KivFormGroup options = _form.Group(*this, "frmHRVOptions", "");
-    KivFormLine line = options.Line();
-    line.Attached(kTopAndBottom).Label("lblHRVLOD");
-    _spinner = line.Attached(kTopAndBottom)
+    KivFormRow row = options.Row();
+    row.Attached(kTopAndBottom).Label("lblHRVLOD");
+    _spinner = row.Attached(kTopAndBottom)
                    .Spinner(
                        "spinHRVLOD", _level, _level.Kind(), [this] { MoveCursor(); }, kLook);
     BuildViewer(&options.Frame());

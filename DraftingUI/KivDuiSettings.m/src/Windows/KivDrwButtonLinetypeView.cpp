@@ -10,7 +10,7 @@ KivDrwButtonLinetypeView::KivDrwButtonLinetypeView(KivDialog* parent, const KivS
 void KivDrwButtonLinetypeView::Build()
 {
     _form.SetCallback(&KivDrwButtonLinetypeView::OnChange);
-    struct Row {
+    struct ViewKind {
         const char* label;
         const char* typeName;
         KivPropertyOf<unsigned int>& type;
@@ -20,7 +20,7 @@ void KivDrwButtonLinetypeView::Build()
         const char* thicknessKey;
     };
     // Only the keys of the thicknesses begin with "Drw".
-    const Row rows[] = {
+    const ViewKind kinds[] = {
         {"lblSection", "comboSectionLinetype", _sectionType, KivDrwKeys::SectionLinetype.name,
          "comboSectionThickness", _sectionThickness, KivDrwKeys::DrwSectionThickness.name},
         {"lblDetail", "comboDetailLinetype", _detailType, KivDrwKeys::DetailLinetype.name,
@@ -33,10 +33,10 @@ void KivDrwButtonLinetypeView::Build()
          _skinThickness, KivDrwKeys::DrwSkinThickness.name},
     };
     KivFormGroup group = _form.Group(*this, "frameButtonLinetype", "I_DrwFrontView");
-    for (const Row& row : rows) {
-        KivFormLine line = group.Line(row.label);
-        line.LineType(row.typeName, row.type, _repository, row.typeKey);
-        line.LineWeight(row.thicknessName, row.thickness, _repository, row.thicknessKey);
+    for (const ViewKind& kind : kinds) {
+        KivFormRow row = group.Row(kind.label);
+        row.LineType(kind.typeName, kind.type, _repository, kind.typeKey);
+        row.LineWeight(kind.thicknessName, kind.thickness, _repository, kind.thicknessKey);
     }
 }
 

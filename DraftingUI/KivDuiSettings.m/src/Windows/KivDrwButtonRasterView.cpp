@@ -32,20 +32,20 @@ KivDrwButtonRasterView::KivDrwButtonRasterView(KivDialog* parent, const KivStrin
 void KivDrwButtonRasterView::Build()
 {
     KivFormGroup options = _form.Group(*this, "frmRasterOptions", "");
-    KivFormLine mode = options.Line("lblRasterMode");
+    KivFormRow mode = options.Row("lblRasterMode");
     mode.Choice("combRasterMod", _mode, _mode.Kind(), 0x40, [this] { UpdateImage(); });
     _picture = mode.Picture("lblRasterModImage");
-    options.Line().At(0, 3).Label("lblLOD");
-    BuildMedium(options.Line("lblLODVisu"), "combLODVisu", 0x400, "spinLODVisu", _screen);
-    BuildMedium(options.Line("lblLODPrint"), "combLODPrint", 0x4, "spinLODPrint", _paper);
+    options.Row().At(0, 3).Label("lblLOD");
+    BuildMedium(options.Row("lblLODVisu"), "combLODVisu", 0x400, "spinLODVisu", _screen);
+    BuildMedium(options.Row("lblLODPrint"), "combLODPrint", 0x4, "spinLODPrint", _paper);
 }
 
-void KivDrwButtonRasterView::BuildMedium(KivFormLine line, const char* combo, unsigned long comboStyle,
+void KivDrwButtonRasterView::BuildMedium(KivFormRow row, const char* combo, unsigned long comboStyle,
                                          const char* spinner, Medium& medium)
 {
-    line.Choice(combo, medium.quality, medium.quality.Kind(), comboStyle,
-                [this, &medium] { ShowResolution(medium); });
-    medium.spinner = line.Spinner(spinner, medium.resolution, medium.resolution.Kind());
+    row.Choice(combo, medium.quality, medium.quality.Kind(), comboStyle,
+               [this, &medium] { ShowResolution(medium); });
+    medium.spinner = row.Spinner(spinner, medium.resolution, medium.resolution.Kind());
 }
 
 void KivDrwButtonRasterView::ShowValues()

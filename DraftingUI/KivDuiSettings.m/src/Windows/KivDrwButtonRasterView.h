@@ -24,7 +24,7 @@ private:
         KivDrwKeyProperty<int>& resolution;
         KivWeakPtr<KivDrwLockSpinner> spinner;
     };
-    void BuildMedium(KivFormLine line, const char* combo, unsigned long comboStyle, const char* spinner,
+    void BuildMedium(KivFormRow row, const char* combo, unsigned long comboStyle, const char* spinner,
                      Medium& medium);
     void ShowResolution(const Medium& medium);
 

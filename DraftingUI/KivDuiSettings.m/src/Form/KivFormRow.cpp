@@ -1,4 +1,4 @@
-#include "Form/KivFormLine.h"
+#include "Form/KivFormRow.h"
 
 #include "Base/KivTextCatalogue.h"
 #include "DrwOptionsServices.h"
@@ -10,122 +10,122 @@
 
 namespace {
 
-// Of the combos of line types and weights, in characters and lines.
-constexpr int kLineWidth = 8;
-constexpr int kLinesHigh = 8;
+// Of the combos of line types and weights, in characters and entries.
+constexpr int kLineComboWidth = 8;
+constexpr int kLineComboHeight = 8;
 
 } // namespace
 
-KivFormLine& KivFormLine::At(short column, short columns)
+KivFormRow& KivFormRow::At(short column, short columns)
 {
     _column = column;
     _columns = columns;
     return *this;
 }
 
-KivFormLine& KivFormLine::Attached(unsigned int attachment)
+KivFormRow& KivFormRow::Attached(unsigned int attachment)
 {
     _attachment = attachment;
     return *this;
 }
 
-void KivFormLine::Place(KivDialog& control)
+void KivFormRow::Put(KivDialog& control)
 {
-    control.SetGridConstraints(_line, _column, 1, _columns, _attachment);
+    control.SetGridConstraints(_row, _column, 1, _columns, _attachment);
     _column = static_cast<short>(_column + _columns);
     _columns = 1;
     _attachment = KivDlgAttachAllSides;
 }
 
-bool KivFormLine::LeavesOut(const KivProperty& property)
+bool KivFormRow::LeavesOut(const KivProperty& property)
 {
     if (!_form.LeavesOut(property)) return false;
     At(static_cast<short>(_column + _columns)).Attached(KivDlgAttachAllSides);
     return true;
 }
 
-void KivFormLine::Name(KivDialog* control)
+void KivFormRow::Name(KivDialog* control)
 {
     if (_label) _label->AddLabeledControl(control);
 }
 
-KivUnicodeString KivFormLine::LabelHelp() const
+KivUnicodeString KivFormRow::LabelHelp() const
 {
     return _label ? _label->GetLongHelp() : KivUnicodeString();
 }
 
-KivDrwLockLabel* KivFormLine::Label(const KivString& name)
+KivDrwLockLabel* KivFormRow::Label(const KivString& name)
 {
     auto* label = new KivDrwLockLabel(&_frame, name, 1);
     _label = label->GetDialog();
-    Place(*label);
+    Put(*label);
     return label;
 }
 
-KivDlgLabel* KivFormLine::PlainLabel(const KivString& name)
+KivDlgLabel* KivFormRow::PlainLabel(const KivString& name)
 {
     auto* label = new KivDlgLabel(&_frame, name, 0UL);
     _label = label;
-    Place(*label);
+    Put(*label);
     return label;
 }
 
-KivDrwLockLabel* KivFormLine::Picture(const KivString& name)
+KivDrwLockLabel* KivFormRow::Picture(const KivString& name)
 {
     auto* picture = new KivDrwLockLabel(&_frame, name, 1);
     picture->SetTitle("");
-    Place(*picture);
+    Put(*picture);
     return picture;
 }
 
-KivDrwLockLabel* KivFormLine::Spacer(const KivString& name)
+KivDrwLockLabel* KivFormRow::Spacer(const KivString& name)
 {
     auto* spacer = new KivDrwLockLabel(&_frame, name, 0);
-    Place(*spacer);
+    Put(*spacer);
     return spacer;
 }
 
-KivDlgPushButton* KivFormLine::Push(const KivString& name)
+KivDlgPushButton* KivFormRow::Push(const KivString& name)
 {
     auto* button = new KivDlgPushButton(&_frame, name, 0UL);
-    Place(*button);
+    Put(*button);
     return button;
 }
 
-KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivPropertyOf<unsigned char>& property,
-                                          Rule rule)
+KivDrwLockCheckButton* KivFormRow::Check(const KivString& name, KivPropertyOf<unsigned char>& property,
+                                         Rule rule)
 {
     return CheckOf(name, property, false, std::move(rule));
 }
 
-KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivPropertyOf<int>& property, Rule rule)
+KivDrwLockCheckButton* KivFormRow::Check(const KivString& name, KivPropertyOf<int>& property, Rule rule)
 {
     return CheckOf(name, property, false, std::move(rule));
 }
 
-KivDrwLockCheckButton* KivFormLine::Check(const KivString& name, KivPropertyOf<int>& property,
-                                          const KivSettingKind& kind)
+KivDrwLockCheckButton* KivFormRow::Check(const KivString& name, KivPropertyOf<int>& property,
+                                         const KivSettingKind& kind)
 {
     return CheckOf(name, property, kind.isOnFor1Alone, {});
 }
 
 template <class T> KivDrwLockCheckButton*
-KivFormLine::CheckOf(const KivString& name, KivPropertyOf<T>& property, bool isOnFor1Alone, Rule rule)
+KivFormRow::CheckOf(const KivString& name, KivPropertyOf<T>& property, bool isOnFor1Alone, Rule rule)
 {
     if (LeavesOut(property)) return nullptr;
     auto* button = new KivDrwLockCheckButton(&_frame, name, property.Info(), 0UL);
-    Place(*button);
+    Put(*button);
     Name(button->GetDialog());
     _form.Connect(button->GetDialog(), button->GetChkBModifyNotification());
     _form.Add(std::make_unique<KivCheckBinding<T>>(button, property, isOnFor1Alone, std::move(rule)));
     return button;
 }
 
-KivDrwLockSpinner* KivFormLine::BareSpinner(const KivString& name, const KivSettingInfo& info,
-                                            const KivSettingKind& kind, const KivSpinnerLook& look)
+KivDrwLockSpinner* KivFormRow::BareSpinner(const KivString& name, const KivSettingInfo& info,
+                                           const KivSettingKind& kind, const KivSpinnerLook& look)
 {
     auto* spinner = new KivDrwLockSpinner(&_frame, name, info, look.style);
-    Place(*spinner);
+    Put(*spinner);
     Name(spinner->GetDialog());
     spinner->SetVisibleTextWidth(look.width);
     if (kind.format) spinner->SetFormat(kind.format);
@@ -138,15 +138,15 @@ KivDrwLockSpinner* KivFormLine::BareSpinner(const KivString& name, const KivSett
     spinner->SetValue(kind.initial, 0);
     spinner->SetMinMaxStep(kind.minimum * kind.shownPerStored, kind.maximum * kind.shownPerStored,
                            kind.step * kind.shownPerStored);
-    SayRange(*spinner, kind);
+    FillRange(*spinner, kind);
     if (_label) spinner->SetLongHelp(LabelHelp());
     _form.Connect(spinner->GetDialog(), spinner->GetSpinnerModifyNotification());
     return spinner;
 }
 
-// Helps that speak of the range leave places for it, so that it stands in the kind alone and in the user's
-// unit.
-void KivFormLine::SayRange(KivDrwLockSpinner& spinner, const KivSettingKind& kind)
+// Helps that speak of the range have placeholders for it, so that it stands in the kind alone and in the
+// user's unit.
+void KivFormRow::FillRange(KivDrwLockSpinner& spinner, const KivSettingKind& kind)
 {
     if (!spinner.GetDialog()) return;
     auto& field = *static_cast<KivDlgSpinner*>(spinner.GetDialog());
@@ -156,8 +156,8 @@ void KivFormLine::SayRange(KivDrwLockSpinner& spinner, const KivSettingKind& kin
     if (_label) _label->SetLongHelp(KivTextCatalogue::Fill(_label->GetLongHelp(), {least, greatest}));
 }
 
-KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivPropertyOf<double>& property,
-                                        const KivSettingKind& kind, Rule rule, const KivSpinnerLook& look)
+KivDrwLockSpinner* KivFormRow::Spinner(const KivString& name, KivPropertyOf<double>& property,
+                                       const KivSettingKind& kind, Rule rule, const KivSpinnerLook& look)
 {
     if (LeavesOut(property)) return nullptr;
     KivDrwLockSpinner* spinner = BareSpinner(name, property.Info(), kind, look);
@@ -165,8 +165,8 @@ KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivPropertyOf<dou
     return spinner;
 }
 
-KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivPropertyOf<int>& property,
-                                        const KivSettingKind& kind, Rule rule, const KivSpinnerLook& look)
+KivDrwLockSpinner* KivFormRow::Spinner(const KivString& name, KivPropertyOf<int>& property,
+                                       const KivSettingKind& kind, Rule rule, const KivSpinnerLook& look)
 {
     if (LeavesOut(property)) return nullptr;
     KivDrwLockSpinner* spinner = BareSpinner(name, property.Info(), kind, look);
@@ -174,33 +174,32 @@ KivDrwLockSpinner* KivFormLine::Spinner(const KivString& name, KivPropertyOf<int
     return spinner;
 }
 
-KivDrwLockComboColor* KivFormLine::Color(const KivString& name, KivPropertyOf<KivPageColor>& property,
-                                         Rule rule)
+KivDrwLockComboColor* KivFormRow::Color(const KivString& name, KivPropertyOf<KivPageColor>& property,
+                                        Rule rule)
 {
     if (LeavesOut(property)) return nullptr;
     auto* combo = new KivDrwLockComboColor(&_frame, name, property.Info());
-    PlaceNamed(*combo, combo->GetCombo());
+    PutNamed(*combo, combo->GetCombo());
     _form.Add(std::make_unique<KivColorBinding>(combo, property, std::move(rule)));
     return combo;
 }
 
-void KivFormLine::PlaceNamed(KivDrwLockDialog& wrapper, KivDlgCombo* combo)
+void KivFormRow::PutNamed(KivDrwLockDialog& wrapper, KivDlgCombo* combo)
 {
-    Place(wrapper);
+    Put(wrapper);
     Name(wrapper.GetDialog());
     if (combo) _form.Connect(combo, combo->GetComboSelectNotification());
 }
 
-KivDrwLockCombo* KivFormLine::BareCombo(const KivString& name, const KivSettingInfo& info,
-                                        unsigned long style)
+KivDrwLockCombo* KivFormRow::BareCombo(const KivString& name, const KivSettingInfo& info, unsigned long style)
 {
     auto* combo = new KivDrwLockCombo(&_frame, name, info, style);
-    PlaceNamed(*combo, combo->GetCombo());
+    PutNamed(*combo, combo->GetCombo());
     return combo;
 }
 
-KivDrwLockCombo* KivFormLine::Choice(const KivString& name, KivPropertyOf<int>& property,
-                                     const KivSettingKind& kind, unsigned long style, Rule rule)
+KivDrwLockCombo* KivFormRow::Choice(const KivString& name, KivPropertyOf<int>& property,
+                                    const KivSettingKind& kind, unsigned long style, Rule rule)
 {
     if (LeavesOut(property)) return nullptr;
     KivDrwLockCombo* combo = BareCombo(name, property.Info(), style);
@@ -208,8 +207,8 @@ KivDrwLockCombo* KivFormLine::Choice(const KivString& name, KivPropertyOf<int>& 
     return combo;
 }
 
-KivDrwLockCombo* KivFormLine::Names(const KivString& name, KivPropertyOf<KivUnicodeString>& property,
-                                    KivFormNames names, Rule rule)
+KivDrwLockCombo* KivFormRow::Names(const KivString& name, KivPropertyOf<KivUnicodeString>& property,
+                                   KivFormNames names, Rule rule)
 {
     if (LeavesOut(property)) return nullptr;
     KivDrwLockCombo* combo = BareCombo(name, property.Info(), 0UL);
@@ -217,37 +216,37 @@ KivDrwLockCombo* KivFormLine::Names(const KivString& name, KivPropertyOf<KivUnic
     return combo;
 }
 
-KivDrwLockComboDashed* KivFormLine::LineType(const KivString& name, KivPropertyOf<unsigned int>& property,
-                                             KivSettingRepository* repository, const KivString& key)
+KivDrwLockComboDashed* KivFormRow::LineType(const KivString& name, KivPropertyOf<unsigned int>& property,
+                                            KivSettingRepository* repository, const KivString& key)
 {
     constexpr char kWithBreakLine = 1;
     auto* combo = new KivDrwLockComboDashed(repository, key, &_frame, name, kWithBreakLine, 0UL, 0U);
-    PlaceNamed(*combo, combo->GetCombo());
-    combo->SetVisibleTextWidth(kLineWidth);
-    combo->SetVisibleTextHeight(kLinesHigh);
+    PutNamed(*combo, combo->GetCombo());
+    combo->SetVisibleTextWidth(kLineComboWidth);
+    combo->SetVisibleTextHeight(kLineComboHeight);
     _form.Add(std::make_unique<KivLineTypeBinding>(combo, property, Rule()));
     return combo;
 }
 
-KivDrwLockComboWeight* KivFormLine::LineWeight(const KivString& name, KivPropertyOf<unsigned int>& property,
-                                               KivSettingRepository* repository, const KivString& key)
+KivDrwLockComboWeight* KivFormRow::LineWeight(const KivString& name, KivPropertyOf<unsigned int>& property,
+                                              KivSettingRepository* repository, const KivString& key)
 {
     auto* combo = new KivDrwLockComboWeight(repository, key, &_frame, name, 0UL, 0U);
-    PlaceNamed(*combo, combo->GetCombo());
+    PutNamed(*combo, combo->GetCombo());
     if (KivDlgCombo* inner = combo->GetCombo()) {
-        inner->SetVisibleTextHeight(kLinesHigh);
-        inner->SetVisibleTextWidth(kLineWidth);
+        inner->SetVisibleTextHeight(kLineComboHeight);
+        inner->SetVisibleTextWidth(kLineComboWidth);
     }
     _form.Add(std::make_unique<KivLineWeightBinding>(combo, property, Rule()));
     return combo;
 }
 
-KivDrwLockEditor* KivFormLine::Text(const KivString& name, KivPropertyOf<KivUnicodeString>& property,
-                                    int width, Rule rule)
+KivDrwLockEditor* KivFormRow::Text(const KivString& name, KivPropertyOf<KivUnicodeString>& property,
+                                   int width, Rule rule)
 {
     if (LeavesOut(property)) return nullptr;
     auto* editor = new KivDrwLockEditor(&_frame, name, property.Info(), 0UL);
-    Place(*editor);
+    Put(*editor);
     Name(editor->GetDialog());
     if (KivDlgEditor* field = editor->GetEditor()) {
         field->SetVisibleTextWidth(width);

@@ -1,4 +1,4 @@
-#include "SettingRow.h"
+#include "SettingListing.h"
 
 #include "ValueText.h"
 
@@ -71,8 +71,8 @@ JsonObject SettingAsJson(const Setting& setting)
     JsonObject object;
     object.Add("key", setting.key).Add("type", setting.TypeWord()).Add("value", setting.value);
     object.Add("default", setting.fallback);
-    if (setting.row) {
-        const KivSettingKind& kind = setting.row->kind;
+    if (setting.entry) {
+        const KivSettingKind& kind = setting.entry->kind;
         object.Add("kind", kind.name);
         if (kind.HasRange()) {
             object.Add("minimum", KivSettingValue(kind.minimum))

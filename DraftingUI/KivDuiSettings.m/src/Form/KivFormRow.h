@@ -24,19 +24,18 @@ struct KivSpinnerLook {
     unsigned long style = 0;
 };
 
-// A line of a group while it is declared, control by control from the left. A rule runs after the control's
+// A row of a group while it is declared, control by control from the left. A rule runs after the control's
 // value was stored. The answered control belongs to the dialog tree; it is null, and its cell stays empty,
 // when the form leaves out what has no lock record.
-class KivFormLine {
+class KivFormRow {
 public:
     using Rule = KivControlBinding::Rule;
 
-    KivFormLine(KivPageForm& form, KivDlgFrame& frame, short line) : _form(form), _frame(frame), _line(line)
-    {}
+    KivFormRow(KivPageForm& form, KivDlgFrame& frame, short row) : _form(form), _frame(frame), _row(row) {}
 
     // Where the next control stands, over how many columns, and how it is attached there.
-    KivFormLine& At(short column, short columns = 1);
-    KivFormLine& Attached(unsigned int attachment);
+    KivFormRow& At(short column, short columns = 1);
+    KivFormRow& Attached(unsigned int attachment);
 
     KivDrwLockCheckButton* Check(const KivString& name, KivPropertyOf<unsigned char>& property,
                                  Rule rule = {});
@@ -68,7 +67,7 @@ public:
     KivDrwLockLabel* Picture(const KivString& name);
     // Leaves the padlocks' column of this cell empty.
     KivDrwLockLabel* Spacer(const KivString& name);
-    // The help of the text that names this line's controls.
+    // The help of the text that names this row's controls.
     KivUnicodeString LabelHelp() const;
 
     // A field for a text, so many characters wide.
@@ -82,14 +81,14 @@ private:
     template <class T> KivDrwLockCheckButton* CheckOf(const KivString& name, KivPropertyOf<T>& property,
                                                       bool isOnFor1Alone, Rule rule);
     bool LeavesOut(const KivProperty& property);
-    void SayRange(KivDrwLockSpinner& spinner, const KivSettingKind& kind);
-    void Place(KivDialog& control);
-    void PlaceNamed(KivDrwLockDialog& wrapper, KivDlgCombo* combo);
+    void FillRange(KivDrwLockSpinner& spinner, const KivSettingKind& kind);
+    void Put(KivDialog& control);
+    void PutNamed(KivDrwLockDialog& wrapper, KivDlgCombo* combo);
     void Name(KivDialog* control);
 
     KivPageForm& _form;
     KivDlgFrame& _frame;
-    short _line;
+    short _row;
     short _column = 0;
     short _columns = 1;
     unsigned int _attachment = KivDlgAttachAllSides;
