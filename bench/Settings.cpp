@@ -77,10 +77,10 @@ KivRatio::Measured FromContainer(Make make, Where where, Take take)
 template <class T> void AddReadByKey(const std::string& name, const KivDrwKey<T>& key)
 {
     KivRatio::Add(name, 3.0, FromRepository<T>([&key](const KivSettingRepository& repository, T& value) {
-                      return repository.ReadBound(kKivDrwKeyNames, key.place, &value);
+                      return repository.ReadBound(kKivDrwKeyNames, key.index, &value);
                   }),
                   FromContainer<T>(
-                      &BareValues, key.place,
+                      &BareValues, key.index,
                       [](const std::vector<KivSettingValue>& values, std::size_t place) -> const auto& {
                           return values[place];
                       }));

@@ -9,7 +9,7 @@
 #include <QPixmap>
 
 // The icons of pages, groups and controls: icons/<name>.svg of any module, whose "currentColor" is drawn in
-// the color of the text around it. An icon that is missing or damaged is reported once and leaves its place
+// the color of the text around it. An icon that is missing or damaged is reported once and leaves its space
 // empty.
 class IconStore {
 public:

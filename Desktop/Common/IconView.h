@@ -5,7 +5,7 @@
 #include <QStyle>
 #include <QWidget>
 
-// A place on a surface that shows an icon. Empty, but as large, when the icon is missing; as wide still when
+// A part of a surface that shows an icon. Empty, but as large, when the icon is missing; as wide still when
 // none is named, for surfaces that align with others.
 class IconView : public QWidget {
 public:

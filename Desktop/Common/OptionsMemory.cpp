@@ -41,7 +41,7 @@ QRect OptionsMemory::Window(const QString& name) const
     return _file.isEmpty() ? QRect() : QSettings(_file, QSettings::IniFormat).value(kWindow + name).toRect();
 }
 
-void OptionsMemory::RememberWindow(const QString& name, const QRect& place) const
+void OptionsMemory::RememberWindow(const QString& name, const QRect& geometry) const
 {
-    if (!_file.isEmpty()) QSettings(_file, QSettings::IniFormat).setValue(kWindow + name, place);
+    if (!_file.isEmpty()) QSettings(_file, QSettings::IniFormat).setValue(kWindow + name, geometry);
 }

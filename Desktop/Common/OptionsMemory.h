@@ -20,9 +20,9 @@ public:
     KivString Page() const;
     void Remember(const QSize& size, const KivString& page) const;
 
-    // The place of a page's window, by the name that it gives itself; invalid when there is none.
+    // The geometry of a page's window, by the name that it gives itself; invalid when there is none.
     QRect Window(const QString& name) const;
-    void RememberWindow(const QString& name, const QRect& place) const;
+    void RememberWindow(const QString& name, const QRect& geometry) const;
 
 private:
     QString _file;

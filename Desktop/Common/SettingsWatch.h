@@ -23,9 +23,9 @@ signals:
     void Changed();
 
 private:
-    void WatchPlaces();
+    void WatchPaths();
 
     KivSettingRepository& _repository;
-    QFileSystemWatcher _places;
+    QFileSystemWatcher _watcher;
     QTimer _soon; // a save touches a directory several times
 };

@@ -55,11 +55,11 @@ void NativeBubble::Say(const QString& text)
     // Within what is seen of the surface.
     const QRect seen = parentWidget()->visibleRegion().boundingRect();
     const QRect field(_field.mapTo(parentWidget(), QPoint()), _field.size());
-    QPoint place(isRightToLeft() ? field.right() - width() : field.left(), field.bottom() + 1);
-    if (place.y() + height() > seen.bottom() && field.top() - height() >= seen.top())
-        place.setY(field.top() - height());
-    place.setX(std::max(seen.left(), std::min(place.x(), seen.right() - width())));
-    move(place);
+    QPoint corner(isRightToLeft() ? field.right() - width() : field.left(), field.bottom() + 1);
+    if (corner.y() + height() > seen.bottom() && field.top() - height() >= seen.top())
+        corner.setY(field.top() - height());
+    corner.setX(std::max(seen.left(), std::min(corner.x(), seen.right() - width())));
+    move(corner);
     raise();
     show();
     QAccessibleEvent alert(this, QAccessible::Alert);

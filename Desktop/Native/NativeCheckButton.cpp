@@ -14,9 +14,9 @@ void NativeCheckButton::ShowNode()
     const KivDlgCheckButton& button = *TreeNode();
     setText(ToQt(button.GetTitle()));
     setChecked(button.GetState() == KivDlgChecked);
-    // One that only keeps the place of a padlock has the padlock's size and nothing to draw.
-    const bool keepsPlace = button.GetVisibility() == KivDlgReserved;
-    if (!keepsPlace) setIcon(IconStore::Shared().Icon(button.GetIconName()));
+    // One that only reserves the cell of a padlock has the padlock's size and nothing to draw.
+    const bool isReserved = button.GetVisibility() == KivDlgReserved;
+    if (!isReserved) setIcon(IconStore::Shared().Icon(button.GetIconName()));
     updateGeometry();
 }
 
@@ -27,7 +27,7 @@ void NativeCheckButton::nextCheckState()
 
 QSize NativeCheckButton::sizeHint() const
 {
-    const bool keepsPlace = TreeNode() && TreeNode()->GetVisibility() == KivDlgReserved;
-    return keepsPlace && !TreeNode()->GetIconName().IsEmpty() ? NativePadlock::PadlockSize(*this)
+    const bool isReserved = TreeNode() && TreeNode()->GetVisibility() == KivDlgReserved;
+    return isReserved && !TreeNode()->GetIconName().IsEmpty() ? NativePadlock::PadlockSize(*this)
                                                               : QCheckBox::sizeHint();
 }

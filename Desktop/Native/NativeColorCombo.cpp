@@ -29,7 +29,7 @@ QIcon Swatch(const QColor& color)
             painter.fillRect(rectangle.adjusted(inset + line, inset + line, -inset - line, -inset - line),
                              color);
         },
-        IconEngine::Place::List);
+        IconEngine::Background::List);
 }
 
 // Four swatches in one: where colors are mixed.
@@ -48,7 +48,7 @@ QIcon Mixer()
             painter.fillRect(QRectF(QPointF(inner.left(), inner.center().y()), quarter), Qt::blue);
             painter.fillRect(QRectF(inner.center(), quarter), Qt::green);
         },
-        IconEngine::Place::List);
+        IconEngine::Background::List);
 }
 
 unsigned int Part(int component)

@@ -48,7 +48,7 @@ NativeDialog::NativeDialog(KivDialog& node, const OptionsMemory& memory, QWidget
     auto* all = new QVBoxLayout(this);
     all->addWidget(_area, 1);
     all->addWidget(_buttons);
-    TakePlace();
+    TakeGeometry();
 }
 
 NativeField* NativeDialog::Field() const
@@ -111,31 +111,31 @@ void NativeDialog::keyPressEvent(QKeyEvent* event)
 // Where it was the last time, if a screen still shows that, else beside its owner; large enough for what it
 // has to show by now. Another window of the name
 // that stands there is not covered.
-void NativeDialog::TakePlace()
+void NativeDialog::TakeGeometry()
 {
     const QRect remembered = _memory.Window(_memoryName);
     const QScreen* there = remembered.isValid() ? screen()->virtualSiblingAt(remembered.center()) : nullptr;
-    QRect place = there ? remembered : PlaceBeside(*parentWidget());
+    QRect wanted = there ? remembered : GeometryBeside(*parentWidget());
     const int step = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
     const auto others = parentWidget()->findChildren<QDialog*>(objectName(), Qt::FindDirectChildrenOnly);
     const auto covers = [&](const QDialog* other) {
         // Near is enough: the desktop makes room for a frame at the edge of the screen.
         return other != this && other->isVisible() &&
-               (other->geometry().topLeft() - place.topLeft()).manhattanLength() < step;
+               (other->geometry().topLeft() - wanted.topLeft()).manhattanLength() < step;
     };
     const QRect free = (there ? there : parentWidget()->screen())->availableGeometry();
-    place.setSize(place.size().expandedTo(SizeFor(QSize(0, 0))).boundedTo(free.size()));
-    place.moveLeft(std::max(free.left(), std::min(place.left(), free.right() - place.width() + 1)));
-    place.moveTop(std::max(free.top(), std::min(place.top(), free.bottom() - place.height() + 1)));
+    wanted.setSize(wanted.size().expandedTo(SizeFor(QSize(0, 0))).boundedTo(free.size()));
+    wanted.moveLeft(std::max(free.left(), std::min(wanted.left(), free.right() - wanted.width() + 1)));
+    wanted.moveTop(std::max(free.top(), std::min(wanted.top(), free.bottom() - wanted.height() + 1)));
     // One that stands at the edge of the screen is passed from the corner.
     for (qsizetype i = 0; i < others.size() && std::any_of(others.begin(), others.end(), covers); ++i) {
-        place.translate(step, step);
-        if (!free.contains(place)) place.moveTopLeft(free.topLeft());
+        wanted.translate(step, step);
+        if (!free.contains(wanted)) wanted.moveTopLeft(free.topLeft());
     }
-    setGeometry(place);
+    setGeometry(wanted);
 }
 
-QRect NativeDialog::PlaceBeside(const QWidget& owner) const
+QRect NativeDialog::GeometryBeside(const QWidget& owner) const
 {
     const QRect free = owner.screen()->availableGeometry(), window = owner.frameGeometry();
     const QSize size = sizeHint();

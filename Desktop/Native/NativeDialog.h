@@ -12,8 +12,8 @@ class QPushButton;
 class QScrollArea;
 
 // A window of its own within the options. Its user can only ask for its end: it disappears when its node is
-// hidden or destroyed. It remembers its place under the node's class and name: different windows may bear one
-// name.
+// hidden or destroyed. It remembers its geometry under the node's class and name: different windows may bear
+// one name.
 class NativeDialog : public QDialog, public NativePieceFor<KivDlgDialog> {
 public:
     // Built, but not shown yet.
@@ -40,8 +40,8 @@ private:
     void Close(Way way);
     // What the content needs, with the buttons; it counts as no smaller than that.
     QSize SizeFor(const QSize& leastContent) const;
-    void TakePlace();
-    QRect PlaceBeside(const QWidget& owner) const;
+    void TakeGeometry();
+    QRect GeometryBeside(const QWidget& owner) const;
 
     OptionsMemory _memory;
     QString _memoryName; // the node may be gone when it is needed

@@ -31,18 +31,18 @@ NativeGraph::NativeGraph(const Kiv2DViewer& viewer, const QRectF& area)
       _enlarged(std::max(1.0, std::min(area.width() / viewer.GetWidth(), area.height() / viewer.GetHeight())))
 {}
 
-QPointF NativeGraph::ToWindow(const Kiv2DPoint& place) const
+QPointF NativeGraph::ToWindow(const Kiv2DPoint& point) const
 {
     const Kiv2DRectangle& world = _viewer.GetWorld();
-    const double x = (place.x - world.left - world.Width() / 2.0) * _scale;
-    const double y = (place.y - world.bottom - world.Height() / 2.0) * _scale;
+    const double x = (point.x - world.left - world.Width() / 2.0) * _scale;
+    const double y = (point.y - world.bottom - world.Height() / 2.0) * _scale;
     return _area.center() + QPointF(std::clamp(x, -kFarAway, kFarAway), std::clamp(-y, -kFarAway, kFarAway));
 }
 
-Kiv2DPoint NativeGraph::ToWorld(const QPointF& place) const
+Kiv2DPoint NativeGraph::ToWorld(const QPointF& point) const
 {
     const Kiv2DRectangle& world = _viewer.GetWorld();
-    const QPointF offset = (place - _area.center()) / _scale;
+    const QPointF offset = (point - _area.center()) / _scale;
     return {world.left + world.Width() / 2.0 + offset.x(), world.bottom + world.Height() / 2.0 - offset.y()};
 }
 
@@ -135,12 +135,12 @@ private:
     qreal Width() const { return std::max(1.0, std::round(kThin * _toDevice.m11())) / _toDevice.m11(); }
 
     // Where a line of that width along an axis covers whole pixels of the screen.
-    QPointF Sharp(const Kiv2DPoint& place) const
+    QPointF Sharp(const Kiv2DPoint& point) const
     {
         const qreal scale = _toDevice.m11();
         const bool isOdd = std::lround(Width() * scale) % 2 == 1;
         const auto fit = [isOdd](qreal at) { return isOdd ? std::floor(at) + 0.5 : std::round(at); };
-        const QPointF at = _toDevice.map(_graph.ToWindow(place));
+        const QPointF at = _toDevice.map(_graph.ToWindow(point));
         return _toDevice.inverted().map(QPointF(fit(at.x()), fit(at.y())));
     }
 

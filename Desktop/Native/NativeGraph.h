@@ -16,8 +16,8 @@ class NativeGraph {
 public:
     NativeGraph(const Kiv2DViewer& viewer, const QRectF& area);
 
-    QPointF ToWindow(const Kiv2DPoint& place) const;
-    Kiv2DPoint ToWorld(const QPointF& place) const;
+    QPointF ToWindow(const Kiv2DPoint& point) const;
+    Kiv2DPoint ToWorld(const QPointF& point) const;
 
     // How far from the middle of the handle a press still means it, in pixels.
     qreal Reach() const { return kReach * _enlarged; }

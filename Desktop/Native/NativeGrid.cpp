@@ -69,7 +69,7 @@ std::vector<int> Tracks(const KivDialog& frame, Axis axis)
 
 NativeGrid::NativeGrid(const KivDialog& frame)
 {
-    Place(frame, 0, 0);
+    AddCells(frame, 0, 0);
     for (const NativeCell& cell : _cells) {
         _rows = std::max(_rows, cell.row + cell.rows);
         _columns = std::max(_columns, cell.column + cell.columns);
@@ -85,7 +85,7 @@ bool NativeGrid::IsMerged(const KivDialog& node)
     return node.IsAKindOf(KivDlgFrame::Name) && !node.IsAKindOf(KivDlgToolsOptionsFrame::Name);
 }
 
-void NativeGrid::Place(const KivDialog& frame, int row, int column)
+void NativeGrid::AddCells(const KivDialog& frame, int row, int column)
 {
     const std::vector<int> rows = Tracks(frame, Axis::Rows), columns = Tracks(frame, Axis::Columns);
     for (KivDialog* child : Inhabitants(frame)) {
@@ -94,7 +94,7 @@ void NativeGrid::Place(const KivDialog& frame, int row, int column)
         const int childColumn = column + Sum(columns, 0, across.first);
         if (IsMerged(*child)) {
             _merged.push_back(child);
-            Place(*child, childRow, childColumn);
+            AddCells(*child, childRow, childColumn);
         } else {
             _cells.push_back({child, childRow, childColumn, Sum(rows, down.first, down.count),
                               Sum(columns, across.first, across.count)});

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-// A node's place in the native grid of its group.
+// A node's cell in the native grid of its group.
 struct NativeCell {
     KivDialog* node;
     int row, column, rows, columns;
@@ -27,7 +27,7 @@ public:
     static bool IsMerged(const KivDialog& node);
 
 private:
-    void Place(const KivDialog& frame, int row, int column);
+    void AddCells(const KivDialog& frame, int row, int column);
     void WidenLastOfRow();
 
     std::vector<NativeCell> _cells;

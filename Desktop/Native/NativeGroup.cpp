@@ -25,8 +25,8 @@ void NativeGroup::ShowNode()
     update();
 }
 
-// The controls of all groups on a surface stand in line: a group without an icon keeps the place of one while
-// another has one.
+// The controls of all groups on a surface stand in line: a group without an icon reserves the width of one
+// while another has one.
 bool NativeGroup::KeepsIconColumn() const
 {
     const KivDialog* parent = TreeNode()->GetParentDialog();

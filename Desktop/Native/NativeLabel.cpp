@@ -50,7 +50,7 @@ void NativeLabel::paintEvent(QPaintEvent* event)
     const QSize size = sizeHint();
     const QPixmap picture = IconStore::Shared().Picture(Icon(), (QSizeF(size) * devicePixelRatioF()).toSize(),
                                                         palette().color(QPalette::WindowText));
-    const QRect place =
+    const QRect target =
         style()->alignedRect(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter, size, rect());
-    if (!picture.isNull()) QPainter(this).drawPixmap(place, picture);
+    if (!picture.isNull()) QPainter(this).drawPixmap(target, picture);
 }

@@ -63,7 +63,7 @@ QIcon NativeLineDrawing::Type(unsigned int type)
                 painter.drawLine(QPointF(r.left(), r.center().y()), QPointF(r.right(), r.center().y()));
             }
         },
-        IconEngine::Place::List);
+        IconEngine::Background::List);
 }
 
 QIcon NativeLineDrawing::Weight(double millimeters)
@@ -74,7 +74,7 @@ QIcon NativeLineDrawing::Weight(double millimeters)
             const qreal width = std::max(1.0, units * r.height() / kIconHeight);
             painter.fillRect(QRectF(r.left(), r.center().y() - width / 2.0, r.width(), width), ink);
         },
-        IconEngine::Place::List);
+        IconEngine::Background::List);
 }
 
 void NativeLineDrawing::MakeRoom(QComboBox& combo)

@@ -13,7 +13,7 @@ public:
     NativePadlock(KivDialog& node, QWidget* parent);
 
     QSize sizeHint() const override { return PadlockSize(*this); }
-    // Also for what only keeps the place of a padlock.
+    // Also for what only reserves the cell of a padlock.
     static QSize PadlockSize(const QWidget& widget);
 
 protected:

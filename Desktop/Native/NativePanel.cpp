@@ -74,9 +74,9 @@ void NativePanel::PutBeside(const QWidget& widget)
     adjustSize();
     const QRect free = widget.screen()->availableGeometry();
     const QRect field(widget.mapToGlobal(QPoint()), widget.size());
-    QPoint place(isRightToLeft() ? field.right() - width() : field.left(), field.bottom());
-    if (place.y() + height() > free.bottom()) place.setY(field.top() - height());
-    place.setX(std::max(free.left(), std::min(place.x(), free.right() - width())));
-    place.setY(std::max(free.top(), place.y()));
-    move(place);
+    QPoint corner(isRightToLeft() ? field.right() - width() : field.left(), field.bottom());
+    if (corner.y() + height() > free.bottom()) corner.setY(field.top() - height());
+    corner.setX(std::max(free.left(), std::min(corner.x(), free.right() - width())));
+    corner.setY(std::max(free.top(), corner.y()));
+    move(corner);
 }

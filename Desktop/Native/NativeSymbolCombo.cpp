@@ -62,5 +62,5 @@ QIcon NativeSymbolCombo::LineIcon(int line) const
             painter.setPen(QPen(ink, 1.3, Qt::SolidLine, Qt::RoundCap));
             draw(painter);
         },
-        IconEngine::Place::List);
+        IconEngine::Background::List);
 }

@@ -173,7 +173,8 @@ void OptionsWindow::OrderTab()
     for (int page = 0; page < PageCount(); ++page) order << PageView(page).Fields();
     order << _reset << _ok << _cancel;
     for (QWidget* next : order) {
-        // An open padlock has a place as well, for when it closes; without a focus it would be passed over.
+        // An open padlock has a position as well, for when it closes; without a focus it would be passed
+        // over.
         const Qt::FocusPolicy policy = next->focusPolicy();
         next->setFocusPolicy(Qt::StrongFocus);
         setTabOrder(last, next);

@@ -92,14 +92,14 @@ void DraftingWindow::BuildStatus()
 {
     auto* const message = new DraftingMessage(_diagnostics);
     connect(message, &DraftingMessage::LogWanted, this, &DraftingWindow::OpenLog);
-    auto* const place = new QLabel;
+    auto* const position = new QLabel;
     auto* const angle = new QLabel(DraftingText("StatusAngle").arg(SheetUnit::PrintAngle(0.0)));
     auto* const zoom = new QLabel;
-    place->setObjectName("place");
+    position->setObjectName("position");
     // Wide enough for what it usually says, so that its neighbors do not dance with the cursor.
-    place->setMinimumWidth(fontMetrics().averageCharWidth() * 26);
+    position->setMinimumWidth(fontMetrics().averageCharWidth() * 26);
     statusBar()->addWidget(message, 1);
-    statusBar()->addPermanentWidget(place);
+    statusBar()->addPermanentWidget(position);
     statusBar()->addPermanentWidget(angle);
     statusBar()->addPermanentWidget(zoom);
     const auto showZoom = [zoom](double factor) {
@@ -107,7 +107,7 @@ void DraftingWindow::BuildStatus()
     };
     showZoom(_sheet->Camera().Zoom());
     connect(_sheet, &SheetView::ZoomChanged, zoom, showZoom);
-    connect(_sheet, &SheetView::PlaceChanged, place, &QLabel::setText);
+    connect(_sheet, &SheetView::PositionChanged, position, &QLabel::setText);
     connect(_sheet, &SheetView::RotationChanged, angle, [angle](double degrees) {
         angle->setText(DraftingText("StatusAngle").arg(SheetUnit::PrintAngle(degrees)));
     });

@@ -35,9 +35,9 @@ std::vector<SheetGrid::Line> SheetGrid::Lines(double from, double to, double pix
     return lines;
 }
 
-double SheetGrid::Nearest(double place, double length) const
+double SheetGrid::Nearest(double position, double length) const
 {
-    const double within = std::clamp(place, 0.0, length);
+    const double within = std::clamp(position, 0.0, length);
     const double step = _spacing / _parts;
     const double last = std::floor(length / step + kTolerance);
     if (!(step > 0.0) || !std::isfinite(last)) return within;

@@ -12,14 +12,14 @@ public:
         double at; // mm
         bool primary;
     };
-    // The lines between two places (mm) that can be told apart at so many pixels a millimeter: graduations
+    // The lines between two positions (mm) that can be told apart at so many pixels a millimeter: graduations
     // are left out when they would be closer than kClosest pixels, then primary lines are thinned in steps of
     // 2, 5, 10, … Never more than (to - from) * pixelsPerMm / kClosest + 2 lines.
     std::vector<Line> Lines(double from, double to, double pixelsPerMm) const;
 
-    // The grid point (graduations too) nearest to a place on a sheet from 0 to length; the place itself
+    // The grid point (graduations too) nearest to a position on a sheet from 0 to length; the position itself
     // without a grid.
-    double Nearest(double place, double length) const;
+    double Nearest(double position, double length) const;
 
     static constexpr double kClosest = 4.0;
 

@@ -28,7 +28,7 @@ public:
     // A bubble with the angle, beside the handle, that stays inside of the area.
     void PaintAngle(QPainter& painter, QPointF handle, const QRectF& area, const QString& angle) const;
     void PaintTurn(QPainter& painter, QPointF center, QPointF handle, double angle) const;
-    // A square around the middle says that the place is a grid point.
+    // A square around the middle says that the position is a grid point.
     void PaintCross(QPainter& painter, QPointF at, bool isSnapped) const;
 
 private:

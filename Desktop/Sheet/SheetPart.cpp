@@ -26,7 +26,7 @@ void AddLine(QPainterPath& path, double fromX, double fromY, double toX, double 
     path.lineTo(toX, toY);
 }
 
-// An arrow head at a place, pointing along (x, y).
+// An arrow head at a position, pointing along (x, y).
 void AddArrow(QPainterPath& path, double atX, double atY, double x, double y)
 {
     constexpr double kLong = 4.5, kWide = 1.0;

@@ -244,9 +244,9 @@ void SheetPicture::PaintAxis(QPainter& painter) const
         painter.drawPolygon(QPolygonF({tip, back + side, back - side}));
         if (length < 2.0 * text) continue; // no room for letters
         painter.setPen(color);
-        const QPointF place = tip + arm.along * text * 0.8;
-        painter.drawText(QRectF(place - QPointF(text, text), QSizeF(2.0 * text, 2.0 * text)), Qt::AlignCenter,
-                         DraftingText(arm.name));
+        const QPointF position = tip + arm.along * text * 0.8;
+        painter.drawText(QRectF(position - QPointF(text, text), QSizeF(2.0 * text, 2.0 * text)),
+                         Qt::AlignCenter, DraftingText(arm.name));
     }
     painter.setBrush(_colors.Ink());
     painter.setPen(Qt::NoPen);

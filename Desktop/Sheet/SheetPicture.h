@@ -21,7 +21,7 @@ public:
 
     // Into the window's coordinates.
     void Paint(QPainter& painter) const;
-    // What a pointer at a place of the window would pick in the sketch; nothing while views are dimmed.
+    // What a pointer at a position of the window would pick in the sketch; nothing while views are dimmed.
     void PaintPick(QPainter& painter, QPointF pointer) const;
 
     // Places of the sample view in the window.
@@ -39,8 +39,8 @@ private:
     void PaintDimensions(QPainter& painter) const;
     void PaintAxis(QPainter& painter) const;
     void PaintDetail(QPainter& painter) const;
-    // A text around or beside a place in the window, so many mm of paper high and turned by an angle. Texts
-    // too small to be read are left out.
+    // A text around or beside a position in the window, so many mm of paper high and turned by an angle.
+    // Texts too small to be read are left out.
     void PaintText(QPainter& painter, QPointF at, double height, double angle, Qt::Alignment alignment,
                    const QString& text) const;
 

@@ -23,6 +23,6 @@ double SheetRotation::Stepped(double angle, const SheetStyle& style, int directi
 {
     const double step = style.snapAngle > 0.0 ? style.snapAngle : 1.0;
     // The tolerance keeps an angle that rounding left beside its multiple from stepping onto the same one.
-    const double place = angle / step + direction * 1.0e-9;
-    return Normal((direction > 0 ? std::floor(place) + 1.0 : std::ceil(place) - 1.0) * step);
+    const double position = angle / step + direction * 1.0e-9;
+    return Normal((direction > 0 ? std::floor(position) + 1.0 : std::ceil(position) - 1.0) * step);
 }

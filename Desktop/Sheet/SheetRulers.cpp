@@ -81,9 +81,9 @@ void SheetRulers::PaintOne(QPainter& painter, Qt::Orientation orientation) const
     QColor line = text;
     line.setAlphaF(0.55F);
     for (const SheetRuler::Mark& mark : SheetRuler::Marks(from, to, _camera.PixelsPerMm(), room)) {
-        const double place = isTop ? _camera.ToWindow({mark.at, 0.0}).x()
-                                   : area.bottom() - _camera.ToWindow({0.0, mark.at}).y();
-        const double at = (std::floor(place * density) + 0.5) / density;
+        const double position = isTop ? _camera.ToWindow({mark.at, 0.0}).x()
+                                      : area.bottom() - _camera.ToWindow({0.0, mark.at}).y();
+        const double at = (std::floor(position * density) + 0.5) / density;
         painter.setPen(QPen(line, 0.0));
         painter.drawLine(QPointF(at, _thick - 1.0), QPointF(at, _thick - lengths[mark.rank]));
         if (mark.label.isEmpty()) continue;

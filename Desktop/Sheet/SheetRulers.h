@@ -15,7 +15,7 @@ public:
 
     static int Thickness(const QFont& font);
 
-    // Around the camera's area; the cursor's place in the window is marked on both.
+    // Around the camera's area; the cursor's position in the window is marked on both.
     void Paint(QPainter& painter, std::optional<QPointF> cursor) const;
 
 private:

@@ -68,15 +68,15 @@ QPainterPath SheetSketch::Element::Path() const
     return path;
 }
 
-std::optional<QPointF> SheetSketch::Element::Nearest(QPointF place) const
+std::optional<QPointF> SheetSketch::Element::Nearest(QPointF position) const
 {
-    const QPointF away = place - from;
+    const QPointF away = position - from;
     if (radius == 0.0) {
         const QPointF along = to - from;
         const double part = QPointF::dotProduct(away, along) / QPointF::dotProduct(along, along);
         return from + along * std::clamp(part, 0.0, 1.0);
     }
-    // The middle is as far from every place of the circle; the ends of a half one belong to its neighbors.
+    // The middle is as far from every position of the circle; the ends of a half one belong to its neighbors.
     const double distance = QLineF({}, away).length();
     if (distance == 0.0 || (isHalf && away.x() < 0.0)) return std::nullopt;
     return from + away * (radius / distance);

@@ -22,12 +22,12 @@ public:
         bool isHalf = false;
 
         QPainterPath Path() const;
-        // Its place that is nearest to another one; none where it has none.
-        std::optional<QPointF> Nearest(QPointF place) const;
+        // Its position that is nearest to another one; none where it has none.
+        std::optional<QPointF> Nearest(QPointF position) const;
     };
     static std::span<const Element> Elements();
 
-    // A constraint's symbol stands beside a place, in a direction of length 1.
+    // A constraint's symbol stands beside a position, in a direction of length 1.
     struct Symbol {
         SheetConstraint kind;
         QPointF at, away;

@@ -165,14 +165,14 @@ void SheetSketchPicture::PaintPick(QPainter& painter, QPointF pointer) const
     painter.drawEllipse(*at, 2.0, 2.0);
 }
 
-// The nearest place of an element, in the window.
+// The nearest position of an element, in the window.
 std::optional<QPointF> SheetSketchPicture::Support(QPointF pointer) const
 {
-    const QPointF place = _toWindow.inverted().map(pointer);
+    const QPointF position = _toWindow.inverted().map(pointer);
     std::optional<QPointF> found;
     double least = kReach;
     for (const SheetSketch::Element& element : SheetSketch::Elements()) {
-        const std::optional<QPointF> nearest = element.Nearest(place);
+        const std::optional<QPointF> nearest = element.Nearest(position);
         if (!nearest) continue;
         const QPointF at = _toWindow.map(*nearest);
         if (const double distance = QLineF(at, pointer).length(); distance <= least) {

@@ -16,7 +16,7 @@ public:
 
     // Into the window's coordinates. The width is that of visible lines, in pixels.
     void Paint(QPainter& painter, double width) const;
-    // What a pointer at a place of the window would pick, if anything.
+    // What a pointer at a position of the window would pick, if anything.
     void PaintPick(QPainter& painter, QPointF pointer) const;
 
     // The frame of the sketch in the window.

@@ -12,6 +12,6 @@ struct SheetText {
     double angle = 0.0; // degrees, anticlockwise
     Qt::Alignment alignment = Qt::AlignCenter;
 
-    // Around or beside a place in the window. Texts too small to be read are left out.
+    // Around or beside a position in the window. Texts too small to be read are left out.
     void Paint(QPainter& painter, const SheetCamera& camera, QPointF at, const QString& text) const;
 };

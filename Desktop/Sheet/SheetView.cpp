@@ -126,24 +126,25 @@ void SheetView::Redraw()
     update();
 }
 
-std::optional<QPointF> SheetView::SnappedPlace() const
+std::optional<QPointF> SheetView::SnappedPosition() const
 {
     if (!_cursor) return std::nullopt;
-    const QPointF place = _camera.ToSheet(*_cursor);
+    const QPointF position = _camera.ToSheet(*_cursor);
     const QSizeF sheet = _camera.Sheet();
-    if (!QRectF(QPointF(0.0, 0.0), sheet).contains(place)) return std::nullopt;
-    if (!Style().snapsToGrid) return place;
-    return QPointF(SheetGrid(Style().spacingH, Style().partsH).Nearest(place.x(), sheet.width()),
-                   SheetGrid(Style().spacingV, Style().partsV).Nearest(place.y(), sheet.height()));
+    if (!QRectF(QPointF(0.0, 0.0), sheet).contains(position)) return std::nullopt;
+    if (!Style().snapsToGrid) return position;
+    return QPointF(SheetGrid(Style().spacingH, Style().partsH).Nearest(position.x(), sheet.width()),
+                   SheetGrid(Style().spacingV, Style().partsV).Nearest(position.y(), sheet.height()));
 }
 
 void SheetView::PointAt(std::optional<QPointF> window)
 {
     _cursor = window;
-    const std::optional<QPointF> place = SnappedPlace();
-    emit PlaceChanged(
-        place ? DraftingText("Place").arg(SheetUnit::Print(place->x(), 2), SheetUnit::Print(place->y(), 2))
-              : QString());
+    const std::optional<QPointF> position = SnappedPosition();
+    emit PositionChanged(
+        position ? DraftingText("Position")
+                       .arg(SheetUnit::Print(position->x(), 2), SheetUnit::Print(position->y(), 2))
+                 : QString());
     update();
 }
 
@@ -152,7 +153,7 @@ bool SheetView::IsOnHandle(QPointF window) const
     return _selected && QLineF(window, Handle()).length() <= SheetMarkers::kHandleRadius + 4.0;
 }
 
-// Of the line from the view's origin to a place in the window; anticlockwise, 0 upwards.
+// Of the line from the view's origin to a position in the window; anticlockwise, 0 upwards.
 double SheetView::AngleOf(QPointF window) const
 {
     const QPointF from = Picture().ViewCenter();
@@ -213,8 +214,8 @@ void SheetView::PaintOverlay(QPainter& painter) const
     }
     if (_hand != Hand::Free || _spaceHeld) return;
     if (_cursor) picture.PaintPick(painter, *_cursor);
-    if (const std::optional<QPointF> place = SnappedPlace())
-        markers.PaintCross(painter, _camera.ToWindow(*place), Style().snapsToGrid);
+    if (const std::optional<QPointF> position = SnappedPosition())
+        markers.PaintCross(painter, _camera.ToWindow(*position), Style().snapsToGrid);
     if (hasFocus() && _showsFocus) {
         painter.setRenderHint(QPainter::Antialiasing, false);
         painter.setPen(palette().color(QPalette::Highlight));

@@ -12,7 +12,7 @@
 
 class SheetPicture;
 
-// The window onto the sheet: shows it as the settings say, and lets a hand pan, zoom, point at places and
+// The window onto the sheet: shows it as the settings say, and lets a hand pan, zoom, point at positions and
 // turn the sample view.
 //
 // Keys: arrows turn the selected view (left, right) or scroll; Ctrl+arrows always scroll; Enter selects the
@@ -58,7 +58,7 @@ public:
 
 signals:
     // Where the cursor points at on the sheet, in words; empty when it points at none.
-    void PlaceChanged(const QString& words);
+    void PositionChanged(const QString& text);
     void RotationChanged(double degrees);
     void ZoomChanged(double zoom);
 
@@ -86,7 +86,7 @@ private:
     void ZoomBy(double factor);
     void Moved();
     void PointAt(std::optional<QPointF> window);
-    std::optional<QPointF> SnappedPlace() const;
+    std::optional<QPointF> SnappedPosition() const;
     void ShowCursor();
     bool IsOnHandle(QPointF window) const;
     double AngleOf(QPointF window) const;

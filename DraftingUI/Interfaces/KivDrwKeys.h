@@ -10,7 +10,7 @@ template <class T> struct KivDrwKey {
     const char* name;
     T (*makeDefault)();
     const KivSettingKind& kind;
-    std::size_t place; // in kKivDrwKeyNames
+    std::size_t index; // in kKivDrwKeyNames
 };
 
 // The type that a key is stored in.
@@ -20,29 +20,29 @@ template <class T> struct KivDrwStoredIn<const KivDrwKey<T>> {
 };
 template <class Key> using KivDrwStored = typename KivDrwStoredIn<Key>::Type;
 
-// The place of every key in the catalogue.
-namespace KivDrwPlaces {
-enum Place : std::size_t {
+// The index of every key in the catalogue.
+namespace KivDrwIndices {
+enum Index : std::size_t {
 #define KIV_SETTING(group, type, key, function, value, kind) key,
 #define KIV_COMPUTED(group, type, key, function, kind) key,
 #define KIV_LITERAL(group, type, key, value, kind) key,
 #include "KivDrwSettings.def"
 };
-} // namespace KivDrwPlaces
+} // namespace KivDrwIndices
 
 // Every key by its own name; no other code spells one out.
 namespace KivDrwKeys {
 #define KIV_SETTING(group, type, key, function, value, kind)                                                 \
-    inline constexpr KivDrwKey<type> key{#key, &function, KivDrwKinds::kind, KivDrwPlaces::key};
+    inline constexpr KivDrwKey<type> key{#key, &function, KivDrwKinds::kind, KivDrwIndices::key};
 #define KIV_COMPUTED(group, type, key, function, kind)                                                       \
-    inline constexpr KivDrwKey<type> key{#key, &function, KivDrwKinds::kind, KivDrwPlaces::key};
+    inline constexpr KivDrwKey<type> key{#key, &function, KivDrwKinds::kind, KivDrwIndices::key};
 #define KIV_LITERAL(group, type, key, value, kind)                                                           \
     inline constexpr KivDrwKey<type> key{#key, [] { return type(value); }, KivDrwKinds::kind,                \
-                                         KivDrwPlaces::key};
+                                         KivDrwIndices::key};
 #include "KivDrwSettings.def"
 } // namespace KivDrwKeys
 
-// The names of all keys, each at its place: what a repository is bound to.
+// The names of all keys, each at its index: what a repository is bound to.
 inline constexpr const char* kKivDrwKeyNames[] = {
 #define KIV_SETTING(group, type, key, function, value, kind) #key,
 #define KIV_COMPUTED(group, type, key, function, kind) #key,

@@ -88,7 +88,7 @@ inline constexpr KivSettingKind SheetSource =
     OneOf({.name = "choice", .choices = {{"radioSheetFirst", 1}, {"radioSheetOther", 0}}});
 inline constexpr KivSettingKind SheetFormat =
     OneOf({.name = "switch", .choices = {{"radSheetStyle", 1}, {"radSheetCurrent", 0}}, .otherwise = 1});
-// In the order in which the buttons are made, deliberately not that of their places.
+// In the order in which the buttons are made, deliberately not that of their positions.
 inline constexpr KivSettingKind FilletStyle =
     OneOf({.name = "choice",
            .choices = {{"radioBoundaries", 1}, {"radioSymbo", 2}, {"radioProjEd", 4}, {"radioOrigEd", 3}}});

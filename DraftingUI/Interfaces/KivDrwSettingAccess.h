@@ -14,14 +14,14 @@ concept KivDrwStoredAs = std::same_as<Value, Stored> ||
     (std::same_as<Value, unsigned char>&& std::same_as<Stored, int>);
 
 // The value in force: what the repository holds, else the default. A repository to which the catalogue's keys
-// are bound is read by the key's place, any other one by its name.
+// are bound is read by the key's index, any other one by its name.
 template <class Stored>
 Stored KivDrwRead(const KivSettingRepository* repository, const KivDrwKey<Stored>& key)
 {
     Stored value{};
-    if (repository && repository->ReadBound(kKivDrwKeyNames, key.place, &value) == S_OK) return value;
+    if (repository && repository->ReadBound(kKivDrwKeyNames, key.index, &value) == S_OK) return value;
     value = key.makeDefault();
-    if (repository && !repository->IsBound(kKivDrwKeyNames, key.place))
+    if (repository && !repository->IsBound(kKivDrwKeyNames, key.index))
         repository->ReadSetting(key.name, &value, 1);
     return value;
 }

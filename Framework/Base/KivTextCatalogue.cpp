@@ -16,17 +16,17 @@ namespace {
 
 constexpr const char* kEnglish = "English";
 
-struct Shelf {
+struct Catalogues {
     KivString language = kEnglish;
     fs::path root;
     std::map<KivString, KivTextCatalogue> open;
 };
 
-Shelf& TheShelf()
+Catalogues& AllCatalogues()
 {
-    static auto& shelf = *new Shelf;
-    if (shelf.root.empty()) shelf.root = fs::path(KivInstallRoot().View()) / "share" / "kiv";
-    return shelf;
+    static auto& catalogues = *new Catalogues;
+    if (catalogues.root.empty()) catalogues.root = fs::path(KivInstallRoot().View()) / "share" / "kiv";
+    return catalogues;
 }
 
 // The modules' directories, in the order of their names.
@@ -34,7 +34,7 @@ std::vector<fs::path> Modules()
 {
     std::vector<fs::path> modules;
     std::error_code failed;
-    for (fs::directory_iterator entry(TheShelf().root, failed), end; !failed && entry != end;
+    for (fs::directory_iterator entry(AllCatalogues().root, failed), end; !failed && entry != end;
          entry.increment(failed))
         modules.push_back(entry->path());
     std::sort(modules.begin(), modules.end());
@@ -86,22 +86,22 @@ KivUnicodeString Lengthened(const KivUnicodeString& text)
 
 const KivTextCatalogue& KivTextCatalogue::Open(const KivString& name)
 {
-    Shelf& shelf = TheShelf();
-    const auto [place, isNew] = shelf.open.try_emplace(name);
+    Catalogues& catalogues = AllCatalogues();
+    const auto [entry, isNew] = catalogues.open.try_emplace(name);
     if (isNew) {
         // The user's language first: what it says, English does not replace.
-        place->second.Load(shelf.language, name);
-        if (shelf.language != kEnglish) place->second.Load(kEnglish, name);
-        if (shelf.language == kPseudoLanguage) {
-            for (auto& [key, text] : place->second._texts) {
+        entry->second.Load(catalogues.language, name);
+        if (catalogues.language != kEnglish) entry->second.Load(kEnglish, name);
+        if (catalogues.language == kPseudoLanguage) {
+            for (auto& [key, text] : entry->second._texts) {
                 if (IsForPeople(key)) text = Lengthened(text);
             }
         }
-        if (place->second._texts.empty())
+        if (entry->second._texts.empty())
             KivReport({.text = "there are no texts of this name; the names of texts and controls are shown",
                        .file = KivUnicodeString(name) + ".texts"});
     }
-    return place->second;
+    return entry->second;
 }
 
 KivUnicodeString KivTextCatalogue::Fill(const KivUnicodeString& text,
@@ -111,12 +111,12 @@ KivUnicodeString KivTextCatalogue::Fill(const KivUnicodeString& text,
     const std::string_view all = text.View();
     for (std::size_t i = 0; i < all.size(); ++i) {
         const char digit = all[i] == '%' && i + 1 < all.size() ? all[i + 1] : '0';
-        const auto place = static_cast<std::size_t>(digit - '1');
-        if (digit < '1' || digit > '9' || place >= values.size()) {
+        const auto index = static_cast<std::size_t>(digit - '1');
+        if (digit < '1' || digit > '9' || index >= values.size()) {
             filled += all[i];
             continue;
         }
-        filled += (values.begin() + place)->View();
+        filled += (values.begin() + index)->View();
         ++i;
     }
     return KivUnicodeString(std::move(filled));
@@ -134,7 +134,7 @@ KivUnicodeString KivTextCatalogue::FrameworkText(const char* key,
 
 void KivTextCatalogue::SetLanguage(const KivString& language)
 {
-    TheShelf().language = language;
+    AllCatalogues().language = language;
 }
 
 std::set<std::string> KivTextCatalogue::KnownLanguages()
@@ -152,8 +152,8 @@ std::set<std::string> KivTextCatalogue::KnownLanguages()
 
 void KivTextCatalogue::SetResourceRoot(const KivUnicodeString& directory)
 {
-    TheShelf().root = directory.View();
-    TheShelf().open.clear();
+    AllCatalogues().root = directory.View();
+    AllCatalogues().open.clear();
 }
 
 KivUnicodeString KivTextCatalogue::FindResource(const KivUnicodeString& relative)

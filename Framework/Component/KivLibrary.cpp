@@ -15,10 +15,10 @@ bool KivLoadLibrary(const KivString& name)
 
     KivUnicodeString why;
     KivToken tokens(places);
-    for (KivUnicodeString place = tokens.GetNextToken(":"); !place.IsEmpty();
-         place = tokens.GetNextToken(":")) {
+    for (KivUnicodeString directory = tokens.GetNextToken(":"); !directory.IsEmpty();
+         directory = tokens.GetNextToken(":")) {
         // Never unloaded: its meta-objects and dictionary entries are pointed at until the process ends.
-        const KivUnicodeString path = place + "/" + file;
+        const KivUnicodeString path = directory + "/" + file;
         if (dlopen(path.ConvertToChar(), RTLD_NOW | RTLD_GLOBAL | RTLD_NODELETE)) return true;
         why = dlerror();
     }

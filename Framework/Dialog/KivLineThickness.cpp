@@ -5,6 +5,6 @@
 float KivGetMMThickness(int weight, int)
 {
     const auto& table = KivComboWeight::kMillimeters;
-    const auto place = static_cast<std::size_t>(weight);
-    return weight >= 0 && place < table.size() ? static_cast<float>(table[place]) : 0.0F;
+    const auto index = static_cast<std::size_t>(weight);
+    return weight >= 0 && index < table.size() ? static_cast<float>(table[index]) : 0.0F;
 }

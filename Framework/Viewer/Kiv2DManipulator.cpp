@@ -24,9 +24,9 @@ Kiv2DPoint Kiv2DManipulator::AfterSteps(int steps) const
     return {x, from.y + (x - from.x) / _step.x * _step.y};
 }
 
-void Kiv2DManipulator::MoveTo(const Kiv2DPoint& place)
+void Kiv2DManipulator::MoveTo(const Kiv2DPoint& point)
 {
     if (!_point) return;
-    _point->SetOrigin(place);
+    _point->SetOrigin(point);
     SendNotification(&_manipulated);
 }

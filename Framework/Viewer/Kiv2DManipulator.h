@@ -34,7 +34,7 @@ public:
     Kiv2DPoint AfterSteps(int steps) const;
 
     // Moves the point, as a user's hand does, and tells. This object may be gone afterwards.
-    void MoveTo(const Kiv2DPoint& place);
+    void MoveTo(const Kiv2DPoint& point);
 
     // The point was moved by a user.
     KivNotification* GetManipulateNotification() const { return &_manipulated; }

@@ -24,12 +24,12 @@ KivHandAnswer KivUserHand::Drag(Kiv2DViewer& viewer, double x, double y)
 {
     const KivHandAnswer reach = ReachPoint(viewer);
     if (!reach) return reach;
-    const Kiv2DPoint place{x, y};
-    if (!place.IsFinite()) return KivHandReach::Refused(KivTextCatalogue::FrameworkText("HandNoSuchPlace"));
+    const Kiv2DPoint point{x, y};
+    if (!point.IsFinite()) return KivHandReach::Refused(KivTextCatalogue::FrameworkText("HandNoSuchPoint"));
     Kiv2DManipulator& manipulator = *viewer.GetActiveManipulator();
-    if (place == manipulator.GetOrigin()) return reach;
+    if (point == manipulator.GetOrigin()) return reach;
     const KivWeakPtr<Kiv2DViewer> stays(&viewer);
-    manipulator.MoveTo(place);
+    manipulator.MoveTo(point);
     if (stays) viewer.Redraw();
     return reach;
 }
@@ -38,8 +38,8 @@ KivHandAnswer KivUserHand::Step(Kiv2DViewer& viewer, int steps)
 {
     const KivHandAnswer reach = ReachPoint(viewer);
     if (!reach) return reach;
-    const Kiv2DPoint place = viewer.GetActiveManipulator()->AfterSteps(steps);
-    return Drag(viewer, place.x, place.y);
+    const Kiv2DPoint point = viewer.GetActiveManipulator()->AfterSteps(steps);
+    return Drag(viewer, point.x, point.y);
 }
 
 KivHandAnswer KivUserHand::Enter(Kiv2DViewer& viewer, double value)

@@ -49,14 +49,15 @@ void SuggestName(KivSettingFinding& finding)
 
 void Sort(LayerCheck& check, const std::vector<KivUnicodeString>& paths)
 {
-    const auto place = [&paths](const KivSettingFinding& finding) {
+    const auto location = [&paths](const KivSettingFinding& finding) {
         const auto at = std::find_if(paths.begin(), paths.end(), [&finding](const KivUnicodeString& path) {
             return path.View().starts_with(finding.file.View()); // of the file, or of its directory
         });
         return std::pair(finding.file.IsEmpty() || at == paths.end() ? -1 : at - paths.begin(), finding.line);
     };
-    std::stable_sort(check.findings.begin(), check.findings.end(),
-                     [&place](const auto& left, const auto& right) { return place(left) < place(right); });
+    std::stable_sort(
+        check.findings.begin(), check.findings.end(),
+        [&location](const auto& left, const auto& right) { return location(left) < location(right); });
 }
 
 } // namespace

@@ -18,7 +18,7 @@ ExitCode Misuse(Console& console, const Arguments& arguments)
     return ExitCode::Misuse;
 }
 
-// False, and said, when there is no such place.
+// False, and said, when there is no such file or directory.
 bool FindLayers(const Arguments& arguments, Console& console)
 {
     std::error_code failed;

@@ -47,12 +47,12 @@ SettingsFile::SettingsFile(const std::string& path, Console& console)
     file.Report(KivUnicodeString(name));
     _isRead = true;
     _isWhole = !file.IsDamaged();
-    std::unordered_map<std::string_view, std::size_t> places;
+    std::unordered_map<std::string_view, std::size_t> indices;
     for (const KivSettingLine& line : file.Lines()) {
         if (line.key.empty() || (!line.lock && !KivHasValue(line.value))) continue;
-        const auto [place, isNew] = places.try_emplace(line.key, _entries.size());
+        const auto [slot, isNew] = indices.try_emplace(line.key, _entries.size());
         if (isNew) _entries.emplace_back(line.key, KivSettingEntry());
-        KivSettingEntry& entry = _entries[place->second].second;
+        KivSettingEntry& entry = _entries[slot->second].second;
         if (KivHasValue(line.value)) {
             entry.value = line.value;
             entry.initial = line.initial;

@@ -17,11 +17,11 @@ protected:
         node = &Node<KivDlgEditor>("editorTitleBlockPath_dialog");
         field = WidgetOf<NativeEditor>(*node);
     }
-    QString Path(const char* below) const { return place.path() + below; }
+    QString Path(const char* below) const { return root.path() + below; }
     void Show(const QString& path) { node->SetText(path.toUtf8().constData(), 0); }
     NativeDirectoryButton* Button() const { return window->findChild<NativeDirectoryButton*>(); }
 
-    QTemporaryDir place;
+    QTemporaryDir root;
     KivDlgEditor* node = nullptr;
     NativeEditor* field = nullptr;
 };
@@ -30,7 +30,7 @@ TEST_F(NativeDirectories, AMissingOneIsKeptAndMarkedAndFollowsTheDisk)
 {
     QFile plain(Path("/file"));
     ASSERT_TRUE(plain.open(QIODevice::WriteOnly));
-    for (const auto& [path, missing] : {std::pair(place.path(), false),
+    for (const auto& [path, missing] : {std::pair(root.path(), false),
                                         {QString(), false},
                                         {Path("/no"), true},
                                         {Path("/file"), true},
@@ -84,7 +84,7 @@ TEST_F(NativeDirectories, TheChooserBeginsWhereTheTextLeadsAndEntersWhatIsChosen
     QTest::keyClick(Button(), Qt::Key_Space);
     const QPointer<QFileDialog> chooser = field->findChild<QFileDialog*>();
     ASSERT_TRUE(chooser);
-    EXPECT_EQ(chooser->directory().absolutePath(), place.path());
+    EXPECT_EQ(chooser->directory().absolutePath(), root.path());
     chooser->reject();
     EXPECT_EQ(typed.heard, 0);
 

@@ -30,11 +30,11 @@ protected:
         OptionsFixture::TearDown();
     }
     double Level() { return Spinner("spinHRVLOD").GetValue(); }
-    QPoint PlaceOf(const Kiv2DPoint& place) const { return widget->Graph().ToWindow(place).toPoint(); }
-    QPoint PlaceOf(int level) const
+    QPoint PositionOf(const Kiv2DPoint& point) const { return widget->Graph().ToWindow(point).toPoint(); }
+    QPoint PositionOf(int level) const
     {
         const double x = 5.0 * level;
-        return PlaceOf(Kiv2DPoint{x, 10.0 + 13.0 / 1125.0 * x * x});
+        return PositionOf(Kiv2DPoint{x, 10.0 + 13.0 / 1125.0 * x * x});
     }
     void Move(const QPoint& to) const { TestHand::Drag(widget, to); }
     QImage Take(int scale = 1) const { return TestPicture::Take(*widget, scale); }
@@ -48,22 +48,22 @@ protected:
 TEST_F(NativeViewers, ThePointerDragsThePointAlongTheCurve)
 {
     EXPECT_EQ(widget->cursor().shape(), Qt::OpenHandCursor);
-    const QPoint beside = PlaceOf(4) + QPoint(2, -3);
+    const QPoint beside = PositionOf(4) + QPoint(2, -3);
     QTest::mousePress(widget, Qt::LeftButton, {}, beside);
     EXPECT_EQ(moved->heard, 0) << "the handle jumped when it was taken";
     EXPECT_EQ(widget->cursor().shape(), Qt::ClosedHandCursor);
-    Move(PlaceOf(9) + QPoint(2, 30));
+    Move(PositionOf(9) + QPoint(2, 30));
     EXPECT_EQ(Level(), 9.0);
     Move(QPoint(-400, 0));
     EXPECT_EQ(Level(), 1.0);
     QTest::keyClick(widget, Qt::Key_Escape);
     EXPECT_EQ(Level(), 4.0) << "let go of where it was taken";
-    Move(PlaceOf(9));
-    QTest::mouseRelease(widget, Qt::LeftButton, {}, PlaceOf(9));
+    Move(PositionOf(9));
+    QTest::mouseRelease(widget, Qt::LeftButton, {}, PositionOf(9));
     EXPECT_EQ(Level(), 4.0);
-    QTest::mouseClick(widget, Qt::LeftButton, {}, PlaceOf(12) + QPoint(0, 40));
+    QTest::mouseClick(widget, Qt::LeftButton, {}, PositionOf(12) + QPoint(0, 40));
     EXPECT_EQ(Level(), 12.0) << "from elsewhere it comes to the pointer";
-    QTest::mouseClick(widget, Qt::RightButton, {}, PlaceOf(2));
+    QTest::mouseClick(widget, Qt::RightButton, {}, PositionOf(2));
     EXPECT_EQ(Level(), 12.0);
     EXPECT_EQ(widget->cursor().shape(), Qt::OpenHandCursor);
 }
@@ -111,20 +111,20 @@ TEST_F(NativeViewers, ALockedOneIsGrayAndSaysWhyAndDoesNotMove)
     const QImage free = Take();
     KivDlgLock& lock = Lock("spinHRVLOD");
     KivSettingInfo info;
-    QTest::mousePress(widget, Qt::LeftButton, {}, PlaceOf(4));
+    QTest::mousePress(widget, Qt::LeftButton, {}, PositionOf(4));
     info.locked = true;
     lock.SetInfo(info); // comes under the hand that drags
-    Move(PlaceOf(9));
+    Move(PositionOf(9));
     EXPECT_EQ(widget->focusPolicy(), Qt::NoFocus);
     EXPECT_NE(widget->cursor().shape(), Qt::OpenHandCursor);
     EXPECT_TRUE(
         widget->toolTip().contains(QString::fromUtf8(lock.GetReason().ConvertToChar()).toHtmlEscaped()));
-    QTest::mouseClick(widget, Qt::LeftButton, {}, PlaceOf(9));
+    QTest::mouseClick(widget, Qt::LeftButton, {}, PositionOf(9));
     QTest::keyClick(widget, Qt::Key_End);
     EXPECT_EQ(moved->heard, 0);
     EXPECT_NE(Take(), free);
     lock.SetInfo(KivSettingInfo());
-    Move(PlaceOf(9));
+    Move(PositionOf(9));
     EXPECT_EQ(moved->heard, 0) << "what was let go of stays so";
     EXPECT_EQ(widget->focusPolicy(), Qt::StrongFocus);
 }
@@ -175,28 +175,28 @@ TEST_F(NativeViewers, AnythingMayGoUnderTheHand)
 
 TEST_F(NativeViewers, ThePictureIsSharpAndFollowsPointAndTheme)
 {
-    const auto at = [](const QImage& image, const QPoint& place) {
-        return image.pixelColor(place * image.devicePixelRatio());
+    const auto at = [](const QImage& image, const QPoint& position) {
+        return image.pixelColor(position * image.devicePixelRatio());
     };
     const auto show = [this](int level) { Spinner("spinHRVLOD").SetValue(level, 1); };
     const QColor base = usual.color(QPalette::Base), ink = usual.color(QPalette::Text);
     for (const int scale : {1, 2, 3}) {
         const QImage image = Take(scale);
-        const QColor handle = at(image, PlaceOf(4));
+        const QColor handle = at(image, PositionOf(4));
         EXPECT_GT(handle.saturation(), 100);
-        EXPECT_GT(at(image, PlaceOf(10)).saturation(), 60) << "no curve";
+        EXPECT_GT(at(image, PositionOf(10)).saturation(), 60) << "no curve";
         // Across the axis there is surface and ink, and nothing between.
         int inked = 0;
         for (int x = 5 * scale; x < 20 * scale; ++x) {
-            const QColor color = image.pixelColor(x, PlaceOf({0.0, 15.0}).y() * scale);
+            const QColor color = image.pixelColor(x, PositionOf({0.0, 15.0}).y() * scale);
             EXPECT_TRUE(color == base || color == ink) << scale << " at " << x;
             inked += color == ink;
         }
         EXPECT_EQ(inked, scale);
         show(13);
         const QImage after = Take(scale);
-        EXPECT_EQ(at(after, PlaceOf(4) + QPoint(3, 0)), base);
-        EXPECT_EQ(at(after, PlaceOf(13) + QPoint(3, 0)), handle);
+        EXPECT_EQ(at(after, PositionOf(4) + QPoint(3, 0)), base);
+        EXPECT_EQ(at(after, PositionOf(13) + QPoint(3, 0)), handle);
         show(4);
     }
     QPalette dark(QColor(45, 46, 50));
@@ -204,9 +204,9 @@ TEST_F(NativeViewers, ThePictureIsSharpAndFollowsPointAndTheme)
     dark.setColor(QPalette::Highlight, QColor(60, 110, 180));
     QApplication::setPalette(dark);
     QTest::qWait(1);
-    EXPECT_EQ(at(Take(), PlaceOf({40.0, 60.0})), QColor(32, 33, 36));
+    EXPECT_EQ(at(Take(), PositionOf({40.0, 60.0})), QColor(32, 33, 36));
     graph->SetSensitivity(KivDlgDisabled);
-    EXPECT_EQ(at(Take(2), PlaceOf(4)), QColor(32, 33, 36)) << "a hollow handle";
+    EXPECT_EQ(at(Take(2), PositionOf(4)), QColor(32, 33, 36)) << "a hollow handle";
     QFont large = widget->font();
     large.setPointSize(3 * large.pointSize());
     widget->setFont(large);

@@ -62,7 +62,7 @@ protected:
     {
         return WidgetOf<Widget>(Control(row));
     }
-    QPoint PlaceOf(const KivDialog& node) const { return WidgetOf(node)->mapTo(window.get(), QPoint()); }
+    QPoint PositionOf(const KivDialog& node) const { return WidgetOf(node)->mapTo(window.get(), QPoint()); }
     QPushButton* Button(const char* text)
     {
         for (QPushButton* button : window->findChildren<QPushButton*>())

@@ -142,8 +142,8 @@ TEST_F(OptionsSubWindow, ItsPlaceIsRemembered)
     const OptionsMemory memory(directory.filePath("desktop.ini"));
     OpenRemembering(memory);
     const QRect chosen(40, 60, native->width() + 30, native->height() + 20);
-    const auto closeAt = [&](const QRect& place) {
-        native->setGeometry(place);
+    const auto closeAt = [&](const QRect& geometry) {
+        native->setGeometry(geometry);
         KivUserHand::Close(Window());
         Settle();
     };

@@ -89,7 +89,7 @@ TEST_F(RealPages, AnAdministratorsPadlocksAreSwitches)
 
 TEST_F(RealPages, LineTheirFieldsUpInEitherDirection)
 {
-    const auto left = [&](const char* name) { return PlaceOf(Control(name)).x(); };
+    const auto left = [&](const char* name) { return PositionOf(Control(name)).x(); };
     for (const auto& [one, other] : {std::pair("checkGridLock", "checkSnapLock"),
                                      {"checkGridLock", "checkAllowDistortionsLock"},
 
@@ -98,9 +98,9 @@ TEST_F(RealPages, LineTheirFieldsUpInEitherDirection)
                                      {"editorGridSpacingV", "editorGridGraduationV"},
                                      {"comboBackgroundColor", "comboBackgroundColorDD"}})
         EXPECT_EQ(left(one), left(other)) << one;
-    EXPECT_EQ(left("checkGrid"), PlaceOf(*Spinner("editorGridSpacing").GetLabel()).x());
+    EXPECT_EQ(left("checkGrid"), PositionOf(*Spinner("editorGridSpacing").GetLabel()).x());
     EXPECT_GT(left("editorGridSpacingV"), left("editorGridSpacing"));
-    EXPECT_EQ(PlaceOf(Control("editorGridSpacing")).y(), PlaceOf(Control("editorGridSpacingV")).y());
+    EXPECT_EQ(PositionOf(Control("editorGridSpacing")).y(), PositionOf(Control("editorGridSpacingV")).y());
     Spinner("editorGridSpacing").SetSensitivity(KivDlgDisabled);
     EXPECT_FALSE(WidgetOf(*Spinner("editorGridSpacing").GetLabel())->isEnabled());
     window->setLayoutDirection(Qt::RightToLeft);
@@ -309,10 +309,10 @@ TEST_F(RealPages, StillFitWhenTranslationsAreLonger)
             if (qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget)) {
                 EXPECT_GE(widget->width(), widget->sizeHint().width()) << name << " is cut off";
             }
-            const QRect place(widget->mapTo(window.get(), QPoint()), widget->size());
+            const QRect area(widget->mapTo(window.get(), QPoint()), widget->size());
             for (const QWidget* other : seen) {
-                const QRect otherPlace(other->mapTo(window.get(), QPoint()), other->size());
-                EXPECT_FALSE(place.intersects(otherPlace))
+                const QRect otherArea(other->mapTo(window.get(), QPoint()), other->size());
+                EXPECT_FALSE(area.intersects(otherArea))
                     << name << " lies on " << other->objectName().toStdString();
             }
             seen << widget;

@@ -13,7 +13,7 @@ using namespace KivDrwKeys;
 
 class SheetViews : public SheetFixture {
 protected:
-    // The color of a place of the sheet (mm) in a grab.
+    // The color of a position of the sheet (mm) in a grab.
     QColor At(double x, double y) const
     {
         return Grab().pixelColor(view->Camera().ToWindow({x, y}).toPoint());
@@ -34,7 +34,7 @@ TEST_F(SheetViews, ThePictureShowsColorAndGrid)
 {
     Write(Drw_settings_GridSecondaryStep, 1);
     sketcher.GridModify();
-    // A line of the grid, beside all that is drawn on the sheet; and a place between the lines.
+    // A line of the grid, beside all that is drawn on the sheet; and a position between the lines.
     const auto isOnGrid = [&] {
         const QImage grab = Grab();
         const QPoint at = view->Camera().ToWindow({250.0, 200.0}).toPoint();
@@ -100,19 +100,20 @@ TEST_F(SheetViews, ThePlaceSnapsToTheGridAndIsSaidInTheUsersUnit)
     Write(Drw_settings_GridPrimarySpacing, 25.4);
     Write(Drw_settings_GridSecondaryStep, 2);
     sketcher.GridModify();
-    QString place;
-    QObject::connect(view.get(), &SheetView::PlaceChanged, [&](const QString& words) { place = words; });
+    QString position;
+    QObject::connect(view.get(), &SheetView::PositionChanged,
+                     [&](const QString& words) { position = words; });
     const QPoint at = view->Camera().ToWindow({26.0, 52.0}).toPoint();
     QTest::mouseMove(view.get(), at);
-    EXPECT_EQ(place, "H 25.4 mm   V 50.8 mm");
+    EXPECT_EQ(position, "H 25.4 mm   V 50.8 mm");
     KivParmEngine::Instance().SetCurrentUnit(KivParmDictionary::LengthType, "INCH");
-    EXPECT_EQ(place, "H 1 in   V 2 in");
+    EXPECT_EQ(position, "H 1 in   V 2 in");
     KivParmEngine::Instance().SetCurrentUnit(KivParmDictionary::LengthType, "MM");
     Write(Drw_settings_GridSnapPt, 0);
     sketcher.SnapModify();
-    EXPECT_NE(place, "H 25.4 mm   V 50.8 mm");
+    EXPECT_NE(position, "H 25.4 mm   V 50.8 mm");
     QTest::mouseMove(view.get(), QPoint(1, 1) + QPoint(30, 30));
-    EXPECT_EQ(place, "") << "the desk is no place of the sheet";
+    EXPECT_EQ(position, "") << "the desk is no position of the sheet";
 }
 
 TEST_F(SheetViews, ZoomAndPanAreBounded)

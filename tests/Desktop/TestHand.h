@@ -10,8 +10,8 @@ namespace TestHand {
 
 inline void Wheel(QWidget* over)
 {
-    const QPointF place = over->rect().center();
-    QWheelEvent event(place, over->mapToGlobal(place), QPoint(), QPoint(0, -120), Qt::NoButton,
+    const QPointF position = over->rect().center();
+    QWheelEvent event(position, over->mapToGlobal(position), QPoint(), QPoint(0, -120), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     // As from a real wheel: only those reach the parents of a field that ignores them.
     QSpontaneKeyEvent::setSpontaneous(&event);

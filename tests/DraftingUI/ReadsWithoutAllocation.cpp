@@ -20,7 +20,7 @@ TEST(Reads, AllocateNothing)
     int whole = 0;
     double real = 0.0;
     KivUnicodeString text(std::string(200, 'y'));
-    KivSettingProvenance place;
+    KivSettingProvenance provenance;
     // The first of each key that is of another type is reported.
     EXPECT_EQ(repository.ReadSetting("Ruler", &real, 1), E_FAIL);
     EXPECT_EQ(KivDrwRead(&repository, KivDrwKeys::Drw_settings_GridPrimarySpacing), 100.0);
@@ -31,8 +31,8 @@ TEST(Reads, AllocateNothing)
         repository.ReadSetting("Ruler", &real, 1),
         repository.ReadSetting("NeverHeardOf_AndLongerThanAnyShortString", &whole, 1),
         repository.ReadSetting("DrwGVSXmlTrel", &text, 1),
-        repository.ReadBound(kKivDrwKeyNames, KivDrwPlaces::DrwGVSXmlTrel, &text),
-        repository.GetProvenance("Ruler", place),
+        repository.ReadBound(kKivDrwKeyNames, KivDrwIndices::DrwGVSXmlTrel, &text),
+        repository.GetProvenance("Ruler", provenance),
     };
     real = KivDrwRead(&repository, KivDrwKeys::RotSnapAngle) +
            KivDrwRead(&repository, KivDrwKeys::Drw_settings_GridPrimarySpacing);
@@ -44,11 +44,11 @@ TEST(Reads, AllocateNothing)
     EXPECT_EQ(real, 130.0);
     EXPECT_EQ(whole, 1);
     EXPECT_EQ(text, KivUnicodeString(std::string(100, 'x')));
-    EXPECT_TRUE(place.locked);
+    EXPECT_TRUE(provenance.locked);
 }
 
-// The places stay right when the table grows, when files change and after everything was forgotten.
-TEST(Reads, PlacesNameTheirKeys)
+// The indices stay right when the table grows, when files change and after everything was forgotten.
+TEST(Reads, IndicesNameTheirKeys)
 {
     KivSettingsSandbox box;
     std::string bytes;
@@ -57,10 +57,10 @@ TEST(Reads, PlacesNameTheirKeys)
     const auto check = [] {
         KivSettingRepository& repository = *KivDrwRepository();
         for (std::size_t i = 0; i < std::size(kKivDrwKeyNames); ++i) {
-            int byName = -1, byPlace = -1;
+            int byName = -1, byIndex = -1;
             EXPECT_EQ(repository.ReadSetting(kKivDrwKeyNames[i], &byName, 1),
-                      repository.ReadBound(kKivDrwKeyNames, i, &byPlace));
-            EXPECT_EQ(byName, byPlace) << kKivDrwKeyNames[i];
+                      repository.ReadBound(kKivDrwKeyNames, i, &byIndex));
+            EXPECT_EQ(byName, byIndex) << kKivDrwKeyNames[i];
         }
         int value = -1;
         EXPECT_EQ(repository.ReadBound(kKivDrwKeyNames, std::size(kKivDrwKeyNames), &value), E_FAIL);
@@ -75,7 +75,7 @@ TEST(Reads, PlacesNameTheirKeys)
     KivSettingRepository::ForgetAll();
     check();
 
-    // Another part of the program binds keys of its own: places of the catalogue name none of them.
+    // Another part of the program binds keys of its own: indices of the catalogue name none of them.
     static const char* const theirs[] = {"K0", "K1", "K2", "K3", "GraduatedColorDitto"};
     KivSettingRepository& repository = *KivDrwRepository();
     repository.BindKeys(theirs);

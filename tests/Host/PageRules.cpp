@@ -225,10 +225,10 @@ TEST_F(PageRules, GenerationWritesAllItsKeysInItsOwnOrder)
     for (const char* line : {"int GenBalloonByInstance = 0", "int GenDim = 1", "int GenDimFilter = 0",
                              "int GenDimAutoPos = 0", "int GenDimAutoTrans = 0", "int GenDimAnal = 1",
                              "int DrwGenDimFromPart = 0", "int GenDimSemiAutoTimeOut = 2"}) {
-        const std::size_t place = bytes.find(line);
-        ASSERT_NE(place, std::string::npos) << line;
-        EXPECT_GT(place, last) << line;
-        last = place;
+        const std::size_t position = bytes.find(line);
+        ASSERT_NE(position, std::string::npos) << line;
+        EXPECT_GT(position, last) << line;
+        last = position;
     }
 }
 

@@ -95,10 +95,11 @@ TEST_F(ToolTest, ChecksEveryLineOfEveryLayer)
     EXPECT_EQ(run.code, 1);
     std::istringstream lines(run.out);
     std::string line;
-    for (const auto& [place, words] : expected) {
+    for (const auto& [location, message] : expected) {
         std::getline(lines, line);
-        EXPECT_TRUE(line.starts_with(place) && line.find(words) != std::string::npos) << line << "\n"
-                                                                                      << place << words;
+        EXPECT_TRUE(line.starts_with(location) && line.find(message) != std::string::npos)
+            << line << "\n"
+            << location << message;
     }
     EXPECT_FALSE(std::getline(lines, line)) << line;
     EXPECT_EQ(Run("check --layer $root/company").out, run.out.substr(0, run.out.find('\n') + 1));

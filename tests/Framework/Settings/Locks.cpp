@@ -63,12 +63,12 @@ TEST_F(Locks, APrefixLocksWhatIsKnownAndWhatComesLater)
         EXPECT_EQ(Put(key, 9), E_FAIL) << key;
     EXPECT_EQ(Put("Other", 9), S_OK);
     EXPECT_EQ(Put("dim", 9), S_OK);
-    KivSettingProvenance place;
-    EXPECT_EQ(repository.GetProvenance("DimA", place), S_OK);
-    EXPECT_TRUE(place.locked);
-    EXPECT_EQ(*place.layer, "site");
-    EXPECT_EQ(place.line, 1);
-    EXPECT_EQ(repository.GetProvenance("Never", place), E_FAIL);
+    KivSettingProvenance provenance;
+    EXPECT_EQ(repository.GetProvenance("DimA", provenance), S_OK);
+    EXPECT_TRUE(provenance.locked);
+    EXPECT_EQ(*provenance.layer, "site");
+    EXPECT_EQ(provenance.line, 1);
+    EXPECT_EQ(repository.GetProvenance("Never", provenance), E_FAIL);
 
     box.Write(box.File("site"), "int DimA = 2\n");
     Keys changed = repository.Refresh();

@@ -53,8 +53,8 @@ int DefaultDimSketch()
 
 KivUnicodeString DefaultFrameAndTitleBlockPath()
 {
-    const KivUnicodeString places = KivGetOfficialVariable("KivInstallPath");
-    const std::string_view all = places.View();
+    const KivUnicodeString directories = KivGetOfficialVariable("KivInstallPath");
+    const std::string_view all = directories.View();
     KivUnicodeString candidate;
     for (std::size_t start = 0; !all.empty() && start <= all.size();) {
         const std::size_t end = std::min(all.find(':', start), all.size());

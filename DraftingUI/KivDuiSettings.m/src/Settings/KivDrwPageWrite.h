@@ -15,9 +15,9 @@ template <class Stored>
 void KivDrwKeep(KivSettingRepository* repository, const KivDrwKey<Stored>& key, const Stored& value)
 {
     if (!repository || repository->IsAdministrator()) return;
-    KivSettingProvenance place;
-    repository->GetProvenance(key.name, place);
-    if (place.origin != KivSettingInfo::Origin::None) return;
+    KivSettingProvenance provenance;
+    repository->GetProvenance(key.name, provenance);
+    if (provenance.origin != KivSettingInfo::Origin::None) return;
     const KivSettingRepository::InitialScope nobodyChoseIt(*repository);
     KivDrwWrite(repository, key, value);
 }

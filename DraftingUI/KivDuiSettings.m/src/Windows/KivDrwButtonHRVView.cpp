@@ -115,15 +115,15 @@ void KivDrwButtonHRVView::ReadFrom(KivCommand* from)
     ShowValues();
 }
 
-// The cursor goes to its place on the curve, also when it was dragged off it.
+// The cursor goes to its point on the curve, also when it was dragged off it.
 void KivDrwButtonHRVView::MoveCursor()
 {
     if (!_viewer || !_cursor || !_caption) return;
-    const Kiv2DPoint place = OnCurve(_level.cached);
-    _cursor->SetOrigin(place);
-    const double right = std::clamp(place.x - kCaptionBeside, kCaptionLeast, kCaptionGreatest);
+    const Kiv2DPoint point = OnCurve(_level.cached);
+    _cursor->SetOrigin(point);
+    const double right = std::clamp(point.x - kCaptionBeside, kCaptionLeast, kCaptionGreatest);
     const double bottom =
-        std::clamp(place.y, OnCurve(right / kUnitsPerLevel).y, OnCurve(kCaptionGreatest / kUnitsPerLevel).y);
+        std::clamp(point.y, OnCurve(right / kUnitsPerLevel).y, OnCurve(kCaptionGreatest / kUnitsPerLevel).y);
     _caption->SetPosition({right, bottom + kCaptionAbove});
     _viewer->SetValue({kLeast, kGreatest, static_cast<double>(_level.cached),
                        KivUnicodeString(std::to_string(_level.cached))});

@@ -6,4 +6,4 @@
 
 // The file or directory of an absolute path, or the nearest thing above it that is there. Null text when it
 // lies on a share that does not answer.
-QString ReachablePlace(const KivUnicodeString& path);
+QString ReachablePath(const KivUnicodeString& path);

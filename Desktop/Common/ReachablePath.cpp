@@ -1,4 +1,4 @@
-#include "Common/ReachablePlace.h"
+#include "Common/ReachablePath.h"
 
 #include "Common/NativeText.h"
 #include "Disk/KivTimedReading.h"
@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <unistd.h>
 
-QString ReachablePlace(const KivUnicodeString& path)
+QString ReachablePath(const KivUnicodeString& path)
 {
     const auto look = [](const KivUnicodeString& wanted) {
         KivFileContent found;
