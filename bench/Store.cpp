@@ -20,7 +20,8 @@ using Values = std::vector<std::pair<std::string, KivSettingValue>>;
 Values CatalogueValues()
 {
     Values values;
-    for (const KivDrwRow& row : KivDrwCatalogue::Rows()) values.emplace_back(row.key, row.makeDefault());
+    for (const KivDrwCatalogueEntry& entry : KivDrwCatalogue::Entries())
+        values.emplace_back(entry.key, entry.makeDefault());
     return values;
 }
 

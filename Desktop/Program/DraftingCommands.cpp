@@ -112,7 +112,7 @@ void DraftingCommands::Govern(QAction& entry, const char* command, const char* h
     show(header->IsAvailable());
 }
 
-void DraftingCommands::Say(const QString& words)
+void DraftingCommands::Say(const QString& text)
 {
-    _window.statusBar()->showMessage(words, kSaidFor);
+    _window.statusBar()->showMessage(text, kSaidFor);
 }

@@ -27,7 +27,7 @@ private:
     void Govern(QAction& entry, const char* command, const char* help);
     void AddStyles(QMenu& format);
     void ShowSheetBackground(QMenu& edit);
-    void Say(const QString& words);
+    void Say(const QString& text);
 
     QMainWindow& _window;
     SheetView& _sheet;

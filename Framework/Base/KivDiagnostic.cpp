@@ -16,6 +16,6 @@ KivUnicodeString KivDiagnostic::Message() const
 
 void KivReport(const KivDiagnostic& diagnostic)
 {
-    if (!KivDiagnosticScope::Tell(diagnostic))
+    if (!KivDiagnosticScope::Notify(diagnostic))
         std::fprintf(stderr, "%s\n", diagnostic.Message().ConvertToChar());
 }

@@ -17,5 +17,5 @@ struct KivDiagnostic {
     KivUnicodeString Message() const;
 };
 
-// Says a diagnostic to whoever listens (see KivDiagnosticScope), else on standard error.
+// Reports a diagnostic to whoever observes (see KivDiagnosticScope), else on standard error.
 void KivReport(const KivDiagnostic& diagnostic);

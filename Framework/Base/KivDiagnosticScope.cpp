@@ -5,20 +5,21 @@
 
 namespace {
 
-using Hearers = std::vector<std::shared_ptr<const KivDiagnosticScope::Hear>>;
+using Observers = std::vector<std::shared_ptr<const KivDiagnosticScope::Observer>>;
 
 // The newest is the last. Never destroyed: a diagnostic may still come while the process ends.
-Hearers& Listening()
+Observers& AllObservers()
 {
-    static auto& listening = *new Hearers;
-    return listening;
+    static auto& observers = *new Observers;
+    return observers;
 }
 
 } // namespace
 
-KivDiagnosticScope::KivDiagnosticScope(Hear hear) : _hear(std::make_shared<const Hear>(std::move(hear)))
+KivDiagnosticScope::KivDiagnosticScope(Observer observer)
+    : _observer(std::make_shared<const Observer>(std::move(observer)))
 {
-    Listening().push_back(_hear);
+    AllObservers().push_back(_observer);
 }
 
 KivDiagnosticScope::KivDiagnosticScope(std::vector<KivDiagnostic>& all)
@@ -30,15 +31,16 @@ KivDiagnosticScope::KivDiagnosticScope(std::vector<KivDiagnostic>& all)
 
 KivDiagnosticScope::~KivDiagnosticScope()
 {
-    std::erase(Listening(), _hear);
+    std::erase(AllObservers(), _observer);
 }
 
-bool KivDiagnosticScope::Tell(const KivDiagnostic& diagnostic)
+bool KivDiagnosticScope::Notify(const KivDiagnostic& diagnostic)
 {
     // A copy: who hears it may begin a scope, or end any.
-    const Hearers hearers = Listening();
-    return std::any_of(hearers.rbegin(), hearers.rend(), [&](const auto& hear) {
-        const bool hasEnded = std::find(Listening().begin(), Listening().end(), hear) == Listening().end();
-        return !hasEnded && (*hear)(diagnostic);
+    const Observers observers = AllObservers();
+    return std::any_of(observers.rbegin(), observers.rend(), [&](const auto& observer) {
+        const bool hasEnded =
+            std::find(AllObservers().begin(), AllObservers().end(), observer) == AllObservers().end();
+        return !hasEnded && (*observer)(diagnostic);
     });
 }

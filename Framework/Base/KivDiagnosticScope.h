@@ -6,15 +6,15 @@
 #include <memory>
 #include <vector>
 
-// Hears what is said (KivReport) as long as it lives. Scopes lie upon one another: the newest hears first,
-// and what it does not take goes to the one below, in the end to standard error. They may end in any order,
-// also while they are hearing. Used from the thread that reports.
+// Observes what is reported (KivReport) as long as it lives. Scopes lie upon one another: the newest is
+// notified first, and what it does not take goes to the one below, in the end to standard error. They may end
+// in any order, also while they are notified. Used from the thread that reports.
 class KivDiagnosticScope {
 public:
     // Answers whether it has taken the diagnostic.
-    using Hear = std::function<bool(const KivDiagnostic& said)>;
+    using Observer = std::function<bool(const KivDiagnostic& said)>;
 
-    explicit KivDiagnosticScope(Hear hear);
+    explicit KivDiagnosticScope(Observer observer);
     // Takes everything, into a list of the caller's that has to outlive the scope.
     explicit KivDiagnosticScope(std::vector<KivDiagnostic>& all);
     ~KivDiagnosticScope();
@@ -24,7 +24,7 @@ public:
 private:
     friend void KivReport(const KivDiagnostic& diagnostic);
     // False when nobody has taken it.
-    static bool Tell(const KivDiagnostic& diagnostic);
+    static bool Notify(const KivDiagnostic& diagnostic);
 
-    std::shared_ptr<const Hear> _hear; // shared with a telling that is under way
+    std::shared_ptr<const Observer> _observer; // shared with a notification that is under way
 };

@@ -21,7 +21,7 @@ std::string Read(Assignment& assignment, std::string_view typed, const Settings&
         const std::string wrong = ReadTyped(*entry, typed, assignment.value);
         return wrong.empty() ? wrong : key + ": " + wrong;
     }
-    if (!arguments.Has("force")) return KeySelection::UnknownWords(key);
+    if (!arguments.Has("force")) return KeySelection::UnknownKeyMessage(key);
     if (!KivIsSettingKey(key))
         return "\"" + key + "\" cannot be a key: letters, digits and underscores, no digit in front";
     const std::string stored = settings.Describe(key).TypeWord();

@@ -19,9 +19,9 @@ JsonObject AsJson(const KivSettingFinding& finding)
 
 std::string AsText(const KivSettingFinding& finding)
 {
-    const KivDiagnostic words{
+    const KivDiagnostic diagnostic{
         .text = finding.text, .file = finding.file, .line = finding.line, .key = finding.key};
-    return words.Message().ConvertToChar() + std::string("\n");
+    return diagnostic.Message().ConvertToChar() + std::string("\n");
 }
 
 ExitCode Run(const Arguments& arguments, Console& console)

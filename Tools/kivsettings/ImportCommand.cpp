@@ -15,7 +15,7 @@ std::string Fault(const std::string& key, const KivSettingEntry& entry, bool for
 {
     if (KivIsSettingPattern(key)) return {};
     const KivDrwCatalogueEntry* const known = KivDrwCatalogue::Find(key);
-    if (!known) return force ? "" : KeySelection::UnknownWords(key);
+    if (!known) return force ? "" : KeySelection::UnknownKeyMessage(key);
     const std::string wrong = KivHasValue(entry.value) ? WrongWith(*known, entry.value) : "";
     return wrong.empty() ? wrong : key + ": " + wrong;
 }

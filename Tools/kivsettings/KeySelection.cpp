@@ -35,7 +35,7 @@ std::string KeySelection::Suggestion(std::string_view key)
     return DidYouMean(key, known);
 }
 
-std::string KeySelection::UnknownWords(std::string_view key)
+std::string KeySelection::UnknownKeyMessage(std::string_view key)
 {
     return "there is no setting \"" + std::string(key) + "\"" + Suggestion(key);
 }
@@ -73,7 +73,7 @@ std::optional<std::vector<std::string>> KeySelection::Named(const Settings& sett
             AddOnce(keys, name);
         }
         if (!isFound) {
-            console.Say(IsPattern(name) ? "no setting fits \"" + name + "\"" : UnknownWords(name));
+            console.Say(IsPattern(name) ? "no setting fits \"" + name + "\"" : UnknownKeyMessage(name));
             keys.resize(before);
             isGood = false;
         }
@@ -92,8 +92,8 @@ std::optional<KivDrwGroup> KeySelection::Page(std::string_view name, Console& co
         if (strcasecmp(page, std::string(name).c_str()) == 0) return group;
         known.emplace_back(page);
     }
-    std::string words = "there is no page \"" + std::string(name) + "\"; the pages are";
-    for (std::size_t i = 0; i < known.size(); ++i) (words += i == 0 ? " " : ", ") += known[i];
-    console.Say(words);
+    std::string message = "there is no page \"" + std::string(name) + "\"; the pages are";
+    for (std::size_t i = 0; i < known.size(); ++i) (message += i == 0 ? " " : ", ") += known[i];
+    console.Say(message);
     return std::nullopt;
 }

@@ -24,7 +24,7 @@ std::optional<KivDrwGroup> Page(std::string_view name, Console& console);
 // "; did you mean Ruler?", or empty.
 std::string Suggestion(std::string_view key);
 // "there is no setting "Rulr"; did you mean Ruler?"
-std::string UnknownWords(std::string_view key);
+std::string UnknownKeyMessage(std::string_view key);
 
 bool IsPattern(std::string_view name);
 // Whether a name fits at least one of the patterns; no pattern fits everything.

@@ -59,11 +59,11 @@ std::vector<std::string_view> NearestNames(std::string_view typed, const std::ve
 
 std::string DidYouMean(std::string_view typed, const std::vector<std::string_view>& known)
 {
-    std::string words;
+    std::string text;
     const std::vector<std::string_view> names = NearestNames(typed, known);
     for (std::size_t i = 0; i < names.size(); ++i) {
-        words += i == 0 ? "; did you mean " : i + 1 == names.size() ? " or " : ", ";
-        words += names[i];
+        text += i == 0 ? "; did you mean " : i + 1 == names.size() ? " or " : ", ";
+        text += names[i];
     }
-    return words.empty() ? words : words + "?";
+    return text.empty() ? text : text + "?";
 }

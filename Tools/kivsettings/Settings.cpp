@@ -47,9 +47,10 @@ ExitCode Settings::SetLocks(const std::vector<std::string>& keys, bool locked, C
     for (const std::string& key : keys) {
         if (_repository.SetLock(key.c_str(), locked) == S_OK) continue;
         const KivSettingInfo info = Describe(key).info;
-        KivUnicodeString words = info.Message();
-        if (!info.locked) words.Append(" That line locks more than this key: unlock it as it stands there.");
-        console.Say(key, words.View());
+        KivUnicodeString message = info.Message();
+        if (!info.locked)
+            message.Append(" That line locks more than this key: unlock it as it stands there.");
+        console.Say(key, message.View());
         code = code | ExitCode::Refused;
     }
     return code;

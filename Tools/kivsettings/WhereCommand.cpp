@@ -14,11 +14,11 @@ ExitCode Run(const Arguments& arguments, Console& console)
     JsonArray array;
     for (const std::string& key : *keys) {
         const Setting setting = settings.Describe(key);
-        const KivUnicodeString words = setting.info.Message();
+        const KivUnicodeString message = setting.info.Message();
         if (arguments.Has("json"))
-            console.Print(array.Element(SettingAsJson(setting).Add("words", words.View())));
+            console.Print(array.Element(SettingAsJson(setting).Add("words", message.View())));
         else
-            console.Print(key + ": " + words.ConvertToChar() + "\n");
+            console.Print(key + ": " + message.ConvertToChar() + "\n");
     }
     if (arguments.Has("json")) console.Print(array.End());
     return settings.AfterReading();

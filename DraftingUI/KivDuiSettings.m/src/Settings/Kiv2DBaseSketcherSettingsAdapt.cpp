@@ -28,11 +28,11 @@ int DragModeOrDefault(int value, const KivDrwKey<int>& key)
 }
 
 // A listener who asked to be told is told even of what could not be stored.
-template <class T> void StoreAndTell(KivSettingRepository* repository, const KivDrwKey<T>& key, T value,
-                                     Self& sketcher, void (Self::*tell)(), int notify)
+template <class T> void StoreAndNotify(KivSettingRepository* repository, const KivDrwKey<T>& key, T value,
+                                       Self& sketcher, void (Self::*event)(), int notify)
 {
     KivDrwWrite(repository, key, value);
-    if (notify) (sketcher.*tell)();
+    if (notify) (sketcher.*event)();
 }
 
 unsigned int Packed(unsigned int r, unsigned int g, unsigned int b)
@@ -64,20 +64,21 @@ const KivDrwKey<unsigned int>* DiagnosticColor(int diagnostic)
 // The pairs of getter and setter, one an entry. Every name is written out and can be searched.
 
 // A setter alone, for a getter with a rule of its own: it stores what Fit makes of the value under the key
-// and tells the listeners by the operation Tell.
-#define KIV_SKETCHER_SETTER(T, key, Fit, Tell, Set)                                                          \
+// and tells the listeners by the operation Event.
+#define KIV_SKETCHER_SETTER(T, key, Fit, Event, Set)                                                         \
     void Kiv2DBaseSketcherSettingsAdapt::Set(T value, int notify)                                            \
     {                                                                                                        \
-        StoreAndTell(_repository, KivDrwKeys::key, Fit(value, KivDrwKeys::key), *this, &Self::Tell, notify); \
+        StoreAndNotify(_repository, KivDrwKeys::key, Fit(value, KivDrwKeys::key), *this, &Self::Event,       \
+                       notify);                                                                              \
     }
 
 // A pair with a key of its own.
-#define KIV_SKETCHER_PAIR(T, key, Fit, Tell, Get, Set)                                                       \
+#define KIV_SKETCHER_PAIR(T, key, Fit, Event, Get, Set)                                                      \
     T Kiv2DBaseSketcherSettingsAdapt::Get()                                                                  \
     {                                                                                                        \
         return KivDrwRead(_repository, KivDrwKeys::key);                                                     \
     }                                                                                                        \
-    KIV_SKETCHER_SETTER(T, key, Fit, Tell, Set)
+    KIV_SKETCHER_SETTER(T, key, Fit, Event, Set)
 
 // A pair that is governed by another pair's key.
 #define KIV_SKETCHER_SAME(GoverningGet, GoverningSet, Get, Set)                                              \
@@ -99,14 +100,14 @@ const KivDrwKey<unsigned int>* DiagnosticColor(int diagnostic)
     void Kiv2DBaseSketcherSettingsAdapt::Set(int, int) {}
 
 // A pair of a color with a key of its own, stored packed.
-#define KIV_SKETCHER_COLOR(key, Tell, Get, Set)                                                              \
+#define KIV_SKETCHER_COLOR(key, Event, Get, Set)                                                             \
     void Kiv2DBaseSketcherSettingsAdapt::Get(unsigned int& r, unsigned int& g, unsigned int& b)              \
     {                                                                                                        \
         GetRGB(KivDrwRead(_repository, KivDrwKeys::key), &r, &g, &b);                                        \
     }                                                                                                        \
     void Kiv2DBaseSketcherSettingsAdapt::Set(unsigned int r, unsigned int g, unsigned int b, int notify)     \
     {                                                                                                        \
-        StoreAndTell(_repository, KivDrwKeys::key, Packed(r, g, b), *this, &Self::Tell, notify);             \
+        StoreAndNotify(_repository, KivDrwKeys::key, Packed(r, g, b), *this, &Self::Event, notify);          \
     }
 
 // A pair of a color that the sketcher has not: what is given stays as it is.

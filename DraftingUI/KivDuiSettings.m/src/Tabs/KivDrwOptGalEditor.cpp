@@ -14,12 +14,12 @@ void TellSketcher()
 
 } // namespace
 
-KivDrwTabEditorBase::Telling KivDrwOptGalEditor::AfterCommit() const
+KivDrwTabEditorBase::Notify KivDrwOptGalEditor::AfterCommit() const
 {
     return &TellSketcher;
 }
 
-KivDrwTabEditorBase::Telling KivDrwOptGalEditor::AfterCancel() const
+KivDrwTabEditorBase::Notify KivDrwOptGalEditor::AfterCancel() const
 {
     return &TellSketcher;
 }

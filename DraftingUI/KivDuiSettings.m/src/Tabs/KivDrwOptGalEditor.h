@@ -9,7 +9,7 @@ public:
     static constexpr KivDrwGroup Group = KivDrwGroup::General;
 
 protected:
-    // Tell the sketcher: grid, then snap. A reset deliberately stays silent.
-    Telling AfterCommit() const override;
-    Telling AfterCancel() const override;
+    // Notify the sketcher: grid, then snap. A reset deliberately stays silent.
+    Notify AfterCommit() const override;
+    Notify AfterCancel() const override;
 };

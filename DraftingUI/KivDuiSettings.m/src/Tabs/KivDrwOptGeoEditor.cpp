@@ -15,12 +15,12 @@ void TellSketcher()
 
 } // namespace
 
-KivDrwTabEditorBase::Telling KivDrwOptGeoEditor::AfterCancel() const
+KivDrwTabEditorBase::Notify KivDrwOptGeoEditor::AfterCancel() const
 {
     return &TellSketcher;
 }
 
-KivDrwTabEditorBase::Telling KivDrwOptGeoEditor::AfterReset() const
+KivDrwTabEditorBase::Notify KivDrwOptGeoEditor::AfterReset() const
 {
     return &TellSketcher;
 }

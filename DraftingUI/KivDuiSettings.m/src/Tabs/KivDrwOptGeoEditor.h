@@ -9,7 +9,7 @@ public:
     static constexpr KivDrwGroup Group = KivDrwGroup::Geometry;
 
 protected:
-    // Tell the sketcher: visualization, geometry, then completion. A commit deliberately stays silent.
-    Telling AfterCancel() const override;
-    Telling AfterReset() const override;
+    // Notify the sketcher: visualization, geometry, then completion. A commit deliberately stays silent.
+    Notify AfterCancel() const override;
+    Notify AfterReset() const override;
 };

@@ -17,27 +17,27 @@ void KivDrwTabEditorBase::CommitModification(KivSettingRepository*)
 {
     KivSettingRepository* repository = KivDrwRepository();
     if (!repository) return;
-    const Telling tell = AfterCommit();
+    const Notify notify = AfterCommit();
     repository->SaveRepository(nullptr);
-    if (tell) tell();
+    if (notify) notify();
 }
 
 void KivDrwTabEditorBase::CancelModification(KivSettingRepository*)
 {
     KivSettingRepository* repository = KivDrwRepository();
     if (!repository) return;
-    const Telling tell = AfterCancel();
+    const Notify notify = AfterCancel();
     repository->Rollback();
     repository->Commit(0);
-    if (tell) tell();
+    if (notify) notify();
 }
 
 void KivDrwTabEditorBase::ResetUserSettingsValue()
 {
     KivSettingRepository* repository = KivDrwRepository();
     if (!repository) return;
-    const Telling tell = AfterReset();
+    const Notify notify = AfterReset();
     const std::vector<const char*> keys = KeysToReset();
     repository->ResetToAdminValues(keys.data(), static_cast<int>(keys.size()));
-    if (tell) tell();
+    if (notify) notify();
 }

@@ -20,8 +20,8 @@ public:
 protected:
     virtual std::vector<const char*> KeysToReset() const = 0;
     // What a tab tells the sketcher afterwards, when the editor may be gone; null for nothing.
-    using Telling = void (*)();
-    virtual Telling AfterCommit() const { return nullptr; }
-    virtual Telling AfterCancel() const { return nullptr; }
-    virtual Telling AfterReset() const { return nullptr; }
+    using Notify = void (*)();
+    virtual Notify AfterCommit() const { return nullptr; }
+    virtual Notify AfterCancel() const { return nullptr; }
+    virtual Notify AfterReset() const { return nullptr; }
 };
