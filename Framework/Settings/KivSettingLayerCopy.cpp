@@ -1,5 +1,6 @@
 #include "Settings/KivSettingLayerCopy.h"
 
+#include "Base/KivChecksum.h"
 #include "Base/KivDiagnostic.h"
 #include "Base/KivQuotedText.h"
 #include "Disk/KivAtomicFile.h"
@@ -8,34 +9,20 @@
 #include "Disk/KivHiddenName.h"
 #include "Settings/KivSettingLayers.h"
 
-#include <cstdint>
 #include <unistd.h>
-
-namespace {
-
-// FNV-1a: the same on every machine and in every version, unlike the standard library's hash.
-std::string Checksum(std::string_view text)
-{
-    std::uint64_t sum = 14695981039346656037U;
-    for (const char c : text) sum = (sum ^ static_cast<unsigned char>(c)) * 1099511628211U;
-    std::string digits(16, '0');
-    for (std::size_t at = 16; at-- > 0; sum >>= 4) digits[at] = "0123456789abcdef"[sum & 15];
-    return digits;
-}
-
-} // namespace
 
 KivSettingLayerCopy::KivSettingLayerCopy(const KivUnicodeString& original) : _original(original)
 {
     _path = KivSettingLayers::Cache();
     if (_path.IsEmpty()) return;
     const std::string_view name = original.View().substr(KivDirectoryOf(original.View()).size());
-    _path.Append("/layers/" + Checksum(original.View()) + "-").Append(name);
+    _path.Append("/layers/" + KivChecksumText(original.View()) + "-").Append(name);
 }
 
 std::string KivSettingLayerCopy::Header(std::string_view text) const
 {
-    std::string header = "# kivsettings copy 1 " + Checksum(text) + " " + std::to_string(text.size()) + " ";
+    std::string header =
+        "# kivsettings copy 1 " + KivChecksumText(text) + " " + std::to_string(text.size()) + " ";
     KivAppendQuoted(header, _original.View());
     return header += '\n';
 }
