@@ -103,6 +103,10 @@ bool KivAtomicFile::Rename()
     if (KivUninterrupted([&] { return renameat(directory, from, directory, to); }) != 0)
         return Fail("the file cannot be replaced");
     _isThere = false;
+    // Renaming is a change that the stamp shows; what has been written in place since then is none of ours.
+    struct stat status {};
+    if (fstat(_handle.Get(), &status) == 0 && KivFileStamp(status).HasBytesOf(_stamp))
+        _stamp = KivFileStamp(status);
     return true;
 }
 

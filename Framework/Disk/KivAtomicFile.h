@@ -46,7 +46,7 @@ private:
 };
 
 // Creates a file beside the place's, which must not stand yet, named like it with an ending, and makes it and
-// its name survive a power failure. 0, or the error; EEXIST: it stands.
+// its name survive a power failure. 0, or the error, and no file; EEXIST: it stands.
 int KivWriteNewFile(const KivFilePlace& place, std::string_view ending, std::string_view bytes);
 
 // Makes a directory and those above it, as far as they are missing, and makes them survive a power failure.

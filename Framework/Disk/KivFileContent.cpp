@@ -1,8 +1,8 @@
 #include "Disk/KivFileContent.h"
 
+#include "Base/KivTextLines.h"
 #include "Disk/KivUninterrupted.h"
 
-#include <algorithm>
 #include <fcntl.h>
 #include <system_error>
 
@@ -16,17 +16,23 @@ KivFileContent Unreadable(KivUnicodeString reason)
     return content;
 }
 
-} // namespace
-
-KivUnicodeString KivErrorWords(const char* what, int error)
+KivUnicodeString TooLarge(std::size_t count, const char* what, std::size_t most)
 {
-    return KivUnicodeString(std::string(what) + ": " + std::generic_category().message(error));
+    return KivUnicodeString("the file is too large: " + std::to_string(count) + " " + what + ", at most " +
+                            std::to_string(most));
 }
 
-KivFileContent KivReadFile(const KivUnicodeString& path)
+KivFileHandle Open(const KivUnicodeString& path)
 {
-    KivFileHandle handle(KivUninterrupted(
+    return KivFileHandle(KivUninterrupted(
         [&] { return open(path.ConvertToChar(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC); }));
+}
+
+// isWhole: every byte that the file has was read, and no more came.
+KivFileContent ReadOnce(const KivUnicodeString& path, bool& isWhole)
+{
+    isWhole = true;
+    KivFileHandle handle = Open(path);
     if (!handle.IsOpen()) {
         if (errno != ENOENT) return Unreadable(KivErrorWords("the file cannot be opened", errno));
         return {};
@@ -36,29 +42,46 @@ KivFileContent KivReadFile(const KivUnicodeString& path)
     if (S_ISDIR(status.st_mode)) return Unreadable("a directory stands in place of the file");
     if (!S_ISREG(status.st_mode)) return Unreadable("a pipe or device stands in place of the file");
     const auto size = static_cast<std::size_t>(status.st_size);
-    if (size > KivMostBytes) {
-        return Unreadable(KivUnicodeString("the file is too large: " + std::to_string(size) +
-                                           " bytes, at most " + std::to_string(KivMostBytes)));
-    }
+    if (size > KivMostBytes) return Unreadable(TooLarge(size, "bytes", KivMostBytes));
 
     KivFileContent content;
-    content.text.resize(size);
+    content.text.resize(size + 1); // room for what should not come
     std::size_t filled = 0;
-    while (filled < size) {
-        const ssize_t count =
-            KivUninterrupted([&] { return read(handle.Get(), content.text.data() + filled, size - filled); });
+    while (filled <= size) {
+        const ssize_t count = KivUninterrupted(
+            [&] { return read(handle.Get(), content.text.data() + filled, size + 1 - filled); });
         if (count < 0) return Unreadable(KivErrorWords("the file cannot be read", errno));
-        if (count == 0) break; // cut shorter since: what is left is what there is
+        if (count == 0) break;
         filled += static_cast<std::size_t>(count);
     }
-    content.text.resize(filled);
-    const auto lines = static_cast<std::size_t>(std::count(content.text.begin(), content.text.end(), '\n'));
-    if (lines > KivMostLines) {
-        return Unreadable(KivUnicodeString("the file is too large: " + std::to_string(lines) +
-                                           " lines, at most " + std::to_string(KivMostLines)));
-    }
+    isWhole = filled == size;
+    if (!isWhole) return Unreadable("the file has more or less bytes than it says, as if being written");
+    content.text.resize(size);
+    if (KivUnicodeString trouble = KivSizeTrouble(content.text); !trouble.IsEmpty())
+        return Unreadable(std::move(trouble));
     content.state = KivFileContent::State::Read;
     content.stamp = KivFileStamp(status);
     content.handle = std::move(handle);
     return content;
+}
+
+} // namespace
+
+KivUnicodeString KivErrorWords(const char* what, int error)
+{
+    return KivUnicodeString(std::string(what) + ": " + std::generic_category().message(error));
+}
+
+KivUnicodeString KivSizeTrouble(std::string_view text)
+{
+    if (text.size() > KivMostBytes) return TooLarge(text.size(), "bytes", KivMostBytes);
+    const std::size_t lines = KivCountLineEnds(text);
+    return lines > KivMostLines ? TooLarge(lines, "lines", KivMostLines) : KivUnicodeString();
+}
+
+KivFileContent KivReadFile(const KivUnicodeString& path)
+{
+    bool isWhole = true;
+    KivFileContent content = ReadOnce(path, isWhole);
+    return isWhole ? std::move(content) : ReadOnce(path, isWhole);
 }

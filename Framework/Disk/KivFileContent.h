@@ -4,23 +4,38 @@
 #include "Disk/KivFileHandle.h"
 
 #include <string>
+#include <string_view>
 #include <sys/stat.h>
 
-// What tells one state of a file from another without reading it.
+// What tells one state of a file from another without reading it. Who writes a file can put its time back,
+// but not the time of its last change.
 struct KivFileStamp {
     dev_t device = 0;
     ino_t node = 0;
     off_t size = 0;
     timespec modified{};
+    timespec changed{};
 
     KivFileStamp() = default;
     explicit KivFileStamp(const struct stat& status)
-        : device(status.st_dev), node(status.st_ino), size(status.st_size), modified(status.st_mtim)
+        : device(status.st_dev), node(status.st_ino), size(status.st_size), modified(status.st_mtim),
+          changed(status.st_ctim)
     {}
     bool operator==(const KivFileStamp& other) const
     {
+        return HasBytesOf(other) && IsSameTime(changed, other.changed);
+    }
+    // The same but for what renaming a file or changing its rights leaves behind.
+    bool HasBytesOf(const KivFileStamp& other) const
+    {
         return device == other.device && node == other.node && size == other.size &&
-               modified.tv_sec == other.modified.tv_sec && modified.tv_nsec == other.modified.tv_nsec;
+               IsSameTime(modified, other.modified);
+    }
+
+private:
+    static bool IsSameTime(const timespec& left, const timespec& right)
+    {
+        return left.tv_sec == right.tv_sec && left.tv_nsec == right.tv_nsec;
     }
 };
 
@@ -42,8 +57,12 @@ struct KivFileContent {
 inline constexpr std::size_t KivMostBytes = std::size_t{64} << 20;
 inline constexpr std::size_t KivMostLines = std::size_t{1} << 20;
 
-// Reads a regular file of at most so many bytes and lines.
-// Never waits for the other end of a pipe.
+// Why a text must not be written, since it could not be read again; empty when nothing is against it.
+KivUnicodeString KivSizeTrouble(std::string_view text);
+
+// Reads a regular file of at most so many bytes and lines. One that turns out shorter or longer than it says
+// is read once more; then it is unreadable: no part is taken for the whole. Never waits for the other end of
+// a pipe.
 KivFileContent KivReadFile(const KivUnicodeString& path);
 
 // "cannot be opened: Permission denied"

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <exception>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -18,9 +19,16 @@ public:
     {
         const auto work = [state = _state, call = std::move(call)] {
             const auto start = std::chrono::steady_clock::now();
-            T result = call();
+            T result{};
+            std::exception_ptr failure;
+            try {
+                result = call();
+            } catch (...) {
+                failure = std::current_exception(); // for who waits; it would end the process here
+            }
             const std::lock_guard guard(state->mutex);
             state->result = std::move(result);
+            state->failure = failure;
             state->took = std::chrono::steady_clock::now() - start;
             state->isDone = true;
             state->done.notify_all();
@@ -43,9 +51,13 @@ public:
         std::unique_lock guard(_state->mutex);
         return _state->done.wait_until(guard, then, [this] { return _state->isDone; });
     }
-    // Of a call that is done: how long it took, and what it answered, which is handed over.
+    // Of a call that is done: how long it took, and what it answered, which is handed over, or threw.
     std::chrono::steady_clock::duration Took() const { return _state->took; }
-    T Take() { return std::move(_state->result); }
+    T Take()
+    {
+        if (_state->failure) std::rethrow_exception(_state->failure);
+        return std::move(_state->result);
+    }
 
 private:
     // Shared with a thread that may outlive the one who waits.
@@ -55,6 +67,7 @@ private:
         bool isDone = false;
         std::chrono::steady_clock::duration took{};
         T result{};
+        std::exception_ptr failure;
     };
     std::shared_ptr<State> _state = std::make_shared<State>();
 };

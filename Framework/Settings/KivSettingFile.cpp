@@ -5,16 +5,10 @@
 #include "Settings/KivSettingTable.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cstring>
 #include <unordered_map>
 #include <utility>
 
 namespace {
-
-constexpr std::string_view kVersionMark = "# kivsettings ";
-constexpr int kVersion = 1;
-constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
 
 // A file of noise has millions of damaged lines; nobody reads more than this.
 constexpr std::size_t kMostReports = 20;
@@ -54,60 +48,28 @@ private:
     std::vector<std::uint32_t> _slots; // a line's index + 1; 0: free
 };
 
-std::string_view WithoutEnd(std::string_view line)
-{
-    if (!line.empty() && line.back() == '\n') line.remove_suffix(1);
-    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
-    return line;
-}
-
 } // namespace
 
-KivSettingFile::KivSettingFile(std::string text) : _text(std::make_unique<const std::string>(std::move(text)))
+KivSettingFile::KivSettingFile(std::string text)
+    : _text(std::make_unique<const std::string>(std::move(text))), _seal(KivSettingSeal::StateOf(*_text))
 {
     const std::string_view all = *_text;
+    const KivSettingHead head(all);
+    _newer = head.isThere && !head.isKnown;
+    _damaged = _newer;
     _lines.reserve(std::min(all.size() / 32 + 2, KivMostLines / 64));
-    int number = 0;
-    for (std::size_t begin = 0; begin < all.size();) {
-        const void* found = std::memchr(all.data() + begin, '\n', all.size() - begin);
-        const std::size_t end =
-            found ? static_cast<std::size_t>(static_cast<const char*>(found) - all.data()) + 1 : all.size();
-        std::string_view text_of_line = WithoutEnd(all.substr(begin, end - begin));
-        if (++number == 1) {
-            if (text_of_line.starts_with(kByteOrderMark)) text_of_line.remove_prefix(kByteOrderMark.size());
-            ReadVersion(text_of_line);
-        }
+    for (KivTextLines lines(all); lines.Next();) {
+        const std::size_t mark = lines.Number() == 1 ? head.begin : 0;
         KivSettingLine& line = _lines.emplace_back();
-        KivParseSettingLine(text_of_line, line);
+        KivParseSettingLine(lines.Line().substr(mark), line);
         line.hash = KivSettingTable::Hash(line.key);
-        line.begin = begin;
-        line.end = end;
-        line.number = number;
+        line.begin = lines.Begin() + mark;
+        line.end = lines.End();
+        line.number = lines.Number();
         _hasPatterns = _hasPatterns || line.isPattern;
         _damaged = _damaged || line.kind == KivSettingLine::Kind::Damaged;
         if (line.kind == KivSettingLine::Kind::Other) _lines.pop_back();
-        begin = end;
     }
-}
-
-void KivSettingFile::ReadVersion(std::string_view firstLine)
-{
-    if (!firstLine.starts_with(kVersionMark)) return; // written by hand: taken as it stands
-    firstLine.remove_prefix(kVersionMark.size());
-    int version = 0;
-    const auto read = std::from_chars(firstLine.data(), firstLine.data() + firstLine.size(), version);
-    _newer = read.ec != std::errc{} || version != kVersion;
-    _damaged = _newer;
-}
-
-std::vector<std::string_view> KivSettingFile::DamagedLines() const
-{
-    std::vector<std::string_view> damaged;
-    for (const KivSettingLine& line : _lines) {
-        if (line.kind != KivSettingLine::Kind::Damaged) continue;
-        damaged.push_back(WithoutEnd(Text().substr(line.begin, line.end - line.begin)));
-    }
-    return damaged;
 }
 
 void KivSettingFile::Report(const KivUnicodeString& path) const
@@ -154,14 +116,14 @@ std::string KivSettingFile::With(const std::vector<KivSettingChange>& changes) c
     }
 
     const std::string_view text = Text();
-    const std::size_t firstEnd = text.find('\n');
-    const bool carriageReturns =
-        firstEnd != std::string_view::npos && firstEnd > 0 && text[firstEnd - 1] == '\r';
-    const std::string_view lineEnd = carriageReturns ? "\r\n" : "\n";
-
     std::string result;
-    result.reserve(text.size() + changes.size() * 48 + 32);
-    std::size_t copied = 0;
+    result.reserve(text.size() + changes.size() * 48 + 96);
+    // The head comes first: what means something in the first line alone must not come to stand there.
+    const KivSettingHead head(text);
+    const std::string_view lineEnd = KivLineEndOf(text);
+    result += text.substr(0, head.begin);
+    if (!head.isThere) result.append(KivSettingHead::Line()).append(lineEnd);
+    std::size_t copied = head.begin;
     for (const KivSettingLine& line : _lines) {
         if (line.kind == KivSettingLine::Kind::Unknown) continue;
         const auto found = pending.find(line.key);
@@ -171,21 +133,14 @@ std::string KivSettingFile::With(const std::vector<KivSettingChange>& changes) c
         if (found->second.place != &line || found->second.change->entry.IsEmpty()) continue;
         KivAppendSettingLine(result, *found->second.change);
         const std::string_view old = text.substr(line.begin, line.end - line.begin);
-        result += old.substr(WithoutEnd(old).size());
+        result += old.substr(KivWithoutLineEnd(old).size());
     }
     result += text.substr(copied);
-
-    // What means something in the first line alone must not come to stand there.
-    const std::string version = std::string(kVersionMark) + std::to_string(kVersion);
-    const bool isHeadless = copied > 0 && !_lines.empty() && _lines.front().begin == 0;
-    if (isHeadless && (result.starts_with(kByteOrderMark) || result.starts_with(kVersionMark)))
-        result.insert(0, version).insert(version.size(), lineEnd);
-    if (text.empty()) (result += version) += '\n';
     for (const KivSettingChange& change : changes) {
         if (change.entry.IsEmpty() || pending.find(change.key.View())->second.place) continue;
-        if (!result.empty() && result.back() != '\n') result += lineEnd;
+        if (!KivIsLastLineEnded(result)) result += lineEnd;
         KivAppendSettingLine(result, change);
         result += lineEnd;
     }
-    return result;
+    return KivSettingSeal::Put(std::move(result));
 }

@@ -1,15 +1,16 @@
 #pragma once
 
+#include "Base/KivTextLines.h"
 #include "Settings/KivSettingLine.h"
+#include "Settings/KivSettingSeal.h"
 
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
-// The text of one settings file and what its lines say. The first line names the version of the format:
-// "# kivsettings 1". The text is never changed: what a save writes is a new text in which every line that no
-// change concerns is kept byte for byte.
+// The text of one settings file and what its lines say. The text is never changed: what a save writes is a
+// new text, with a seal, in which every line that no change concerns is kept byte for byte.
 class KivSettingFile {
 public:
     KivSettingFile() : KivSettingFile(std::string()) {}
@@ -27,24 +28,22 @@ public:
     bool IsDamaged() const { return _damaged; }
 
     // False when the last line has no end: whoever wrote the file may have been cut off.
-    bool IsTerminated() const { return _text->empty() || _text->back() == '\n'; }
+    bool IsTerminated() const { return KivIsLastLineEnded(*_text); }
 
-    // The texts of the damaged lines, in order.
-    std::vector<std::string_view> DamagedLines() const;
+    KivSettingSeal::State SealState() const { return _seal; }
 
     // Says every line that costs something, and every key that stands twice (KivReport).
     void Report(const KivUnicodeString& path) const;
 
-    // The text after changes. A changed key keeps the place of its last line; new keys come at the end, in
-    // the order of the changes. No key may stand in the changes twice.
+    // The text after changes, sealed. A changed key keeps the place of its last line; new keys come at the
+    // end, in the order of the changes. No key may stand in the changes twice.
     std::string With(const std::vector<KivSettingChange>& changes) const;
 
 private:
-    void ReadVersion(std::string_view firstLine);
-
     // On the heap, so that the keys of the lines, which point into it, survive a move.
     std::unique_ptr<const std::string> _text;
     std::vector<KivSettingLine> _lines;
+    KivSettingSeal::State _seal;
     bool _damaged = false;
     bool _newer = false;
     bool _hasPatterns = false;

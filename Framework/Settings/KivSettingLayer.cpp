@@ -26,7 +26,8 @@ KivFileContent ReadLayerFile(const KivUnicodeString& path)
 }
 
 // The file's own state, and what is wrong with it: empty when it is whole.
-KivUnicodeString Examine(KivFileContent& content, const KivSettingLayerCopy& copy, KivSettingFile& file)
+KivUnicodeString Examine(const KivUnicodeString& path, KivFileContent& content,
+                         const KivSettingLayerCopy& copy, KivSettingFile& file)
 {
     switch (content.state) {
     case KivFileContent::State::Unreadable:
@@ -40,10 +41,9 @@ KivUnicodeString Examine(KivFileContent& content, const KivSettingLayerCopy& cop
     }
     file = KivSettingFile(std::move(content.text));
     if (file.IsDamaged()) return "the administrator's file is damaged";
-    std::string kept;
-    // Whoever replaces a file in place empties it first; who means to withdraw a layer removes its file.
-    if (file.Text().empty())
-        return copy.Read(kept) && !kept.empty() ? "the administrator's file is empty" : "";
+    // Whoever replaces a file in place empties it first; a file with its version line withdraws a layer.
+    if (file.Text().empty()) return "the administrator's file is empty";
+    if (file.SealState() == KivSettingSeal::State::Broken) return KivSettingSeal::BrokenInLayer(path);
     if (!file.IsTerminated()) return "the administrator's file ends within a line, as if half written";
     copy.Keep(file.Text());
     return {};
@@ -65,7 +65,7 @@ std::vector<KivSettingLayer> KivReadAdministratorLayers(const std::vector<KivUni
     for (std::size_t i = 0; i < directories.size(); ++i) {
         KivSettingLayer layer{KivSettingLayers::NameOf(directories[i]), paths[i], {}, {}};
         const KivSettingLayerCopy copy(layer.path);
-        const KivUnicodeString trouble = Examine(contents[i], copy, layer.file);
+        const KivUnicodeString trouble = Examine(layer.path, contents[i], copy, layer.file);
         layer.file.Report(layer.path);
         if (!trouble.IsEmpty()) {
             std::string kept;

@@ -103,8 +103,8 @@ void KivParseSettingLine(std::string_view text, KivSettingLine& line)
     if (rest.empty() || rest[0] != '=') return Spoil(line, "there is no value");
     if (!KivIsSettingTypeWord(type)) {
         Spoil(line, "the type is unknown");
-        // A newer version's type, not damage: but only a word can be one.
-        if (IsKeyWord(type)) line.kind = KivSettingLine::Kind::Unknown;
+        // A newer version's type, not damage: but only a word can be one, and where it locks nobody guesses.
+        if (IsKeyWord(type) && !line.lock) line.kind = KivSettingLine::Kind::Unknown;
         return;
     }
     if (const char* reason = KivParseSettingValue(type, Trimmed(rest.substr(1)), line.value)) {

@@ -15,7 +15,7 @@ struct KivSettingLine {
     enum class Kind {
         Other,     // blank, comment
         Attribute, // says something about its key
-        Unknown,   // has the shape of an attribute, of a type that this version does not know
+        Unknown,   // has the shape of an attribute without a lock, of a type that this version does not know
         Damaged,   // its value is lost; a lock that can be read still holds
     };
 

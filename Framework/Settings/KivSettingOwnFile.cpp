@@ -4,6 +4,7 @@
 #include "Disk/KivAtomicFile.h"
 #include "Disk/KivDirectoryTrouble.h"
 #include "Disk/KivHiddenName.h"
+#include "Disk/KivSetAside.h"
 
 #include <cerrno>
 #include <climits>
@@ -42,15 +43,25 @@ bool KivSettingOwnFile::IsAsItWas() const
     return _content.handle.IsOpen() && KivFileStamp(status) == _content.stamp;
 }
 
-bool KivSettingOwnFile::Read()
+void KivSettingOwnFile::Read()
+{
+    if (Look()) ReportSeal();
+}
+
+// False when the file is as it was.
+bool KivSettingOwnFile::Look()
 {
     if (_path.IsEmpty() || IsAsItWas()) return false;
-    _content = KivReadFile(_path);
+    KivFileContent content = KivReadFile(_path);
     if (KivUnicodeString trouble = DirectoryTrouble(); !trouble.IsEmpty()) {
-        _content = {};
-        _content.state = KivFileContent::State::Unreadable;
-        _content.reason = std::move(trouble);
+        content = {};
+        content.state = KivFileContent::State::Unreadable;
+        content.reason = std::move(trouble);
     }
+    KivSettingFile file(std::exchange(content.text, {}));
+    _content = std::move(content);
+    _file = std::move(file);
+    ++_version;
     if (IsProtected()) {
         KivReport({KivDiagnostic::Severity::Error,
                    _content.reason + "; it is left alone, and changes cannot be saved",
@@ -58,9 +69,23 @@ bool KivSettingOwnFile::Read()
                    0,
                    {}});
     }
-    _file = KivSettingFile(std::exchange(_content.text, {}));
     _file.Report(_path);
     return true;
+}
+
+void KivSettingOwnFile::ReportSeal() const
+{
+    const bool isBroken = _file.SealState() == KivSettingSeal::State::Broken;
+    if (isBroken && _isAdministrators) {
+        KivReport({.text = KivSettingSeal::BrokenInLayer(_path), .file = _path});
+    } else if (isBroken) {
+        KivReport({.severity = KivDiagnostic::Severity::Note,
+                   .text = "the file was edited by hand, or damaged: its seal does not fit; every line that "
+                           "can be read is used",
+                   .file = _path});
+    } else if (_content.state == KivFileContent::State::Read && _file.Text().empty()) {
+        KivReport({.severity = KivDiagnostic::Severity::Note, .text = "the file is empty", .file = _path});
+    }
 }
 
 bool KivSettingOwnFile::Refuse(const KivUnicodeString& reason) const
@@ -84,56 +109,45 @@ KivUnicodeString KivSettingOwnFile::DirectoryTrouble() const
     return trouble;
 }
 
-// Keeps the damaged file byte for byte under a name of its own. Damaged lines stay in the file as well, so
-// there is nothing to set aside again while it has the damage that the newest copy shows.
+// What no program of ours wrote as it stands, and does not mean what it says or is to mean, is kept byte for
+// byte. Damaged lines stay in the file as well; under a seal that fits they were kept by the save before.
 bool KivSettingOwnFile::SetAside(const KivFilePlace& place) const
 {
-    KivUnicodeString newest;
-    for (int number = 1;; ++number) {
-        const std::string ending = ".damaged-" + std::to_string(number);
-        const KivUnicodeString aside = place.Path() + ending.c_str();
-        if (access(aside.ConvertToChar(), F_OK) == 0) {
-            newest = aside;
-            continue;
-        }
-        if (!newest.IsEmpty()) {
-            const KivSettingFile earlier(KivReadFile(newest).text);
-            if (earlier.IsDamaged() && earlier.DamagedLines() == _file.DamagedLines()) return true;
-        }
-        const int error = KivWriteNewFile(place, ending, _file.Text());
-        if (error == EEXIST) continue;
-        if (error != 0) return Refuse(KivErrorWords("the damaged file cannot be set aside", error));
-        KivReport({KivDiagnostic::Severity::Note,
-                   KivUnicodeString("the damaged file was set aside as ") + aside,
-                   _path,
-                   0,
-                   {}});
-        return true;
+    using State = KivSettingSeal::State;
+    const State seal = _file.SealState();
+    if (seal != State::Broken && (seal == State::Fits || !_file.IsDamaged())) return true;
+    KivUnicodeString where;
+    const int error = KivSetAside(place, _file.Text(), where);
+    if (error != 0) return Refuse(KivErrorWords("the file as it was cannot be set aside", error));
+    if (!where.IsEmpty()) {
+        KivReport({.severity = KivDiagnostic::Severity::Note,
+                   .text = KivUnicodeString("the file as it was was set aside as ") + where,
+                   .file = _path});
     }
+    return true;
 }
 
-KivSettingOwnFile::Outcome KivSettingOwnFile::Write(const KivFileLock& lock, std::string text)
+KivSettingOwnFile::Outcome KivSettingOwnFile::Write(const KivFileLock& lock, KivSettingFile next)
 {
     const auto refuse = [this](const KivUnicodeString& reason) {
         Refuse(reason);
         return Outcome::Refused;
     };
-    if (text.size() > KivMostBytes) {
-        return refuse(KivUnicodeString("the file would have " + std::to_string(text.size()) +
-                                       " bytes, too many to read it again"));
-    }
+    if (const KivUnicodeString trouble = KivSizeTrouble(next.Text()); !trouble.IsEmpty())
+        return refuse(trouble);
     KivAtomicFile file(lock.Place());
-    if (!file.Write(text, _isAdministrators ? 0644 : 0600)) return refuse(file.Reason());
+    if (!file.Write(next.Text(), _isAdministrators ? 0644 : 0600)) return refuse(file.Reason());
     if (!lock.IsHeld()) return refuse(lock.Reason());
     if (!file.Rename()) return refuse(file.Reason());
     _content = {};
     _content.state = KivFileContent::State::Read;
     _content.stamp = file.Stamp();
+    _file = std::move(next);
+    ++_version;
     const bool isDurable = file.FlushDirectory();
     _owed = isDurable ? nullptr : lock.SharedPlace();
     if (!isDurable) KivReport({KivDiagnostic::Severity::Warning, file.Reason(), _path, 0, {}});
     _content.handle = file.TakeHandle();
-    _file = KivSettingFile(std::move(text));
     return isDurable ? Outcome::Durable : Outcome::Visible;
 }
 
@@ -163,7 +177,8 @@ std::shared_ptr<KivFileLock> KivSettingOwnFile::AskTurn(KivUnicodeString& troubl
     return turn;
 }
 
-KivSettingOwnFile::Outcome KivSettingOwnFile::Save(const std::function<Changes(bool)>& merge)
+KivSettingOwnFile::Outcome
+KivSettingOwnFile::UnderLock(const std::function<Outcome(const KivFileLock& lock)>& work)
 {
     KivUnicodeString trouble;
     const std::shared_ptr<KivFileLock> lock = AskTurn(trouble);
@@ -172,13 +187,39 @@ KivSettingOwnFile::Outcome KivSettingOwnFile::Save(const std::function<Changes(b
         Refuse(trouble);
         return Outcome::Refused;
     }
-    const bool wasRead = Read();
+    Look();
     if (IsProtected()) {
         Refuse(_content.reason);
         return Outcome::Refused;
     }
-    const Changes changes = merge(wasRead);
-    if (changes.empty()) return FlushOwed() ? Outcome::Nothing : Outcome::Visible;
-    if (_file.IsDamaged() && !SetAside(lock->Place())) return Outcome::Refused;
-    return Write(*lock, _file.With(changes));
+    return work(*lock);
+}
+
+KivSettingOwnFile::Outcome KivSettingOwnFile::Save(const Merge& merge)
+{
+    return UnderLock([&](const KivFileLock& lock) {
+        if (_isAdministrators && _file.SealState() == KivSettingSeal::State::Broken) {
+            Refuse(KivSettingSeal::BrokenInLayer(_path));
+            return Outcome::Refused;
+        }
+        const Changes changes = merge();
+        if (changes.empty()) return FlushOwed() ? Outcome::Nothing : Outcome::Visible;
+        if (!SetAside(lock.Place())) return Outcome::Refused;
+        return Write(lock, KivSettingFile(_file.With(changes)));
+    });
+}
+
+KivSettingOwnFile::Outcome KivSettingOwnFile::Seal()
+{
+    return UnderLock([&](const KivFileLock& lock) {
+        if (_file.SealState() == KivSettingSeal::State::Fits) return Outcome::Nothing;
+        const char* const trouble =
+            _content.state == KivFileContent::State::Absent ? "there is no such file"
+            : _file.Text().empty() ? "the file is empty; the line \"# kivsettings 1\" alone withdraws a layer"
+            : _file.IsDamaged()    ? "the file has damaged lines, which are to be mended first"
+                                   : nullptr;
+        if (!trouble) return Write(lock, KivSettingFile(_file.With({})));
+        Refuse(trouble);
+        return Outcome::Refused;
+    });
 }

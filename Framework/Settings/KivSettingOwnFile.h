@@ -13,24 +13,31 @@ class KivSettingOwnFile {
 public:
     enum class Outcome { Nothing, Durable, Visible, Refused };
     using Changes = std::vector<KivSettingChange>;
+    using Merge = std::function<Changes()>;
 
     // The path is empty when there is no place for the file.
     KivSettingOwnFile(const KivUnicodeString& path, bool isAdministrators);
 
-    // Reads the file unless it is as it was when it was read or written last. True when it was read.
-    bool Read();
+    // Reads the file unless it is as it was when it was read or written last.
+    void Read();
 
     const KivUnicodeString& Path() const { return _path; }
     const KivSettingFile& File() const { return _file; }
+    // Another one whenever the file has been read or written.
+    unsigned Version() const { return _version; }
 
     // The file is there but cannot be read.
     bool IsProtected() const { return _content.state == KivFileContent::State::Unreadable; }
 
     // Puts changes on top of what is on disk now, which another process may have changed: it is read first,
-    // under the lock. Only then merge is asked for the changes, and told whether the file was read; it is not
-    // asked when the file cannot be written. Refused says why and leaves the disk as it was.
+    // under the lock. Only then merge is asked for the changes; it is not asked when the file cannot be
+    // written. Refused says why and leaves the disk as it was.
     // Where another program saves, it waits for it, for three seconds at most.
-    Outcome Save(const std::function<Changes(bool wasRead)>& merge);
+    Outcome Save(const Merge& merge);
+
+    // Seals the file as it stands, unless its seal fits. Refused says why: no layer's file would be believed
+    // that is damaged or empty.
+    Outcome Seal();
 
     // Asks for the lock without waiting. As long as the answer is kept, every save uses it. Null, and why,
     // when there is nowhere to save to.
@@ -43,13 +50,17 @@ public:
 
 private:
     bool IsAsItWas() const;
+    bool Look();
+    void ReportSeal() const;
+    Outcome UnderLock(const std::function<Outcome(const KivFileLock& lock)>& work);
     KivUnicodeString DirectoryTrouble() const;
     bool Refuse(const KivUnicodeString& reason) const;
     bool SetAside(const KivFilePlace& place) const;
-    Outcome Write(const KivFileLock& lock, std::string text);
+    Outcome Write(const KivFileLock& lock, KivSettingFile next);
 
     KivUnicodeString _path;
     bool _isAdministrators;
+    unsigned _version = 0;
     KivFileContent _content; // without its text, which is the file's
     KivSettingFile _file;
     std::weak_ptr<KivFileLock> _turn;

@@ -1,6 +1,7 @@
 #include "Settings/KivSettingRepository.h"
 
 #include "Base/KivDiagnostic.h"
+#include "Base/KivGuarded.h"
 #include "Settings/KivSettingEnumeration.h"
 #include "Settings/KivSettingLayers.h"
 #include "Settings/KivSettingListeners.h"
@@ -65,10 +66,17 @@ KivSettingRepository* KivSettingRepository::GetRepository(const char* name, int,
 {
     Registry& registry = TheRegistry();
     if (!name || registry.isWithheld || !IsName(name)) return nullptr;
-    const auto [entry, isNew] = registry.repositories.try_emplace({KivString(name), registry.editedLayer});
-    if (isNew) entry->second.reset(new KivSettingRepository(name, registry.editedLayer));
-    entry->second->Open();
-    return entry->second.get();
+    KivSettingRepository* repository = nullptr;
+    const auto open = [&] {
+        std::unique_ptr<KivSettingRepository>& entry =
+            registry.repositories[{KivString(name), registry.editedLayer}];
+        if (!entry) entry.reset(new KivSettingRepository(name, registry.editedLayer));
+        repository = entry.get();
+        repository->Open();
+        return S_OK;
+    };
+    KivGuarded(open, E_FAIL); // one that could not be opened is opened when it is used
+    return repository;
 }
 
 void KivSettingRepository::SetEditedLayer(const KivUnicodeString& directory)
@@ -85,6 +93,7 @@ const KivUnicodeString& KivSettingRepository::EditedLayer()
 void KivSettingRepository::ForgetAll()
 {
     for (const auto& [key, repository] : TheRegistry().repositories) {
+        if (!repository) continue;
         repository->_shown = {};
         repository->_opened.reset();
     }
@@ -120,15 +129,21 @@ HRESULT KivSettingRepository::Take(const KivSettingAttribute& attribute, KivSett
 
 template <class T> HRESULT KivSettingRepository::Read(const char* key, T* value, long count) const
 {
-    const KivSettingAttribute* attribute = Store().Find(key);
-    return attribute && value && count == 1 ? Take(*attribute, *value) : E_FAIL;
+    const auto read = [&] {
+        const KivSettingAttribute* attribute = Store().Find(key);
+        return attribute && value && count == 1 ? Take(*attribute, *value) : E_FAIL;
+    };
+    return KivGuarded(read, E_FAIL);
 }
 
 template <class T> HRESULT KivSettingRepository::ReadUnusual(std::size_t index, T* value) const
 {
-    if (_shown.empty()) _shown = Store().Bind(_boundKeys);
-    const KivSettingAttribute* attribute = Store().FindBound(index);
-    return attribute && value ? Take(*attribute, *value) : E_FAIL;
+    const auto read = [&] {
+        if (_shown.empty()) _shown = Store().Bind(_boundKeys);
+        const KivSettingAttribute* attribute = Store().FindBound(index);
+        return attribute && value ? Take(*attribute, *value) : E_FAIL;
+    };
+    return KivGuarded(read, E_FAIL);
 }
 template HRESULT KivSettingRepository::ReadUnusual(std::size_t, int*) const;
 template HRESULT KivSettingRepository::ReadUnusual(std::size_t, unsigned int*) const;
@@ -140,7 +155,7 @@ template <class T>
 HRESULT KivSettingRepository::Write(const char* key, const T* value, long count, int reserved)
 {
     if (!key || !value || count != 1 || reserved != 0) return E_FAIL;
-    return Store().Write(key, *value) ? S_OK : E_FAIL;
+    return KivGuarded([&] { return Store().Write(key, *value, _isInitial) ? S_OK : E_FAIL; }, E_FAIL);
 }
 
 HRESULT KivSettingRepository::ReadSetting(const char* key, int* value, long count) const
@@ -207,32 +222,44 @@ HRESULT KivSettingRepository::GetInfo(const char* key, KivSettingInfo* info, int
 {
     if (!info) return E_FAIL;
     *info = {};
-    info->repository = _name;
-    info->key = key;
-    info->canLock = IsAdministrator();
-    const KivSettingAttribute* attribute = Store().FindOrLocked(key);
-    if (!attribute) return E_FAIL;
-    Store().Sources().Describe(*attribute, *info);
-    const bool isKnown = info->origin != KivSettingInfo::Origin::None || info->locked || info->lockedHere;
-    return isKnown ? S_OK : E_FAIL;
+    const auto fill = [&] {
+        info->repository = _name;
+        info->key = key;
+        info->canLock = IsAdministrator();
+        const KivSettingAttribute* attribute = Store().FindOrLocked(key);
+        if (!attribute) return E_FAIL;
+        Store().Sources().Describe(*attribute, *info);
+        const bool isKnown = info->origin != KivSettingInfo::Origin::None || info->locked || info->lockedHere;
+        return isKnown ? S_OK : E_FAIL;
+    };
+    return KivGuarded(fill, E_FAIL);
 }
 
 HRESULT KivSettingRepository::GetProvenance(const char* key, KivSettingProvenance& provenance) const
 {
     provenance = {};
-    const KivSettingAttribute* attribute = Store().FindOrLocked(key);
-    if (!attribute) return E_FAIL;
-    Store().Sources().Fill(provenance, *attribute);
-    const bool isKnown = provenance.origin != KivSettingInfo::Origin::None || provenance.lockLayer;
-    return isKnown ? S_OK : E_FAIL;
+    const auto fill = [&] {
+        const KivSettingAttribute* attribute = Store().FindOrLocked(key);
+        if (!attribute) return E_FAIL;
+        Store().Sources().Fill(provenance, *attribute);
+        const bool isKnown = provenance.origin != KivSettingInfo::Origin::None || provenance.lockLayer;
+        return isKnown ? S_OK : E_FAIL;
+    };
+    return KivGuarded(fill, E_FAIL);
 }
 
 HRESULT KivSettingRepository::NextAttribute(char* name, char* type, long* count, int restart)
 {
     constexpr std::size_t bufferSize = 256;
-    KivSettingEnumeration& enumeration = Open().enumeration;
-    if (restart) enumeration = {};
-    const auto next = enumeration.Next(Store().Table(), Store().IsProtected());
+    std::optional<KivSettingEnumeration::Item> next;
+    const auto find = [&] {
+        KivSettingEnumeration& enumeration = Open().enumeration;
+        if (restart) enumeration = {};
+        next = enumeration.Next(Store().Table(), Store().IsProtected());
+        return true;
+    };
+    // What could not be opened must not pass for empty either.
+    if (!KivGuarded(find, false) && restart) next = {"", ""};
     if (!next) return E_FAIL;
     if (name) std::snprintf(name, bufferSize, "%.*s", static_cast<int>(next->name.size()), next->name.data());
     if (type) std::snprintf(type, bufferSize, "%s", next->type);
@@ -240,46 +267,69 @@ HRESULT KivSettingRepository::NextAttribute(char* name, char* type, long* count,
     return S_OK;
 }
 
+// Changes the store, and tells the listeners which keys that changed. What they do is not part of it.
+template <class Work> HRESULT KivSettingRepository::ChangeAndTell(const Work& change, bool tells)
+{
+    Keys changed;
+    const auto work = [&] {
+        changed = change(Store());
+        return S_OK;
+    };
+    const HRESULT result = KivGuarded(work, E_FAIL);
+    const auto tell = [&] {
+        Open().listeners.Tell(changed);
+        return S_OK;
+    };
+    if (tells) KivGuarded(tell, E_FAIL);
+    return result;
+}
+
 HRESULT KivSettingRepository::Commit(int notify)
 {
-    const Keys changed = Store().Commit();
-    if (notify) Open().listeners.Tell(changed);
-    return S_OK;
+    return ChangeAndTell([](KivSettingStore& store) { return store.Commit(); }, notify != 0);
 }
 
 HRESULT KivSettingRepository::Rollback()
 {
-    Open().listeners.Tell(Store().Rollback());
-    return S_OK;
+    return Rollback({});
+}
+
+HRESULT KivSettingRepository::Rollback(std::span<const char* const> only)
+{
+    return ChangeAndTell([&](KivSettingStore& store) { return store.Rollback(only); });
 }
 
 HRESULT KivSettingRepository::SaveRepository(const char* path)
 {
-    if (path) {
+    if (!path) return Save({});
+    const auto refuse = [&] {
+        Open().receipt = Receipt::Refused;
         KivReport(
             {KivDiagnostic::Severity::Error, "a repository is saved to its own file alone", path, 0, {}});
-        Open().receipt = Receipt::Refused;
         return E_FAIL;
-    }
-    return Save({});
+    };
+    return KivGuarded(refuse, E_FAIL);
 }
 
 HRESULT KivSettingRepository::Save(std::span<const char* const> only)
 {
-    Receipt receipt = Receipt::Nothing;
-    const Keys changed = Store().Save(receipt, only);
-    Open().receipt = receipt;
-    Open().listeners.Tell(changed);
+    Receipt receipt = Receipt::Refused;
+    ChangeAndTell([&](KivSettingStore& store) { return store.Save(receipt, only); });
+    if (_opened) _opened->receipt = receipt;
     return receipt == Receipt::Refused ? E_FAIL : S_OK;
 }
 
 std::vector<std::shared_ptr<KivFileLock>> KivSettingRepository::AskTurns()
 {
     std::vector<std::shared_ptr<KivFileLock>> locks;
-    for (const auto& [key, repository] : TheRegistry().repositories) {
-        if (!repository->_opened) continue;
-        if (auto lock = repository->_opened->store.AskTurn()) locks.push_back(std::move(lock));
-    }
+    const auto ask = [&] {
+        for (const auto& [key, repository] : TheRegistry().repositories) {
+            if (!repository || !repository->_opened) continue;
+            if (auto lock = repository->_opened->store.AskTurn()) locks.push_back(std::move(lock));
+        }
+        return true;
+    };
+    KivGuarded(ask, false); // the save tells why
     return locks;
 }
 
@@ -292,66 +342,71 @@ HRESULT KivSettingRepository::SaveKeys(const char* const* keys, int count)
 HRESULT KivSettingRepository::RollbackKeys(const char* const* keys, int count)
 {
     if (!keys || count <= 0) return count == 0 ? S_OK : E_FAIL;
-    Open().listeners.Tell(Store().Rollback({keys, static_cast<std::size_t>(count)}));
-    return S_OK;
+    return Rollback({keys, static_cast<std::size_t>(count)});
 }
 
 KivSettingRepository::Receipt KivSettingRepository::LastReceipt() const
 {
-    return Open().receipt;
+    return KivGuarded([&] { return Open().receipt; }, Receipt::Refused);
 }
 
 HRESULT KivSettingRepository::ResetToAdminValues(const char* const* keys, int count)
 {
     if (count < 0 || (count > 0 && !keys)) return E_FAIL;
-    for (int i = 0; i < count; ++i) {
-        if (keys[i]) Store().DropOwn(keys[i]);
-    }
-    return S_OK;
+    const auto drop = [&] {
+        Store().DropOwn({keys, static_cast<std::size_t>(count)});
+        return S_OK;
+    };
+    return KivGuarded(drop, E_FAIL);
 }
 
 KivSettingRepository::ListenerId KivSettingRepository::AddListener(Listener listener)
 {
-    return Open().listeners.Add(std::move(listener));
+    return KivGuarded([&] { return Open().listeners.Add(std::move(listener)); }, ListenerId(0));
 }
 
 void KivSettingRepository::RemoveListener(ListenerId listener)
 {
-    Open().listeners.Remove(listener);
+    if (_opened) _opened->listeners.Remove(listener);
 }
 
 bool KivSettingRepository::IsProtected() const
 {
-    return Store().IsProtected();
+    return KivGuarded([&] { return Store().IsProtected(); }, true);
 }
 
 KivSettingRepository::Keys KivSettingRepository::Refresh()
 {
-    Keys changed = Store().Refresh();
-    Open().listeners.Tell(changed);
-    return changed;
+    Keys answer;
+    const auto refresh = [&](KivSettingStore& store) {
+        Keys changed = store.Refresh();
+        answer = changed;
+        return changed;
+    };
+    ChangeAndTell(refresh);
+    return answer;
 }
 
 std::vector<KivUnicodeString> KivSettingRepository::Files() const
 {
-    return Store().Sources().Files();
+    return KivGuarded([&] { return Store().Sources().Files(); }, std::vector<KivUnicodeString>());
 }
 
 HRESULT KivSettingRepository::SetLock(const char* key, bool locked)
 {
-    return key && Store().SetLock(key, locked) ? S_OK : E_FAIL;
+    return KivGuarded([&] { return key && Store().SetLock(key, locked) ? S_OK : E_FAIL; }, E_FAIL);
 }
 
 bool KivSettingRepository::IsAdministrator() const
 {
-    return Store().IsAdministrator();
+    return !_editedLayer.IsEmpty();
 }
 
 KivSettingRepository::InitialScope::InitialScope(KivSettingRepository& repository)
-    : _repository(repository), _before(repository.Store().SetInitial(true))
+    : _repository(repository), _before(std::exchange(repository._isInitial, true))
 {}
 
 KivSettingRepository::InitialScope::~InitialScope()
 {
-    _repository.Store().SetInitial(_before);
+    _repository._isInitial = _before;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Base/KivGuarded.h"
 #include "Base/KivResult.h"
 #include "Base/KivUnicodeString.h"
 #include "Settings/KivSettingInfo.h"
@@ -21,7 +22,8 @@ struct KivSettingAttribute;
 // file. One object a name and process, used from the user-interface thread; owned by the framework.
 //
 // A read answers the value in force. A write changes the working state; Commit makes that state the point
-// which Rollback returns to; SaveRepository makes it durable.
+// which Rollback returns to; SaveRepository makes it durable. Where memory runs out an operation fails like
+// for any other reason, with everything as it was.
 class KivSettingRepository {
 public:
     // What SaveRepository did. Everything up to Nothing is safe from a power failure.
@@ -87,8 +89,11 @@ public:
         const bool isThere = keys == _boundKeys.data() && index < _shown.size();
         const T* const shown = isThere ? std::get_if<T>(_shown[index]) : nullptr;
         if (!shown || !value) return IsBound(keys, index) ? ReadUnusual(index, value) : E_FAIL;
-        *value = *shown;
-        return S_OK;
+        const auto take = [&] {
+            *value = *shown;
+            return S_OK;
+        };
+        return KivGuarded(take, E_FAIL);
     }
 
     // Delivers the attributes of all layers one by one, in the order of the files, outermost first. Not zero
@@ -187,7 +192,9 @@ private:
     template <class T> HRESULT Take(const KivSettingAttribute& attribute, T& value) const;
     template <class T> HRESULT Write(const char* key, const T* value, long count, int reserved);
 
+    template <class Work> HRESULT ChangeAndTell(const Work& change, bool tells = true);
     HRESULT Save(std::span<const char* const> only);
+    HRESULT Rollback(std::span<const char* const> only);
 
     friend class KivSettingTurn;
     // The locks of all files that something is to be saved to.
@@ -199,6 +206,7 @@ private:
 
     KivString _name;
     KivUnicodeString _editedLayer;
+    bool _isInitial = false; // writes bear the mark
     std::span<const char* const> _boundKeys;
     mutable std::unique_ptr<Opened> _opened;                // on first use
     mutable std::span<const KivSettingValue* const> _shown; // the store's, of each bound key

@@ -1,7 +1,7 @@
 #include "Settings/KivSettingStore.h"
 
 #include "Base/KivDiagnostic.h"
-
+#include "Base/KivUndo.h"
 #include "Settings/KivSettingLayers.h"
 
 #include <algorithm>
@@ -45,9 +45,16 @@ void KivSettingStore::ReadFiles()
 {
     _news.Say([this] {
         ReadLayers();
-        if (_own.Read() || !_isRead) TakeOwnFile();
-        _isRead = true;
+        _own.Read();
+        TakeOwnFile();
     });
+}
+
+void KivSettingStore::Reserve(std::size_t more)
+{
+    const KivSettingAttribute* const before = _table.Data();
+    _table.Reserve(more);
+    if (_table.Data() != before) UpdateBindings();
 }
 
 // A new attribute is under the locks on prefixes before anybody has said anything of it.
@@ -77,15 +84,23 @@ void KivSettingStore::ApplyOwnPrefixLock(KivSettingAttribute& attribute) const
     attribute.ownPrefixLine = here.line;
 }
 
-// After a lock on a prefix may have come or gone in the written layer.
-void KivSettingStore::CollectOwnPrefixLocks()
+// The locks on prefixes when the written layer says this of each attribute.
+template <class EntryOf> KivSettingPrefixLocks KivSettingStore::OwnPrefixLocks(const EntryOf& entryOf) const
+{
+    KivSettingPrefixLocks locks;
+    if (!_isAdministrator) return locks;
+    for (std::size_t index = 0; index < _table.Size(); ++index) {
+        const KivSettingEntry& entry = entryOf(index);
+        if (entry.lock && KivIsSettingPattern(_table[index].key))
+            locks.Add(_table[index].key, 0, entry.lockLine);
+    }
+    return locks;
+}
+
+void KivSettingStore::UseOwnPrefixLocks(KivSettingPrefixLocks locks)
 {
     if (!_isAdministrator) return;
-    _ownPrefixLocks.Clear();
-    for (const KivSettingAttribute& attribute : _table) {
-        if (attribute.own.lock && KivIsSettingPattern(attribute.key))
-            _ownPrefixLocks.Add(attribute.key, 0, attribute.own.lockLine);
-    }
+    _ownPrefixLocks = std::move(locks);
     for (KivSettingAttribute& attribute : _table) ApplyOwnPrefixLock(attribute);
 }
 
@@ -98,17 +113,16 @@ const KivSettingAttribute* KivSettingStore::AddIfLocked(std::string_view key)
 
 std::span<const KivSettingValue* const> KivSettingStore::Bind(std::span<const char* const> keys)
 {
+    Reserve(keys.size());
+    std::vector<std::uint32_t> bound;
+    bound.reserve(keys.size());
+    for (const char* const key : keys)
+        bound.push_back(static_cast<std::uint32_t>(FindOrAdd(key, KivSettingTable::Hash(key))));
+    std::vector<const KivSettingValue*> values(bound.size());
     for (const std::uint32_t index : _bound) _table[index].boundIndex = -1;
-    _bound.clear();
-    _boundValues.clear();
-    _bound.reserve(keys.size());
-    _table.Reserve(keys.size());
-    for (const char* const key : keys) {
-        const std::size_t index = FindOrAdd(key, KivSettingTable::Hash(key));
-        _table[index].boundIndex = static_cast<int>(_bound.size());
-        _bound.push_back(static_cast<std::uint32_t>(index));
-    }
-    _boundValues.resize(_bound.size());
+    for (std::size_t i = 0; i < bound.size(); ++i) _table[bound[i]].boundIndex = static_cast<int>(i);
+    _bound.swap(bound);
+    _boundValues.swap(values);
     UpdateBindings();
     return _boundValues;
 }
@@ -128,113 +142,134 @@ void KivSettingStore::ResolveAll()
 
 void KivSettingStore::ReadLayers()
 {
-    _sources.SetLayers(
-        KivReadAdministratorLayers(_layerDirectories, KivSettingLayers::FileIn({}, _name.View()).View()));
-    const std::vector<KivSettingLayer>& layers = _sources.Layers();
-    _prefixLocks.Clear();
+    std::vector<KivSettingLayer> layers =
+        KivReadAdministratorLayers(_layerDirectories, KivSettingLayers::FileIn({}, _name.View()).View());
+    KivSettingPrefixLocks prefixLocks;
+    // Each line of the layers that says something of one key, with its attribute.
+    struct Statement {
+        const KivSettingLine* line;
+        int layer;
+        std::size_t index;
+    };
+    std::vector<Statement> statements;
     for (int layer = 0; layer < static_cast<int>(layers.size()); ++layer) {
-        const KivSettingFile& file = layers[static_cast<std::size_t>(layer)].file;
-        if (!file.HasPatterns()) continue;
-        for (const KivSettingLine& line : file.Lines()) {
-            if (line.isPattern) _prefixLocks.Add(line.key, layer, line.number);
+        for (const KivSettingLine& line : layers[static_cast<std::size_t>(layer)].file.Lines()) {
+            if (line.isPattern)
+                prefixLocks.Add(line.key, layer, line.number);
+            else if (!line.key.empty() && (line.lock || KivHasValue(line.value))) // else damaged
+                statements.push_back({&line, layer, FindOrAdd(line.key, line.hash)});
         }
     }
+
+    // From here on nothing fails: what has come to hold is neither half of this nor half of that.
+    _prefixLocks = std::move(prefixLocks);
     for (KivSettingAttribute& attribute : _table) {
-        attribute.given = {};
+        attribute.given = &KivSettingAttribute::NoValue;
         attribute.givenLayer = -1;
         ApplyPrefixLocks(attribute);
     }
-    for (int layer = 0; layer < static_cast<int>(layers.size()); ++layer) {
-        for (const KivSettingLine& line : layers[static_cast<std::size_t>(layer)].file.Lines()) {
-            if (line.isPattern || line.key.empty()) continue;
-            if (!line.lock && !KivHasValue(line.value)) continue; // damaged
-            KivSettingAttribute& attribute = _table[FindOrAdd(line.key, line.hash)];
-            if (attribute.lockLayer >= 0 && attribute.lockLayer < layer) continue;
-            if (KivHasValue(line.value)) {
-                attribute.given = line.value;
-                attribute.givenLayer = layer;
-                attribute.givenLine = line.number;
-            }
-            if (line.lock) {
-                attribute.lockLayer = layer;
-                attribute.lockLine = line.number;
-            }
+    for (const auto& [line, layer, index] : statements) {
+        KivSettingAttribute& attribute = _table[index];
+        if (attribute.lockLayer >= 0 && attribute.lockLayer < layer) continue;
+        if (KivHasValue(line->value)) {
+            attribute.given = &line->value;
+            attribute.givenLayer = layer;
+            attribute.givenLine = line->number;
+        }
+        if (line->lock) {
+            attribute.lockLayer = layer;
+            attribute.lockLine = line->number;
         }
     }
+    _sources.SetLayers(std::move(layers));
     ResolveAll();
 }
 
-// Takes what the own file entry. What has not been saved stays on top of it, but for values of a first start:
-// nobody chose them, so that one gives way to what the file has come to say since.
+// Takes what the own file says, unless it is taken already. What has not been saved stays on top of it, but
+// for values of a first start: nobody chose them, so that one gives way to what the file has come to say
+// since.
 void KivSettingStore::TakeOwnFile()
 {
-    std::unordered_map<std::size_t, KivSettingEntry> working, saved;
-    for (const KivSettingJournal::Record& record : _unsaved) {
-        if (IsDirty(record)) working.emplace(record.index, _table[record.index].own);
-        saved.emplace(record.index, record.before);
-    }
-    for (KivSettingAttribute& attribute : _table) attribute.own = {};
-    _table.Reserve(_own.File().Lines().size());
-    for (const KivSettingLine& line : _own.File().Lines()) {
+    if (_takenVersion == _own.Version()) return;
+    const std::vector<KivSettingLine>& lines = _own.File().Lines();
+    Reserve(lines.size());
+    std::vector<KivSettingEntry> entries(_table.Size()); // by attribute
+    for (const KivSettingLine& line : lines) {
         if (line.key.empty() || (!line.lock && !KivHasValue(line.value))) continue;
         if (line.isPattern && !_isAdministrator) continue; // nobody is inside of the user's file
-        TakeLine(line, _isAdministrator, _table[FindOrAdd(line.key, line.hash)].own);
+        const std::size_t index = FindOrAdd(line.key, line.hash);
+        if (index >= entries.size()) entries.resize(index + 1);
+        TakeLine(line, _isAdministrator, entries[index]);
     }
+    entries.resize(_table.Size());
+
+    std::unordered_map<std::size_t, const KivSettingEntry*> saved;
+    for (const KivSettingJournal::Record& record : _unsaved) saved.emplace(record.index, &record.before);
     const auto yields = [&](std::size_t index, const KivSettingEntry& entry) {
-        const KivSettingEntry& now = _table[index].own;
-        return entry.initial && KivHasValue(now.value) && !now.Equals(saved.at(index));
+        const KivSettingEntry& now = entries[index];
+        return entry.initial && KivHasValue(now.value) && !now.Equals(*saved.at(index));
     };
-    for (auto& [index, before] : _unsaved) before = _table[index].own;
-    for (auto& [index, before] : _uncommitted) {
+    KivSettingJournal unsaved = _unsaved, uncommitted = _uncommitted;
+    for (auto& [index, before] : unsaved) before = entries[index];
+    for (auto& [index, before] : uncommitted) {
         // What was the saved state at the commit follows the disk; what was committed unsaved stays.
         const auto old = saved.find(index);
-        if (old == saved.end() || old->second.Equals(before) || yields(index, before))
-            before = _table[index].own;
+        if (old == saved.end() || old->second->Equals(before) || yields(index, before))
+            before = entries[index];
     }
-    for (const auto& [index, entry] : working) {
-        if (!yields(index, entry)) _table[index].own = entry;
+    for (const KivSettingJournal::Record& record : _unsaved) {
+        const KivSettingEntry& working = _table[record.index].own;
+        if (IsDirty(record) && !working.Equals(entries[record.index]) && !yields(record.index, working))
+            entries[record.index] = working;
     }
-    CollectOwnPrefixLocks();
+    KivSettingPrefixLocks locks =
+        OwnPrefixLocks([&](std::size_t index) -> const KivSettingEntry& { return entries[index]; });
+
+    // From here on nothing fails.
+    for (std::size_t index = 0; index < entries.size(); ++index) std::swap(_table[index].own, entries[index]);
+    std::swap(_unsaved, unsaved);
+    std::swap(_uncommitted, uncommitted);
+    UseOwnPrefixLocks(std::move(locks));
     ResolveAll();
+    _takenVersion = _own.Version();
 }
 
-// Before what an attribute says in the written layer changes.
-KivSettingEntry& KivSettingStore::Touch(std::size_t index)
+void KivSettingStore::SwapOwn(std::size_t index, KivSettingEntry& entry)
 {
-    _unsaved.Add(index, _table[index].own);
-    _uncommitted.Add(index, _table[index].own);
-    return _table[index].own;
-}
-
-// And after it.
-void KivSettingStore::Resolve(KivSettingAttribute& attribute)
-{
+    KivSettingAttribute& attribute = _table[index];
+    std::swap(attribute.own, entry);
     attribute.Resolve();
     UpdateBinding(attribute);
 }
 
-void KivSettingStore::SetOwn(std::size_t index, KivSettingValue value, bool isInitial)
+void KivSettingStore::Change(std::size_t index, KivSettingEntry entry)
 {
-    KivSettingAttribute& attribute = _table[index];
-    if (attribute.own.initial == isInitial && KivSameValue(attribute.own.value, value)) return;
-    KivSettingEntry& own = Touch(index);
-    own.value = std::move(value);
-    own.initial = isInitial;
-    own.line = 0;
-    Resolve(attribute);
+    const KivSettingAttribute& attribute = _table[index];
+    if (attribute.own.Equals(entry)) return;
+    _unsaved.Add(index, attribute.own);
+    _uncommitted.Add(index, attribute.own);
+    SwapOwn(index, entry);
+    if (attribute.key.back() != '*') return;
+    KivUndo undo([&] { SwapOwn(index, entry); });
+    UseOwnPrefixLocks(
+        OwnPrefixLocks([this](std::size_t i) -> const KivSettingEntry& { return _table[i].own; }));
+    undo.Done();
 }
 
-bool KivSettingStore::Write(std::string_view key, KivSettingValue value)
+bool KivSettingStore::Write(std::string_view key, KivSettingValue value, bool isInitial)
 {
     const std::size_t hash = KivSettingTable::Hash(key);
     std::size_t index = _table.IndexOf(key, hash);
     const bool isKey = index == KivSettingTable::None ? KivIsSettingKey(key) : key.back() != '*';
     if (!isKey || !KivIsSound(value)) return false;
     if (index == KivSettingTable::None) index = FindOrAdd(key, hash);
-    const KivSettingAttribute& attribute = _table[index];
-    if (attribute.lockLayer >= 0) return false;
-    const bool isUsers = KivHasValue(attribute.own.value) && !attribute.own.initial;
-    SetOwn(index, std::move(value), _isInitial && !isUsers && !_isAdministrator);
+    if (_table[index].lockLayer >= 0) return false;
+    const KivSettingEntry& own = _table[index].own;
+    const bool isUsers = KivHasValue(own.value) && !own.initial;
+    Change(index, {.value = std::move(value),
+                   .initial = isInitial && !isUsers && !_isAdministrator,
+                   .lock = own.lock,
+                   .lockLine = own.lockLine});
     return true;
 }
 
@@ -245,18 +280,29 @@ bool KivSettingStore::SetLock(std::string_view key, bool locked)
     const std::size_t index = FindOrAdd(key, KivSettingTable::Hash(key));
     if (_table[index].lockLayer >= 0) return false;
     if (!locked && !isPattern && _table[index].isUnderOwnPrefix) return false; // it would stay locked
-    if (_table[index].own.lock == locked) return true;
-    KivSettingEntry& own = Touch(index);
-    own.lock = locked;
-    own.lockLine = 0;
-    if (isPattern) CollectOwnPrefixLocks();
+    KivSettingEntry entry = _table[index].own;
+    entry.lock = locked;
+    entry.lockLine = 0;
+    Change(index, std::move(entry));
     return true;
 }
 
-void KivSettingStore::DropOwn(std::string_view key)
+void KivSettingStore::DropOwn(std::span<const char* const> keys)
 {
-    if (const std::size_t index = _table.IndexOf(key); index != KivSettingTable::None)
-        SetOwn(index, {}, false);
+    std::vector<std::pair<std::size_t, KivSettingEntry>> before;
+    before.reserve(keys.size());
+    KivUndo undo([&] {
+        for (auto& [index, entry] : before) SwapOwn(index, entry);
+    });
+    for (const char* const key : keys) {
+        const std::size_t index = key ? _table.IndexOf(key) : KivSettingTable::None;
+        if (index == KivSettingTable::None || !KivHasValue(_table[index].own.value)) continue;
+        const KivSettingEntry& own = _table[index].own;
+        KivSettingEntry copy = own;
+        Change(index, {.value = {}, .lock = own.lock, .lockLine = own.lockLine});
+        before.emplace_back(index, std::move(copy));
+    }
+    undo.Done();
 }
 
 bool KivSettingStore::Concerns(std::size_t index, Only only) const
@@ -283,30 +329,40 @@ void KivSettingStore::Drop(KivSettingJournal& journal, Only only)
 KivSettingStore::Keys KivSettingStore::Commit(Only only)
 {
     if (_uncommitted.IsEmpty()) return {};
-    const KivSettingSnapshot committed = SnapshotOfCommit(only);
+    Keys changed = SnapshotOfCommit(only).Changed();
     Drop(_uncommitted, only);
-    return committed.Changed();
+    return changed;
 }
 
 KivSettingStore::Keys KivSettingStore::Rollback(Only only)
 {
     if (_uncommitted.IsEmpty()) return {};
     const KivSettingSnapshot working(_table);
-    for (const auto& [index, before] : _uncommitted) {
-        if (!Concerns(index, only)) continue;
-        _table[index].own = before;
-        Resolve(_table[index]);
-    }
+    KivSettingPrefixLocks locks = _ownPrefixLocks;
+    const auto swap = [&] {
+        for (auto& [index, before] : _uncommitted)
+            if (Concerns(index, only)) SwapOwn(index, before);
+    };
+    swap();
+    KivUndo undo([&] {
+        swap();
+        UseOwnPrefixLocks(std::move(locks));
+    });
+    UseOwnPrefixLocks(
+        OwnPrefixLocks([this](std::size_t i) -> const KivSettingEntry& { return _table[i].own; }));
+    Keys changed = working.Changed();
+    undo.Done();
     Drop(_uncommitted, only);
-    CollectOwnPrefixLocks();
-    return working.Changed();
+    return changed;
 }
 
 KivSettingStore::Keys KivSettingStore::Refresh()
 {
-    const KivSettingSnapshot before(_table);
+    if (!_untold) _untold.emplace(_table);
     ReadFiles();
-    return before.Changed();
+    Keys changed = _untold->Changed();
+    _untold.reset();
+    return changed;
 }
 
 std::vector<KivSettingChange> KivSettingStore::Unsaved(Only only) const
@@ -334,23 +390,28 @@ KivSettingStore::Keys KivSettingStore::Save(Receipt& result, Only only)
         result = _own.FlushOwed() ? Receipt::Nothing : Receipt::Visible;
         return Commit(only);
     }
-    const KivSettingSnapshot committed = SnapshotOfCommit(only), working(_table);
-    const Outcome outcome = _own.Save([&](bool wasRead) {
-        if (wasRead) TakeOwnFile();
+    const KivSettingSnapshot committed = SnapshotOfCommit(only);
+    KivSettingSnapshot working(_table);
+    const unsigned version = _takenVersion;
+    const Outcome outcome = _own.Save([&] {
+        TakeOwnFile();
         return Unsaved(only);
     });
-    if (outcome == Outcome::Refused) {
-        // No point to return to: whoever is told that his changes are not safe may still take them back.
-        result = Receipt::Refused;
-        return working.Changed();
-    }
     result = outcome == Outcome::Nothing   ? Receipt::Nothing
              : outcome == Outcome::Durable ? Receipt::Durable
-                                           : Receipt::Visible;
+             : outcome == Outcome::Visible ? Receipt::Visible
+                                           : Receipt::Refused;
+    if (outcome == Outcome::Refused) {
+        // No point to return to: whoever is told that his changes are not safe may still take them back.
+        Keys changed = working.Changed();
+        if (_takenVersion != version && !_untold) _untold.emplace(std::move(working));
+        return changed;
+    }
+    TakeOwnFile();
+    Keys changed = committed.Changed();
     Drop(_unsaved, only);
     Drop(_uncommitted, only);
-    TakeOwnFile();
-    return committed.Changed();
+    return changed;
 }
 
 void KivSettingStore::ReportOtherType(const KivSettingAttribute& attribute, const char* expected)

@@ -10,13 +10,14 @@
 #include "Settings/KivSettingTable.h"
 
 #include <cstdint>
+#include <optional>
 #include <set>
 #include <span>
 #include <vector>
 
 // The resolved state of one repository: what the layers and the own file say of each key, what of it has not
 // been committed and not been saved. Every change of a layer resolves the keys concerned, so that a read is
-// one look-up.
+// one look-up. An operation that runs out of memory (std::bad_alloc) leaves everything as it was.
 class KivSettingStore {
 public:
     using Keys = KivSettingRepository::Keys;
@@ -44,12 +45,10 @@ public:
     const KivSettingTable& Table() const { return _table; }
     const KivSettingSources& Sources() const { return _sources; }
 
-    bool Write(std::string_view key, KivSettingValue value);
+    // isInitial: bears that mark, unless the user has a value of his own.
+    bool Write(std::string_view key, KivSettingValue value, bool isInitial);
     bool SetLock(std::string_view key, bool locked);
-    void DropOwn(std::string_view key);
-
-    // Whether writes bear the mark "initial". Answers whether they did before.
-    bool SetInitial(bool isInitial) { return std::exchange(_isInitial, isInitial); }
+    void DropOwn(std::span<const char* const> keys);
 
     // The keys answered by these show another value than before. Where keys are named, it concerns those
     // alone; what else has changed is left as it is.
@@ -70,6 +69,7 @@ public:
 
 private:
     const KivSettingAttribute* AddIfLocked(std::string_view key);
+    void Reserve(std::size_t more);
     std::size_t FindOrAdd(std::string_view key, std::size_t hash);
     void UpdateBinding(const KivSettingAttribute& attribute)
     {
@@ -80,15 +80,15 @@ private:
     void ResolveAll();
     void ApplyPrefixLocks(KivSettingAttribute& attribute) const;
     void ApplyOwnPrefixLock(KivSettingAttribute& attribute) const;
-    void CollectOwnPrefixLocks();
+    template <class EntryOf> KivSettingPrefixLocks OwnPrefixLocks(const EntryOf& entryOf) const;
+    void UseOwnPrefixLocks(KivSettingPrefixLocks locks);
+    void SwapOwn(std::size_t index, KivSettingEntry& entry);
     void ReadFiles();
     void ReadLayers();
     void TakeOwnFile();
     std::vector<KivSettingChange> Unsaved(Only only) const;
     bool Concerns(std::size_t index, Only only) const;
-    KivSettingEntry& Touch(std::size_t index);
-    void Resolve(KivSettingAttribute& attribute);
-    void SetOwn(std::size_t index, KivSettingValue value, bool isInitial);
+    void Change(std::size_t index, KivSettingEntry entry);
     bool IsDirty(const KivSettingJournal::Record& saved) const
     {
         return !_table[saved.index].own.Equals(saved.before);
@@ -98,10 +98,9 @@ private:
 
     KivString _name;
     bool _isAdministrator;
-    bool _isInitial = false;
-    bool _isRead = false;
     std::vector<KivUnicodeString> _layerDirectories; // outside of the own file, outermost first
     KivSettingOwnFile _own;
+    unsigned _takenVersion = 0; // of the own file
     KivSettingSources _sources;
     KivSettingTable _table;
     KivSettingPrefixLocks _prefixLocks;               // of the layers outside
@@ -112,4 +111,5 @@ private:
     KivSettingJournal _uncommitted;
     std::set<std::string_view> _typesReported;
     KivSettingNews _news;
+    std::optional<KivSettingSnapshot> _untold; // from before what no refresh has answered yet
 };

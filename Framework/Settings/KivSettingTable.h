@@ -12,12 +12,14 @@
 
 // One key with all that is known of it, resolved.
 struct KivSettingAttribute {
+    inline static const KivSettingValue NoValue{};
+
     std::string_view key; // the table keeps its characters
 
     KivSettingEntry own; // what the layer says that is written: the user's, or the one being edited
 
     // What the administrator layers outside of it come to.
-    KivSettingValue given;
+    const KivSettingValue* given = &NoValue; // in the layer's file
     int givenLayer = -1;
     int givenLine = 0;
     int lockLayer = -1; // the outermost layer that locks the key, or -1
@@ -42,19 +44,19 @@ struct KivSettingAttribute {
     KivSettingInfo::Origin OriginWith(const KivSettingEntry& entry) const
     {
         using Origin = KivSettingInfo::Origin;
-        const bool isGiven = KivHasValue(given);
+        const bool isGiven = KivHasValue(*given);
         if (lockLayer < 0 && KivHasValue(entry.value) && !(entry.initial && isGiven)) return Origin::User;
         return isGiven ? Origin::Administrator : Origin::None;
     }
     const KivSettingValue& ShownWith(const KivSettingEntry& entry) const
     {
-        return OriginWith(entry) == KivSettingInfo::Origin::User ? entry.value : given;
+        return OriginWith(entry) == KivSettingInfo::Origin::User ? entry.value : *given;
     }
 
     void Resolve() { origin = OriginWith(own); }
     const KivSettingValue& Shown() const
     {
-        return origin == KivSettingInfo::Origin::User ? own.value : given;
+        return origin == KivSettingInfo::Origin::User ? own.value : *given;
     }
 };
 

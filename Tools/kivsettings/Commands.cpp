@@ -5,7 +5,7 @@ namespace {
 constexpr const Command* kCommands[] = {
     &kListCommand,   &kGetCommand,    &kSetCommand,   &kUnsetCommand, &kResetCommand,
     &kLockCommand,   &kUnlockCommand, &kWhereCommand, &kDiffCommand,  &kExportCommand,
-    &kImportCommand, &kCheckCommand,  &kWatchCommand, &kHelpCommand,
+    &kImportCommand, &kCheckCommand,  &kSealCommand,  &kWatchCommand, &kHelpCommand,
 };
 
 constexpr Option kCommon[] = {

@@ -4,8 +4,8 @@
 
 // Each in a file of its own.
 extern const Command kListCommand, kGetCommand, kSetCommand, kUnsetCommand, kResetCommand, kLockCommand,
-    kUnlockCommand, kWhereCommand, kDiffCommand, kExportCommand, kImportCommand, kCheckCommand, kWatchCommand,
-    kHelpCommand;
+    kUnlockCommand, kWhereCommand, kDiffCommand, kExportCommand, kImportCommand, kCheckCommand, kSealCommand,
+    kWatchCommand, kHelpCommand;
 
 // Said the same way by every command that has it.
 inline constexpr Option kJsonOption{"json", nullptr, "print JSON"};

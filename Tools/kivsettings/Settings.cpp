@@ -59,7 +59,7 @@ ExitCode Settings::SetLocks(const std::vector<std::string>& keys, bool locked, C
 ExitCode Settings::Save(Console& console)
 {
     _repository.SaveRepository(nullptr);
-    return AfterSaving(_repository.LastReceipt(), console);
+    return AfterSaving(_repository.LastReceipt(), console) | AfterReading();
 }
 
 ExitCode Settings::AfterSaving(KivSettingRepository::Receipt receipt, Console& console)

@@ -45,6 +45,8 @@ SettingsFile::SettingsFile(const std::string& path, Console& console)
     }
     const KivSettingFile file(std::move(content.text));
     file.Report(KivUnicodeString(name));
+    if (file.SealState() == KivSettingSeal::State::Broken)
+        console.Say(name, "it was edited by hand, or is cut or damaged: its seal does not fit");
     _isRead = true;
     _isWhole = !file.IsDamaged();
     std::unordered_map<std::string_view, std::size_t> indices;

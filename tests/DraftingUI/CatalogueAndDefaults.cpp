@@ -113,7 +113,7 @@ TEST_F(FirstStart, NeverWinsOverWhatAnotherProgramStored)
     EXPECT_FALSE(isBetween);
     EXPECT_EQ(KivDrwRead(KivDrwRepository(), KivDrwKeys::Ruler), 1);
     EXPECT_EQ(Attributes(), 219);
-    const std::string bytes = box.Bytes(file);
+    const std::string bytes = box.Saved(file);
     EXPECT_TRUE(bytes.starts_with("initial int RotSnapAuto = 0\n" + theirs)) << bytes;
     EXPECT_NE(bytes.find("initial int ViewName = 1\n"), std::string::npos);
 }

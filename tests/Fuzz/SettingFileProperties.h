@@ -3,6 +3,7 @@
 #include "Base/KivDiagnostic.h"
 #include "Settings/KivSettingFile.h"
 
+#include <algorithm>
 #include <map>
 #include <string>
 
@@ -29,9 +30,17 @@ inline const char* BrokenProperty(std::string_view bytes)
         if (!line.reason) last[std::string(line.key)] = &line;
     }
 
-    // Saving without a change changes nothing, and every value that was read is written so that it reads the
-    // same.
-    if (!bytes.empty() && file.With({}) != bytes) return "no change, no other byte";
+    // Saving without a change adds a seal that fits and nothing else, and every value that was read is
+    // written so that it reads the same.
+    const KivSettingFile sealed(file.With({}));
+    if (sealed.SealState() != KivSettingSeal::State::Fits) return "what is written is sealed";
+    if (sealed.With({}) != sealed.Text()) return "no change, no other byte";
+    if (!std::equal(file.Lines().begin(), file.Lines().end(), sealed.Lines().begin(), sealed.Lines().end(),
+                    [&](const KivSettingLine& was, const KivSettingLine& is) {
+                        return KivWithoutLineEnd(file.Text().substr(was.begin, was.end - was.begin)) ==
+                               KivWithoutLineEnd(sealed.Text().substr(is.begin, is.end - is.begin));
+                    }))
+        return "every line is there";
     std::vector<KivSettingChange> changes;
     for (const auto& [key, line] : last)
         changes.push_back(

@@ -44,7 +44,7 @@ TEST_F(AdministratorMode, PadlocksAreSwitchesThatOkSaves)
     EXPECT_FALSE(IsEnabled("checkRuler"));
     EXPECT_TRUE(IsEnabled("checkViewReferential"));
     ASSERT_TRUE(session->Commit().empty());
-    EXPECT_EQ(box.Bytes(file),
+    EXPECT_EQ(box.Saved(file),
               "# ours\ndouble RotSnapAngle = 45\nlock View*\nlock Drw_settings_GridSnapPt\n"
               "lock BackgroundColorRed\nlock BackgroundColorGreen\nlock BackgroundColorBlue\n"
               "lock Drw_settings_GridVPrimarySpacing\n");
@@ -83,7 +83,7 @@ TEST_F(AdministratorMode, CancelTakesLocksBackAndPadlocksShowIt)
     // After a cancel the companions still go along.
     ASSERT_TRUE(KivUserHand::Press(Lock("comboBackgroundColorDD")));
     ASSERT_TRUE(session->Commit().empty());
-    EXPECT_EQ(box.Bytes(file), bytes + "lock BackgroundColorRedDitto\nlock BackgroundColorBlueDitto\n");
+    EXPECT_EQ(box.Saved(file), bytes + "lock BackgroundColorRedDitto\nlock BackgroundColorBlueDitto\n");
 }
 
 // Each with the setting's title and the value that the row shows, by which it is in force.

@@ -107,7 +107,7 @@ TEST_F(PageRules, AdministrationSavesAndTakesBackItsOwnKeysAlone)
     EXPECT_FALSE(background->IsAvailable());
     background->BecomeAvailable();
     EXPECT_EQ(std::exchange(told, {}), "DrwOnlyUserDefault DrwLockBackgroundView ");
-    EXPECT_EQ(box.Bytes(file), "int DrwLockBackgroundView = 1\nint DrwOnlyUserDefault = 1\n");
+    EXPECT_EQ(box.Saved(file), "int DrwLockBackgroundView = 1\nint DrwOnlyUserDefault = 1\n");
 
     // The rest is neither lost nor beyond recall, and what is saved is not taken back.
     EXPECT_TRUE(KivUserHand::Tick(Check("checkOnlyUserDefault")));
@@ -116,7 +116,7 @@ TEST_F(PageRules, AdministrationSavesAndTakesBackItsOwnKeysAlone)
     EXPECT_EQ(Stored("Ruler", 0) * 10 + Stored("DrwOnlyUserDefault", 0), 1);
     change();
     EXPECT_TRUE(session->Commit().empty());
-    EXPECT_EQ(box.Bytes(file), "int DrwLockBackgroundView = 1\nint DrwOnlyUserDefault = 0\nint Ruler = 1\n");
+    EXPECT_EQ(box.Saved(file), "int DrwLockBackgroundView = 1\nint DrwOnlyUserDefault = 0\nint Ruler = 1\n");
 }
 
 TEST_F(PageRules, EachPressOpensAnotherSnapWindowAndAllShowTheSame)

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "Base/KivDiagnosticScope.h"
+#include "Base/KivTextLines.h"
 #include "Settings/KivSettingLayers.h"
 #include "Settings/KivSettingRepository.h"
+#include "Settings/KivSettingSeal.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -71,6 +73,14 @@ public:
         std::ostringstream bytes;
         bytes << std::ifstream(path, std::ios::binary).rdbuf();
         return bytes.str();
+    }
+
+    // What a program of ours wrote: the lines between the head and the seal, which has to fit.
+    static std::string Saved(const std::filesystem::path& path)
+    {
+        const std::string bytes = Bytes(path);
+        if (KivSettingSeal::StateOf(bytes) != KivSettingSeal::State::Fits) return "no seal fits: " + bytes;
+        return bytes.substr(0, bytes.rfind("# kivsettings seal")).substr(KivFirstLineLength(bytes));
     }
 
     // Names the administrator layers (directories below root), outermost first, as the system does.

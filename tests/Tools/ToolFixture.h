@@ -42,7 +42,7 @@ protected:
         EXPECT_NE(run.err.find(err), std::string::npos) << line << "\n" << run.err;
     }
 
-    std::string User() const { return KivSettingsSandbox::Bytes(box.File("user")); }
+    std::string User() const { return KivSettingsSandbox::Saved(box.File("user")); }
     std::string Path(const std::string& layer) const { return box.File(layer).string(); }
 
     KivSettingsSandbox box;

@@ -1,4 +1,5 @@
 #include "Disk/KivFileContent.h"
+#include "FaultyDisk.h"
 #include "Settings/KivSettingFile.h"
 #include "Settings/KivSettingRepository.h"
 #include "Support/KivSettingsSandbox.h"
@@ -48,27 +49,41 @@ TEST_F(Damage, ALineCostsItselfAlone)
         for (const char* end : ends) costsItself(type + " Bad" + end);
 }
 
-TEST_F(Damage, TheOriginalIsSetAsideBeforeTheFirstSave)
+TEST_F(Damage, WhatNoProgramWroteIsSetAsideBeforeASave)
 {
-    const std::string damaged = std::string("int A = 1\nint Ru\0ler = 5\nnoise\nint B = x\nint C = 3", 50);
+    const auto copy = [&](int number) {
+        return box.root / ("user/DraftingOptions.kivsettings.damaged-" + std::to_string(number));
+    };
+    const std::string damaged("int A = 1\nint Ru\0ler = 5\nnoise\nint B = x\nint C = 3", 50);
     box.Write(file, damaged);
-    box.Write(box.root / "user/DraftingOptions.kivsettings.damaged-1", "earlier");
+    box.Write(copy(1), "earlier");
+    box.Reopen();
     KivSettingRepository& repository = box.Reopen();
     EXPECT_EQ(box.Read(repository, "C", 0), 3);
     EXPECT_EQ(PutAndSave(repository, "B", 2), Receipt::Durable);
-    EXPECT_EQ(box.Bytes(box.root / "user/DraftingOptions.kivsettings.damaged-1"), "earlier");
-    EXPECT_EQ(box.Bytes(box.root / "user/DraftingOptions.kivsettings.damaged-2"), damaged);
-    EXPECT_EQ(box.Bytes(file), std::string("int A = 1\nint Ru\0ler = 5\nnoise\nint B = 2\nint C = 3", 50));
-
-    // What was not mended is not set aside again and again, but new damage is.
+    EXPECT_EQ(box.Bytes(copy(1)), "earlier");
+    EXPECT_EQ(box.Bytes(copy(2)), damaged);
+    EXPECT_EQ(box.Saved(file), std::string("int A = 1\nint Ru\0ler = 5\nnoise\nint B = 2\nint C = 3\n", 51));
     EXPECT_EQ(PutAndSave(repository, "A", 5), Receipt::Durable);
-    KivSettingRepository& next = box.Reopen();
-    EXPECT_EQ(PutAndSave(next, "A", 6), Receipt::Durable);
-    EXPECT_EQ(box.Names("user").size(), 4U); // the third copy: B's damage was mended
-    box.Write(file, "new noise\n");
-    EXPECT_EQ(PutAndSave(next, "A", 7), Receipt::Durable); // found only by the save itself
-    EXPECT_EQ(box.Bytes(box.root / "user/DraftingOptions.kivsettings.damaged-4"), "new noise\n");
-    EXPECT_EQ(box.Bytes(file), "new noise\nint A = 7\n");
+    EXPECT_EQ(PutAndSave(box.Reopen(), "A", 6), Receipt::Durable);
+    EXPECT_EQ(box.Names("user").size(), 3U) << "damage that a save has left is not set aside again";
+
+    // An edit by hand is served, told once, and set aside; the newest three stay, and each bytes once.
+    for (int edit = 1; edit <= 3; ++edit) {
+        const std::string edited = box.Bytes(file) + "int Hand = " + std::to_string(edit) + "\n";
+        box.Write(file, edited);
+        box.diagnostics.clear();
+        for (int look = 0; look < 3; ++look) repository.Refresh();
+        EXPECT_EQ(box.Said("edited by hand, or damaged"), 1);
+        EXPECT_EQ(box.Read(repository, "Hand", 0), edit);
+        EXPECT_EQ(PutAndSave(repository, "A", -edit), Receipt::Durable);
+        EXPECT_EQ(box.Bytes(copy(2 + edit)), edited);
+    }
+    box.Write(file, box.Bytes(copy(4)));
+    EXPECT_EQ(PutAndSave(repository, "A", 8), Receipt::Durable) << "found only by the save itself";
+    EXPECT_EQ(box.Read(repository, "Hand", 0), 2);
+    const std::string name = file.filename().string() + ".damaged-";
+    EXPECT_EQ(box.Names("user"), (std::vector{file.filename().string(), name + "3", name + "4", name + "5"}));
 }
 
 TEST_F(Damage, AFileMayEndAnywhereOrBeOfALaterVersion)
@@ -126,14 +141,24 @@ TEST_F(Damage, AFileThatCannotBeReadIsProtected)
     EXPECT_GT(box.Said("67108865 bytes"), 0);
     box.Write(file, std::string(KivMostLines + 1, '\n'));
     isProtected("lines");
+    box.Write(file, "int Snap = 3\n");
+    FaultyDisk::fault = FaultyDisk::Fault::EndEarly;
+    isProtected("cut while it is read");
+    FaultyDisk::fault = FaultyDisk::Fault::EndEarlyOnce;
+    EXPECT_EQ(KivReadFile(KivUnicodeString(file.string())).text, "int Snap = 3\n");
     EXPECT_EQ(box.Names("user").size(), 1U);
+
+    // Nor is a file written that could not be read again; its head and seal are lines too.
+    box.Write(file, std::string(KivMostLines - 2, '\n'));
+    EXPECT_EQ(PutAndSave(box.Reopen(), "Ruler", 1), Receipt::Refused);
+    EXPECT_EQ(box.Said("not saved: the file is too large: 1048577 lines"), 1);
 
     // Once it can be read the pending change is saved on top of it.
     KivSettingRepository& repository = box.Reopen();
     EXPECT_EQ(PutAndSave(repository, "Ruler", 1), Receipt::Refused);
     box.Write(file, "int Snap = 3\n");
     EXPECT_EQ(repository.SaveRepository(nullptr), S_OK);
-    EXPECT_EQ(box.Bytes(file), "int Snap = 3\nint Ruler = 1\n");
+    EXPECT_EQ(box.Saved(file), "int Snap = 3\nint Ruler = 1\n");
     EXPECT_EQ(box.Read(repository, "Snap", 0), 3);
     EXPECT_FALSE(repository.IsProtected());
 

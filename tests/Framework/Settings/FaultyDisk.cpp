@@ -68,7 +68,11 @@ extern "C" int openat(int directory, const char* name, int flags, ...)
 extern "C" ssize_t read(int descriptor, void* bytes, size_t count)
 {
     static const auto next = Next<ssize_t(int, void*, size_t)>("read");
-    return IsInterrupted() ? Fail(EINTR) : next(descriptor, bytes, count);
+    const bool endsEarly = FaultyDisk::fault == Fault::EndEarly || FaultyDisk::fault == Fault::EndEarlyOnce;
+    if (!endsEarly || !IsKind(descriptor, S_IFREG))
+        return IsInterrupted() ? Fail(EINTR) : next(descriptor, bytes, count);
+    if (FaultyDisk::fault == Fault::EndEarlyOnce) FaultyDisk::fault = Fault::None;
+    return 0;
 }
 
 extern "C" ssize_t write(int descriptor, const void* bytes, size_t count)

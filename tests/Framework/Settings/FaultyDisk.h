@@ -2,12 +2,21 @@
 
 #include <atomic>
 
-// A file system that fails on demand: this program's own open, openat, read, write, fsync and
-// renameat come before the C
-// library's.
+// A file system that fails on demand: this program's own open, openat, read, write, fsync and renameat come
+// before the C library's.
 namespace FaultyDisk {
 
-enum class Fault { None, FlushFile, FlushDirectory, Write, ShortWrites, Rename, Interrupts };
+enum class Fault {
+    None,
+    FlushFile,
+    FlushDirectory,
+    Write,
+    ShortWrites,
+    Rename,
+    Interrupts,
+    EndEarly,
+    EndEarlyOnce
+};
 
 inline std::atomic<Fault> fault{Fault::None};
 

@@ -80,7 +80,7 @@ TEST_F(Layers, TheRightOneWins)
     EXPECT_EQ(Text("Initial"), "site");
     EXPECT_EQ(Text("User"), "site");
     ASSERT_EQ(repository.SaveRepository(nullptr), S_OK);
-    EXPECT_EQ(box.Bytes(box.File("user")),
+    EXPECT_EQ(box.Saved(box.File("user")),
               "string Outer = \"user\"\nstring Inner = \"user\"\nstring Bare = \"user\"\n"
               "string Nothing = \"user\"\ninitial string First = \"user\"\n");
 }
@@ -184,11 +184,11 @@ TEST_F(Layers, AnAdministratorEditsOneLayer)
     EXPECT_EQ(site.ResetToAdminValues(keys, 1), S_OK);
     EXPECT_EQ(box.Read(site, "Grid", 0), 1);
     ASSERT_EQ(site.SaveRepository(nullptr), S_OK);
-    EXPECT_EQ(box.Bytes(box.File("site")), "# of the site\nlock int Ruler = 9\nlock Grid\nlock Later\n");
+    EXPECT_EQ(box.Saved(box.File("site")), "# of the site\nlock int Ruler = 9\nlock Grid\nlock Later\n");
     EXPECT_EQ(site.SetLock("Ruler", false), S_OK);
     EXPECT_EQ(site.SetLock("Later", false), S_OK);
     ASSERT_EQ(site.SaveRepository(nullptr), S_OK);
-    EXPECT_EQ(box.Bytes(box.File("site")), "# of the site\nint Ruler = 9\nlock Grid\n");
+    EXPECT_EQ(box.Saved(box.File("site")), "# of the site\nint Ruler = 9\nlock Grid\n");
 
     KivSettingRepository::SetEditedLayer({});
     EXPECT_EQ(box.Read(box.Reopen(), "Grid", 0), 1);
@@ -210,7 +210,7 @@ TEST_F(Layers, TheFirstStartYieldsToTheAdministrator)
         ASSERT_EQ(first.WriteSetting("Mine", &value, 1, 0), S_OK);
     }
     ASSERT_EQ(first.SaveRepository(nullptr), S_OK);
-    EXPECT_EQ(box.Bytes(box.File("user")), "# kivsettings 1\nint Mine = 1\ninitial int Ruler = 1\n");
+    EXPECT_EQ(box.Saved(box.File("user")), "int Mine = 1\ninitial int Ruler = 1\n");
     EXPECT_EQ(first.NextAttribute(name, type, &count, 1), 0);
 
     box.NameLayers({"site"});

@@ -134,7 +134,7 @@ TEST_F(Locks, ABatchStoresWhatItMayAndNamesTheRest)
     batch.Unset("DimOld");
     EXPECT_EQ(box.Bytes(box.File("user")), "int Old = 1\n");
     EXPECT_EQ(batch.Save(), KivSettingRepository::Receipt::Durable);
-    EXPECT_EQ(box.Bytes(box.File("user")), "int Grid = 2\n");
+    EXPECT_EQ(box.Saved(box.File("user")), "int Grid = 2\n");
     std::string refused;
     for (const auto& refusal : batch.Refusals()) {
         refused += std::string(refusal.key.View()) + "/" + std::string(refusal.locker.lockLayer.View()) +

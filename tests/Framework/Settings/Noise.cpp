@@ -153,7 +153,7 @@ TEST(Noise, ADirectoryThatOthersMayWriteToIsRefused)
     KivSettingRepository& repository = *KivSettingRepository::GetRepository("DraftingOptions");
     chmod((box.root / "open").c_str(), 0755);
     EXPECT_EQ(repository.SaveRepository(nullptr), S_OK);
-    EXPECT_EQ(box.Bytes(box.File("open")), "int Ruler = 1\nint Grid = 7\n");
+    EXPECT_EQ(box.Saved(box.File("open")), "int Ruler = 1\nint Grid = 7\n");
     EXPECT_TRUE(std::filesystem::is_symlink(box.File("user")));
 }
 
@@ -176,11 +176,11 @@ TEST(Noise, EveryFaultOfASaveHasItsReceipt)
         EXPECT_EQ(box.Names("user").size(), 1U) << "no litter";
         return repository.LastReceipt();
     };
-    const auto onDisk = [&] { return box.Bytes(box.File("user")); };
+    const auto onDisk = [&] { return box.Saved(box.File("user")); };
     EXPECT_EQ(save(FaultyDisk::Fault::FlushFile), Receipt::Refused);
     EXPECT_EQ(save(FaultyDisk::Fault::Write), Receipt::Refused);
     EXPECT_EQ(save(FaultyDisk::Fault::Rename), Receipt::Refused);
-    EXPECT_EQ(onDisk(), "int Ruler = 1\n");
+    EXPECT_EQ(box.Bytes(box.File("user")), "int Ruler = 1\n");
     EXPECT_EQ(save(FaultyDisk::Fault::FlushDirectory), Receipt::Visible);
     EXPECT_EQ(onDisk(), "int Ruler = 6\n");
     EXPECT_EQ(save(FaultyDisk::Fault::FlushDirectory, 0), Receipt::Visible) << "the flush is still owed";

@@ -1,0 +1,58 @@
+#include "Disk/KivSetAside.h"
+
+#include "Disk/KivAtomicFile.h"
+#include "Disk/KivFileContent.h"
+#include "Disk/KivHiddenName.h"
+
+#include <algorithm>
+#include <charconv>
+#include <filesystem>
+#include <vector>
+
+namespace {
+
+constexpr std::size_t kMostCopies = 3;
+
+std::string EndingOf(unsigned number)
+{
+    return ".damaged-" + std::to_string(number);
+}
+
+// The numbers of the copies, oldest first. 0, or the error.
+int FindCopies(const KivFilePlace& file, std::vector<unsigned>& numbers)
+{
+    const std::string_view directory = KivDirectoryOf(file.Path().View());
+    const std::string prefix = std::string(file.Name().View()) + ".damaged-";
+    std::error_code failed;
+    for (std::filesystem::directory_iterator at(directory.empty() ? "." : directory, failed), end;
+         !failed && at != end; at.increment(failed)) {
+        const std::string name = at->path().filename().string();
+        if (!name.starts_with(prefix)) continue;
+        unsigned number = 0;
+        const char* const last = name.data() + name.size();
+        const auto read = std::from_chars(name.data() + prefix.size(), last, number);
+        if (read.ec == std::errc{} && read.ptr == last) numbers.push_back(number);
+    }
+    std::sort(numbers.begin(), numbers.end());
+    return failed.value();
+}
+
+} // namespace
+
+int KivSetAside(const KivFilePlace& file, std::string_view bytes, KivUnicodeString& where)
+{
+    where = {};
+    std::vector<unsigned> numbers;
+    if (const int error = FindCopies(file, numbers)) return error;
+    for (const unsigned number : numbers) {
+        const KivFileContent copy = KivReadFile(file.Path() + EndingOf(number).c_str());
+        if (copy.state == KivFileContent::State::Read && copy.text == bytes) return 0;
+    }
+    const unsigned next = numbers.empty() ? 1 : numbers.back() + 1;
+    if (const int error = KivWriteNewFile(file, EndingOf(next), bytes)) return error;
+    where = file.Path() + EndingOf(next).c_str();
+    numbers.push_back(next);
+    for (std::size_t i = 0; i + kMostCopies < numbers.size(); ++i)
+        unlinkat(file.Directory(), (file.Name() + EndingOf(numbers[i]).c_str()).ConvertToChar(), 0);
+    return 0;
+}

@@ -1,0 +1,53 @@
+#include "Arguments.h"
+#include "Commands.h"
+#include "Console.h"
+#include "Settings.h"
+
+#include "Settings/KivSettingLayers.h"
+#include "Settings/KivSettingOwnFile.h"
+
+namespace {
+
+ExitCode Run(const Arguments&, Console& console)
+{
+    using Outcome = KivSettingOwnFile::Outcome;
+    KivSettingOwnFile file(KivSettingLayers::FileIn(KivSettingRepository::EditedLayer(), Settings::Name),
+                           true);
+    switch (file.Seal()) {
+    case Outcome::Nothing:
+        console.Say("the seal fits already");
+        return ExitCode::Done;
+    case Outcome::Durable:
+        return ExitCode::Done;
+    case Outcome::Visible:
+        return Settings::AfterSaving(KivSettingRepository::Receipt::Visible, console);
+    case Outcome::Refused:
+        break;
+    }
+    return ExitCode::Trouble;
+}
+
+constexpr Example kExamples[] = {
+    {"kivsettings seal --layer /etc/kiv/site", "takes what an editor has made of the layer's file"},
+    {"kivsettings check --layer ./site && kivsettings seal --layer ./site",
+     "a layer that was written by hand, before it is rolled out"},
+};
+
+} // namespace
+
+constexpr Command kSealCommand{
+    .name = "seal",
+    .arguments = "",
+    .fewest = 0,
+    .most = 0,
+    .summary = "accept an administrator's layer as it stands",
+    .description =
+        "Ends the file of the layer of --layer with a count and a check sum of what stands before, so\n"
+        "that every program notices when it is cut or damaged. A layer whose seal does not fit is not\n"
+        "believed: after an edit by hand this is how to accept it. A file that is empty or has damaged\n"
+        "lines is not sealed (exit code 3): \"kivsettings check\" names them.",
+    .options = {},
+    .examples = kExamples,
+    .needsLayer = true,
+    .run = &Run,
+};
