@@ -127,11 +127,11 @@ bool KivSettingOwnFile::SetAside(const KivFilePlace& place) const
     return true;
 }
 
-KivSettingOwnFile::Outcome KivSettingOwnFile::Write(const KivFileLock& lock, KivSettingFile next)
+KivSettingOwnFile::Receipt KivSettingOwnFile::Write(const KivFileLock& lock, KivSettingFile next)
 {
     const auto refuse = [this](const KivUnicodeString& reason) {
         Refuse(reason);
-        return Outcome::Refused;
+        return Receipt::Refused;
     };
     if (const KivUnicodeString trouble = KivSizeTrouble(next.Text()); !trouble.IsEmpty())
         return refuse(trouble);
@@ -148,7 +148,7 @@ KivSettingOwnFile::Outcome KivSettingOwnFile::Write(const KivFileLock& lock, Kiv
     _owed = isDurable ? nullptr : lock.SharedPlace();
     if (!isDurable) KivReport({KivDiagnostic::Severity::Warning, file.Reason(), _path, 0, {}});
     _content.handle = file.TakeHandle();
-    return isDurable ? Outcome::Durable : Outcome::Visible;
+    return isDurable ? Receipt::Durable : Receipt::Visible;
 }
 
 bool KivSettingOwnFile::FlushOwed()
@@ -177,42 +177,42 @@ std::shared_ptr<KivFileLock> KivSettingOwnFile::AskTurn(KivUnicodeString& troubl
     return turn;
 }
 
-KivSettingOwnFile::Outcome
-KivSettingOwnFile::UnderLock(const std::function<Outcome(const KivFileLock& lock)>& work)
+KivSettingOwnFile::Receipt
+KivSettingOwnFile::UnderLock(const std::function<Receipt(const KivFileLock& lock)>& work)
 {
     KivUnicodeString trouble;
     const std::shared_ptr<KivFileLock> lock = AskTurn(trouble);
     if (lock && (!lock->Await(LockPatience) || !lock->IsHeld())) trouble = lock->Reason();
     if (!trouble.IsEmpty()) {
         Refuse(trouble);
-        return Outcome::Refused;
+        return Receipt::Refused;
     }
     Look();
     if (IsProtected()) {
         Refuse(_content.reason);
-        return Outcome::Refused;
+        return Receipt::Refused;
     }
     return work(*lock);
 }
 
-KivSettingOwnFile::Outcome KivSettingOwnFile::Save(const Merge& merge)
+KivSettingOwnFile::Receipt KivSettingOwnFile::Save(const Merge& merge)
 {
     return UnderLock([&](const KivFileLock& lock) {
         if (_isAdministrators && _file.SealState() == KivSettingSeal::State::Broken) {
             Refuse(KivSettingSeal::BrokenInLayer(_path));
-            return Outcome::Refused;
+            return Receipt::Refused;
         }
         const Changes changes = merge();
-        if (changes.empty()) return FlushOwed() ? Outcome::Nothing : Outcome::Visible;
-        if (!SetAside(lock.Place())) return Outcome::Refused;
+        if (changes.empty()) return FlushOwed() ? Receipt::Nothing : Receipt::Visible;
+        if (!SetAside(lock.Place())) return Receipt::Refused;
         return Write(lock, KivSettingFile(_file.With(changes)));
     });
 }
 
-KivSettingOwnFile::Outcome KivSettingOwnFile::Seal()
+KivSettingOwnFile::Receipt KivSettingOwnFile::Seal()
 {
     return UnderLock([&](const KivFileLock& lock) {
-        if (_file.SealState() == KivSettingSeal::State::Fits) return Outcome::Nothing;
+        if (_file.SealState() == KivSettingSeal::State::Fits) return Receipt::Nothing;
         const char* const trouble =
             _content.state == KivFileContent::State::Absent ? "there is no such file"
             : _file.Text().empty() ? "the file is empty; the line \"# kivsettings 1\" alone withdraws a layer"
@@ -220,6 +220,6 @@ KivSettingOwnFile::Outcome KivSettingOwnFile::Seal()
                                    : nullptr;
         if (!trouble) return Write(lock, KivSettingFile(_file.With({})));
         Refuse(trouble);
-        return Outcome::Refused;
+        return Receipt::Refused;
     });
 }

@@ -3,6 +3,7 @@
 #include "Disk/KivFileContent.h"
 #include "Disk/KivFileLock.h"
 #include "Settings/KivSettingFile.h"
+#include "Settings/KivSettingRepository.h"
 
 #include <functional>
 #include <memory>
@@ -11,7 +12,7 @@
 // The one file that a repository writes: the user's, or that of the administrator layer being edited.
 class KivSettingOwnFile {
 public:
-    enum class Outcome { Nothing, Durable, Visible, Refused };
+    using Receipt = KivSettingRepository::Receipt;
     using Changes = std::vector<KivSettingChange>;
     using Merge = std::function<Changes()>;
 
@@ -33,11 +34,11 @@ public:
     // under the lock. Only then merge is asked for the changes; it is not asked when the file cannot be
     // written. Refused says why and leaves the disk as it was.
     // Where another program saves, it waits for it, for three seconds at most.
-    Outcome Save(const Merge& merge);
+    Receipt Save(const Merge& merge);
 
     // Seals the file as it stands, unless its seal fits. Refused says why: no layer's file would be believed
     // that is damaged or empty.
-    Outcome Seal();
+    Receipt Seal();
 
     // Asks for the lock without waiting. As long as the answer is kept, every save uses it. Null, and why,
     // when there is nowhere to save to.
@@ -52,11 +53,11 @@ private:
     bool IsAsItWas() const;
     bool Look();
     void ReportSeal() const;
-    Outcome UnderLock(const std::function<Outcome(const KivFileLock& lock)>& work);
+    Receipt UnderLock(const std::function<Receipt(const KivFileLock& lock)>& work);
     KivUnicodeString DirectoryTrouble() const;
     bool Refuse(const KivUnicodeString& reason) const;
     bool SetAside(const KivFilePlace& place) const;
-    Outcome Write(const KivFileLock& lock, KivSettingFile next);
+    Receipt Write(const KivFileLock& lock, KivSettingFile next);
 
     KivUnicodeString _path;
     bool _isAdministrators;

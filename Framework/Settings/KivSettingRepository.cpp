@@ -5,27 +5,13 @@
 #include "Settings/KivSettingEnumeration.h"
 #include "Settings/KivSettingLayers.h"
 #include "Settings/KivSettingListeners.h"
+#include "Settings/KivSettingRegistry.h"
 #include "Settings/KivSettingStore.h"
 
 #include <algorithm>
 #include <cstdio>
-#include <map>
 
 namespace {
-
-// The repositories of the process. Never destroyed: they are asked until the very end.
-struct Registry {
-    // By name and edited layer.
-    std::map<std::pair<KivString, KivUnicodeString>, std::unique_ptr<KivSettingRepository>> repositories;
-    KivUnicodeString editedLayer;
-    bool isWithheld = false;
-};
-
-Registry& TheRegistry()
-{
-    static auto& registry = *new Registry;
-    return registry;
-}
 
 bool IsName(std::string_view name)
 {
@@ -64,7 +50,7 @@ KivSettingRepository::~KivSettingRepository() = default;
 
 KivSettingRepository* KivSettingRepository::GetRepository(const char* name, int, int, const char*)
 {
-    Registry& registry = TheRegistry();
+    KivSettingRegistry& registry = KivSettingRegistry::Instance();
     if (!name || registry.isWithheld || !IsName(name)) return nullptr;
     KivSettingRepository* repository = nullptr;
     const auto open = [&] {
@@ -81,18 +67,18 @@ KivSettingRepository* KivSettingRepository::GetRepository(const char* name, int,
 
 void KivSettingRepository::SetEditedLayer(const KivUnicodeString& directory)
 {
-    TheRegistry().editedLayer =
+    KivSettingRegistry::Instance().editedLayer =
         directory.IsEmpty() ? directory : KivSettingLayers::Absolute(directory.View());
 }
 
 const KivUnicodeString& KivSettingRepository::EditedLayer()
 {
-    return TheRegistry().editedLayer;
+    return KivSettingRegistry::Instance().editedLayer;
 }
 
 void KivSettingRepository::ForgetAll()
 {
-    for (const auto& [key, repository] : TheRegistry().repositories) {
+    for (const auto& [key, repository] : KivSettingRegistry::Instance().repositories) {
         if (!repository) continue;
         repository->_shown = {};
         repository->_opened.reset();
@@ -101,7 +87,7 @@ void KivSettingRepository::ForgetAll()
 
 void KivSettingRepository::Withhold(bool withheld)
 {
-    TheRegistry().isWithheld = withheld;
+    KivSettingRegistry::Instance().isWithheld = withheld;
 }
 
 template <class T> HRESULT KivSettingRepository::Take(const KivSettingAttribute& attribute, T& value) const
@@ -323,7 +309,7 @@ std::vector<std::shared_ptr<KivFileLock>> KivSettingRepository::AskTurns()
 {
     std::vector<std::shared_ptr<KivFileLock>> locks;
     const auto ask = [&] {
-        for (const auto& [key, repository] : TheRegistry().repositories) {
+        for (const auto& [key, repository] : KivSettingRegistry::Instance().repositories) {
             if (!repository || !repository->_opened) continue;
             if (auto lock = repository->_opened->store.AskTurn()) locks.push_back(std::move(lock));
         }

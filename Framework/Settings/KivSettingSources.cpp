@@ -1,5 +1,6 @@
 #include "Settings/KivSettingSources.h"
 
+#include "Base/KivDiagnostic.h"
 #include "Settings/KivSettingTable.h"
 
 #include <utility>
@@ -70,4 +71,16 @@ void KivSettingSources::Describe(const KivSettingAttribute& attribute, KivSettin
     provenance.Fill(info);
     info.value = KivShownSettingText(attribute.Shown());
     if (KivHasValue(attribute.Shown())) info.type = KivSettingTypeName(attribute.Shown());
+}
+
+void KivSettingSources::ReportOtherType(const KivSettingAttribute& attribute, const char* expected)
+{
+    if (!KivHasValue(attribute.Shown()) || !_typesReported.insert(attribute.key).second) return;
+    KivSettingInfo info;
+    Describe(attribute, info);
+    KivReport({.text = KivUnicodeString("the value is of the type ") + KivSettingTypeName(attribute.Shown()) +
+                       " instead of " + expected + "; the default is used",
+               .file = info.file,
+               .line = info.line,
+               .key = KivString(attribute.key)});
 }

@@ -3,6 +3,8 @@
 #include "Settings/KivSettingLayer.h"
 #include "Settings/KivSettingProvenance.h"
 
+#include <set>
+#include <string_view>
 #include <vector>
 
 struct KivSettingAttribute;
@@ -27,6 +29,9 @@ public:
     // The same in a record of its own, with the value; the record's names stay as they are.
     void Describe(const KivSettingAttribute& attribute, KivSettingInfo& info) const;
 
+    // Says, once a key, that a reader expected another type than the one stored.
+    void ReportOtherType(const KivSettingAttribute& attribute, const char* expected);
+
 private:
     void FillValue(const KivSettingAttribute& attribute, KivSettingProvenance& provenance) const;
     void FillLock(const KivSettingAttribute& attribute, KivSettingProvenance& provenance) const;
@@ -35,4 +40,5 @@ private:
     KivUnicodeString _ownPath;
     bool _isAdministrator;
     std::vector<KivSettingLayer> _layers;
+    std::set<std::string_view> _typesReported; // of these keys
 };

@@ -1,11 +1,10 @@
 #include "Settings/KivSettingStore.h"
 
-#include "Base/KivDiagnostic.h"
 #include "Base/KivUndo.h"
 #include "Settings/KivSettingLayers.h"
+#include "Settings/KivSettingMerge.h"
 
 #include <algorithm>
-#include <unordered_map>
 
 namespace {
 
@@ -104,6 +103,13 @@ void KivSettingStore::UseOwnPrefixLocks(KivSettingPrefixLocks locks)
     for (KivSettingAttribute& attribute : _table) ApplyOwnPrefixLock(attribute);
 }
 
+// After a lock on a prefix may have come or gone.
+void KivSettingStore::CollectOwnPrefixLocks()
+{
+    const auto own = [this](std::size_t index) -> const KivSettingEntry& { return _table[index].own; };
+    UseOwnPrefixLocks(OwnPrefixLocks(own));
+}
+
 const KivSettingAttribute* KivSettingStore::AddIfLocked(std::string_view key)
 {
     const bool isLocked = _prefixLocks.Find(key).layer >= 0 || _ownPrefixLocks.Find(key).layer >= 0;
@@ -185,9 +191,7 @@ void KivSettingStore::ReadLayers()
     ResolveAll();
 }
 
-// Takes what the own file says, unless it is taken already. What has not been saved stays on top of it, but
-// for values of a first start: nobody chose them, so that one gives way to what the file has come to say
-// since.
+// Takes what the own file says, unless it is taken already.
 void KivSettingStore::TakeOwnFile()
 {
     if (_takenVersion == _own.Version()) return;
@@ -203,32 +207,15 @@ void KivSettingStore::TakeOwnFile()
     }
     entries.resize(_table.Size());
 
-    std::unordered_map<std::size_t, const KivSettingEntry*> saved;
-    for (const KivSettingJournal::Record& record : _unsaved) saved.emplace(record.index, &record.before);
-    const auto yields = [&](std::size_t index, const KivSettingEntry& entry) {
-        const KivSettingEntry& now = entries[index];
-        return entry.initial && KivHasValue(now.value) && !now.Equals(*saved.at(index));
-    };
-    KivSettingJournal unsaved = _unsaved, uncommitted = _uncommitted;
-    for (auto& [index, before] : unsaved) before = entries[index];
-    for (auto& [index, before] : uncommitted) {
-        // What was the saved state at the commit follows the disk; what was committed unsaved stays.
-        const auto old = saved.find(index);
-        if (old == saved.end() || old->second->Equals(before) || yields(index, before))
-            before = entries[index];
-    }
-    for (const KivSettingJournal::Record& record : _unsaved) {
-        const KivSettingEntry& working = _table[record.index].own;
-        if (IsDirty(record) && !working.Equals(entries[record.index]) && !yields(record.index, working))
-            entries[record.index] = working;
-    }
+    KivSettingMerge merge(_table, _unsaved, _uncommitted, std::move(entries));
     KivSettingPrefixLocks locks =
-        OwnPrefixLocks([&](std::size_t index) -> const KivSettingEntry& { return entries[index]; });
+        OwnPrefixLocks([&](std::size_t index) -> const KivSettingEntry& { return merge.entries[index]; });
 
     // From here on nothing fails.
-    for (std::size_t index = 0; index < entries.size(); ++index) std::swap(_table[index].own, entries[index]);
-    std::swap(_unsaved, unsaved);
-    std::swap(_uncommitted, uncommitted);
+    for (std::size_t index = 0; index < merge.entries.size(); ++index)
+        std::swap(_table[index].own, merge.entries[index]);
+    std::swap(_unsaved, merge.unsaved);
+    std::swap(_uncommitted, merge.uncommitted);
     UseOwnPrefixLocks(std::move(locks));
     ResolveAll();
     _takenVersion = _own.Version();
@@ -251,8 +238,7 @@ void KivSettingStore::Change(std::size_t index, KivSettingEntry entry)
     SwapOwn(index, entry);
     if (attribute.key.back() != '*') return;
     KivUndo undo([&] { SwapOwn(index, entry); });
-    UseOwnPrefixLocks(
-        OwnPrefixLocks([this](std::size_t i) -> const KivSettingEntry& { return _table[i].own; }));
+    CollectOwnPrefixLocks();
     undo.Done();
 }
 
@@ -348,8 +334,7 @@ KivSettingStore::Keys KivSettingStore::Rollback(Only only)
         swap();
         UseOwnPrefixLocks(std::move(locks));
     });
-    UseOwnPrefixLocks(
-        OwnPrefixLocks([this](std::size_t i) -> const KivSettingEntry& { return _table[i].own; }));
+    CollectOwnPrefixLocks();
     Keys changed = working.Changed();
     undo.Done();
     Drop(_uncommitted, only);
@@ -384,7 +369,6 @@ std::shared_ptr<KivFileLock> KivSettingStore::AskTurn()
 
 KivSettingStore::Keys KivSettingStore::Save(Receipt& result, Only only)
 {
-    using Outcome = KivSettingOwnFile::Outcome;
     if (Unsaved(only).empty()) {
         Drop(_unsaved, only);
         result = _own.FlushOwed() ? Receipt::Nothing : Receipt::Visible;
@@ -393,15 +377,11 @@ KivSettingStore::Keys KivSettingStore::Save(Receipt& result, Only only)
     const KivSettingSnapshot committed = SnapshotOfCommit(only);
     KivSettingSnapshot working(_table);
     const unsigned version = _takenVersion;
-    const Outcome outcome = _own.Save([&] {
+    result = _own.Save([&] {
         TakeOwnFile();
         return Unsaved(only);
     });
-    result = outcome == Outcome::Nothing   ? Receipt::Nothing
-             : outcome == Outcome::Durable ? Receipt::Durable
-             : outcome == Outcome::Visible ? Receipt::Visible
-                                           : Receipt::Refused;
-    if (outcome == Outcome::Refused) {
+    if (result == Receipt::Refused) {
         // No point to return to: whoever is told that his changes are not safe may still take them back.
         Keys changed = working.Changed();
         if (_takenVersion != version && !_untold) _untold.emplace(std::move(working));
@@ -412,16 +392,4 @@ KivSettingStore::Keys KivSettingStore::Save(Receipt& result, Only only)
     Drop(_unsaved, only);
     Drop(_uncommitted, only);
     return changed;
-}
-
-void KivSettingStore::ReportOtherType(const KivSettingAttribute& attribute, const char* expected)
-{
-    if (!KivHasValue(attribute.Shown()) || !_typesReported.insert(attribute.key).second) return;
-    KivSettingInfo info;
-    _sources.Describe(attribute, info);
-    KivReport({.text = KivUnicodeString("the value is of the type ") + KivSettingTypeName(attribute.Shown()) +
-                       " instead of " + expected + "; the default is used",
-               .file = info.file,
-               .line = info.line,
-               .key = KivString(attribute.key)});
 }

@@ -11,7 +11,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <set>
 #include <span>
 #include <vector>
 
@@ -62,7 +61,10 @@ public:
     std::shared_ptr<KivFileLock> AskTurn();
 
     // Says, once a key, that a reader expected another type than the one stored.
-    void ReportOtherType(const KivSettingAttribute& attribute, const char* expected);
+    void ReportOtherType(const KivSettingAttribute& attribute, const char* expected)
+    {
+        _sources.ReportOtherType(attribute, expected);
+    }
 
     bool IsAdministrator() const { return _isAdministrator; }
     bool IsProtected() const { return _own.IsProtected(); }
@@ -82,6 +84,7 @@ private:
     void ApplyOwnPrefixLock(KivSettingAttribute& attribute) const;
     template <class EntryOf> KivSettingPrefixLocks OwnPrefixLocks(const EntryOf& entryOf) const;
     void UseOwnPrefixLocks(KivSettingPrefixLocks locks);
+    void CollectOwnPrefixLocks();
     void SwapOwn(std::size_t index, KivSettingEntry& entry);
     void ReadFiles();
     void ReadLayers();
@@ -109,7 +112,6 @@ private:
     std::vector<const KivSettingValue*> _boundValues; // and their values
     KivSettingJournal _unsaved;
     KivSettingJournal _uncommitted;
-    std::set<std::string_view> _typesReported;
     KivSettingNews _news;
     std::optional<KivSettingSnapshot> _untold; // from before what no refresh has answered yet
 };

@@ -10,21 +10,11 @@ namespace {
 
 ExitCode Run(const Arguments&, Console& console)
 {
-    using Outcome = KivSettingOwnFile::Outcome;
     KivSettingOwnFile file(KivSettingLayers::FileIn(KivSettingRepository::EditedLayer(), Settings::Name),
                            true);
-    switch (file.Seal()) {
-    case Outcome::Nothing:
-        console.Say("the seal fits already");
-        return ExitCode::Done;
-    case Outcome::Durable:
-        return ExitCode::Done;
-    case Outcome::Visible:
-        return Settings::AfterSaving(KivSettingRepository::Receipt::Visible, console);
-    case Outcome::Refused:
-        break;
-    }
-    return ExitCode::Trouble;
+    const KivSettingRepository::Receipt receipt = file.Seal();
+    if (receipt == KivSettingRepository::Receipt::Nothing) console.Say("the seal fits already");
+    return Settings::AfterSaving(receipt, console);
 }
 
 constexpr Example kExamples[] = {

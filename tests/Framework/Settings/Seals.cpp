@@ -97,7 +97,7 @@ TEST(Seals, ALayerCountsAsItWasSealed)
     EXPECT_EQ(box.Said("kivsettings seal --layer " + (box.root / "site").string() + "\" accepts it"), 2);
     EXPECT_EQ(box.Bytes(file), edit);
     EXPECT_EQ(KivSettingOwnFile(KivUnicodeString(file.string()), true).Seal(),
-              KivSettingOwnFile::Outcome::Durable);
+              KivSettingOwnFile::Receipt::Durable);
     EXPECT_EQ(box.Saved(file), "lock int Ruler = 1\nlock Dim*\nlock int Snap = 1\n");
     EXPECT_EQ(site.SaveRepository(nullptr), S_OK);
 

@@ -1,0 +1,28 @@
+#include "Settings/KivSettingMerge.h"
+
+#include <unordered_map>
+#include <utility>
+
+KivSettingMerge::KivSettingMerge(const KivSettingTable& table, const KivSettingJournal& unsavedNow,
+                                 const KivSettingJournal& uncommittedNow, std::vector<KivSettingEntry> onDisk)
+    : entries(std::move(onDisk)), unsaved(unsavedNow), uncommitted(uncommittedNow)
+{
+    std::unordered_map<std::size_t, const KivSettingEntry*> saved;
+    for (const auto& [index, before] : unsavedNow) saved.emplace(index, &before);
+    const auto yields = [&](std::size_t index, const KivSettingEntry& entry) {
+        const KivSettingEntry& now = entries[index];
+        return entry.initial && KivHasValue(now.value) && !now.Equals(*saved.at(index));
+    };
+    for (auto& [index, before] : unsaved) before = entries[index];
+    for (auto& [index, before] : uncommitted) {
+        // What was the saved state at the commit follows the disk; what was committed unsaved stays.
+        const auto old = saved.find(index);
+        if (old == saved.end() || old->second->Equals(before) || yields(index, before))
+            before = entries[index];
+    }
+    for (const auto& [index, before] : unsavedNow) {
+        const KivSettingEntry& working = table[index].own;
+        const bool isDirty = !working.Equals(before) && !working.Equals(entries[index]);
+        if (isDirty && !yields(index, working)) entries[index] = working;
+    }
+}
