@@ -6,8 +6,9 @@
 #include <functional>
 #include <vector>
 
-// Reads files that may lie on a share that does not answer, side by side. A file that has not come in time is
-// unreadable; its reader is left to itself, and no second one is started for it until it comes back.
+// Reads files that may lie on a share that does not answer, side by side, some dozens at once. A file that
+// has not come in time is unreadable; its reader is left to itself, and no second one is started for it until
+// it comes back.
 std::vector<KivFileContent> KivReadInTime(const std::vector<KivUnicodeString>& paths,
                                           std::chrono::milliseconds limit,
                                           const std::function<KivFileContent(const KivUnicodeString&)>& read);
