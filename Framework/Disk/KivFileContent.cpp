@@ -22,17 +22,18 @@ KivUnicodeString TooLarge(std::size_t count, const char* what, std::size_t most)
                             std::to_string(most));
 }
 
-KivFileHandle Open(const KivUnicodeString& path)
+KivFileHandle Open(const KivUnicodeString& path, KivLastLink last)
 {
+    const int noLink = last == KivLastLink::Refuse ? O_NOFOLLOW : 0;
     return KivFileHandle(KivUninterrupted(
-        [&] { return open(path.ConvertToChar(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC); }));
+        [&] { return open(path.ConvertToChar(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC | noLink); }));
 }
 
 // isWhole: every byte that the file has was read, and no more came.
-KivFileContent ReadOnce(const KivUnicodeString& path, bool& isWhole)
+KivFileContent ReadOnce(const KivUnicodeString& path, KivLastLink last, bool& isWhole)
 {
     isWhole = true;
-    KivFileHandle handle = Open(path);
+    KivFileHandle handle = Open(path, last);
     if (!handle.IsOpen()) {
         if (errno != ENOENT) return Unreadable(KivErrorWords("the file cannot be opened", errno));
         return {};
@@ -79,9 +80,9 @@ KivUnicodeString KivSizeTrouble(std::string_view text)
     return lines > KivMostLines ? TooLarge(lines, "lines", KivMostLines) : KivUnicodeString();
 }
 
-KivFileContent KivReadFile(const KivUnicodeString& path)
+KivFileContent KivReadFile(const KivUnicodeString& path, KivLastLink last)
 {
     bool isWhole = true;
-    KivFileContent content = ReadOnce(path, isWhole);
-    return isWhole ? std::move(content) : ReadOnce(path, isWhole);
+    KivFileContent content = ReadOnce(path, last, isWhole);
+    return isWhole ? std::move(content) : ReadOnce(path, last, isWhole);
 }

@@ -60,10 +60,13 @@ inline constexpr std::size_t KivMostLines = std::size_t{1} << 20;
 // Why a text must not be written, since it could not be read again; empty when nothing is against it.
 KivUnicodeString KivSizeTrouble(std::string_view text);
 
+// What to do with a link in place of a file.
+enum class KivLastLink { Follow, Refuse };
+
 // Reads a regular file of at most so many bytes and lines. One that turns out shorter or longer than it says
 // is read once more; then it is unreadable: no part is taken for the whole. Never waits for the other end of
 // a pipe.
-KivFileContent KivReadFile(const KivUnicodeString& path);
+KivFileContent KivReadFile(const KivUnicodeString& path, KivLastLink last = KivLastLink::Follow);
 
 // "cannot be opened: Permission denied"
 KivUnicodeString KivErrorWords(const char* what, int error);

@@ -7,27 +7,7 @@
 #include "Disk/KivSetAside.h"
 
 #include <cerrno>
-#include <climits>
 #include <utility>
-
-namespace {
-
-// Where the links at a path lead, whether something stands there or not. A link itself must stay in place.
-KivUnicodeString TargetOf(const KivUnicodeString& path)
-{
-    KivUnicodeString target = path;
-    for (int links = 0; links < 40; ++links) {
-        char text[PATH_MAX];
-        const ssize_t length = readlink(target.ConvertToChar(), text, sizeof text);
-        if (length <= 0) break;
-        const std::string_view next(text, static_cast<std::size_t>(length));
-        target = next[0] == '/' ? KivUnicodeString(next)
-                                : KivUnicodeString(KivDirectoryOf(target.View())).Append(next);
-    }
-    return target;
-}
-
-} // namespace
 
 KivSettingOwnFile::KivSettingOwnFile(const KivUnicodeString& path, bool isAdministrators)
     : _path(path), _isAdministrators(isAdministrators)
@@ -98,12 +78,20 @@ bool KivSettingOwnFile::Refuse(const KivUnicodeString& reason) const
     return false;
 }
 
+// A link itself stays in place. In a layer's directory, which a group may share, anybody of it could make
+// one.
+KivLinkTarget KivSettingOwnFile::Target() const
+{
+    return KivFollowLinks(_path, _isAdministrators ? KivLinkTrust::CallerAndRoot : KivLinkTrust::Everybody);
+}
+
 // Of the file itself and of what a link in its place leads to.
 KivUnicodeString KivSettingOwnFile::DirectoryTrouble() const
 {
     const KivUnicodeString directory(KivDirectoryOf(_path.View()));
-    const KivUnicodeString target = TargetOf(_path);
-    const KivUnicodeString targets(KivDirectoryOf(target.View()));
+    const KivLinkTarget target = Target();
+    if (!target.trouble.IsEmpty()) return target.trouble;
+    const KivUnicodeString targets(KivDirectoryOf(target.path.View()));
     KivUnicodeString trouble = KivDirectoryTrouble(directory, _isAdministrators);
     if (trouble.IsEmpty() && targets != directory) trouble = KivDirectoryTrouble(targets, _isAdministrators);
     return trouble;
@@ -164,8 +152,10 @@ std::shared_ptr<KivFileLock> KivSettingOwnFile::AskTurn(KivUnicodeString& troubl
         trouble = "there is no home directory, and KivUserSettingsPath names none";
         return nullptr;
     }
-    const KivUnicodeString target = TargetOf(_path);
+    const KivUnicodeString target = Target().path; // what is against it is a trouble of the directory, too
     const KivUnicodeString directory(KivDirectoryOf(target.View()));
+    trouble = KivMakingTrouble(directory);
+    if (!trouble.IsEmpty()) return nullptr;
     if (const int error = KivMakeDirectories(directory, _isAdministrators ? 0755 : 0700)) {
         trouble = KivErrorWords("the directory cannot be made", error);
         return nullptr;

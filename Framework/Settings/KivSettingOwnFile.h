@@ -2,6 +2,7 @@
 
 #include "Disk/KivFileContent.h"
 #include "Disk/KivFileLock.h"
+#include "Disk/KivLinkTarget.h"
 #include "Settings/KivSettingFile.h"
 #include "Settings/KivSettingRepository.h"
 
@@ -54,6 +55,7 @@ private:
     bool Look();
     void ReportSeal() const;
     Receipt UnderLock(const std::function<Receipt(const KivFileLock& lock)>& work);
+    KivLinkTarget Target() const;
     KivUnicodeString DirectoryTrouble() const;
     bool Refuse(const KivUnicodeString& reason) const;
     bool SetAside(const KivFilePlace& place) const;
