@@ -20,6 +20,7 @@ void TakeLock(const KivSettingRepository& repository, KivSettingInfo& info)
     info.lockLayer = now.lockLayer;
     info.lockFile = now.lockFile;
     info.lockLine = now.lockLine;
+    info.lockReason = now.lockReason;
 }
 
 } // namespace

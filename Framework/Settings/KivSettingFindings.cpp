@@ -1,6 +1,8 @@
 #include "Settings/KivSettingFindings.h"
 
 #include "Base/KivDiagnosticScope.h"
+#include "Disk/KivExposure.h"
+#include "Disk/KivTimedCalls.h"
 #include "Settings/KivSettingLayer.h"
 #include "Settings/KivSettingLayers.h"
 #include "Settings/KivSettingOwnFile.h"
@@ -8,7 +10,7 @@
 
 #include <algorithm>
 #include <map>
-#include <sys/stat.h>
+#include <set>
 
 namespace {
 
@@ -21,6 +23,7 @@ struct Layer {
     const KivSettingFile& file;   // in force
     const KivSettingFile& onDisk; // what its writer sees, and has to mend
     bool isUsers = false;
+    bool isClosed = false;
 };
 
 class Check {
@@ -56,7 +59,8 @@ private:
     {
         KivUnicodeString words("layer \"");
         words.Append(place.layer->name).Append("\" (").Append(place.layer->path);
-        return words.Append(", line " + std::to_string(place.line) + ")");
+        if (place.line > 0) words.Append(", line " + std::to_string(place.line));
+        return words.Append(")");
     }
 
     void Examine(const Layer& layer, const KivSettingLine& line)
@@ -111,6 +115,7 @@ private:
         if (layer.isUsers) return;
         const int number = static_cast<int>(_outside.size());
         _outside.push_back(&layer);
+        if (layer.isClosed) _prefixes.Add("*", number, 0);
         for (const KivSettingLine& line : layer.file.Lines()) {
             if (line.isPattern) {
                 _prefixes.Add(line.key, number, line.number);
@@ -129,20 +134,49 @@ private:
     std::vector<KivSettingFinding> _findings;
 };
 
-// What the directories themselves leave open.
-void ExamineDirectories(const std::vector<KivUnicodeString>& directories,
-                        std::vector<KivSettingFinding>& findings)
+constexpr std::chrono::seconds kPatience{1};
+
+// Whether a file can be read at once, or told to be unreadable.
+bool Answers(const KivUnicodeString& path)
 {
-    const bool areEnforced = KivSettingLayers::AreEnforced();
-    for (const KivUnicodeString& directory : directories) {
-        const auto say = [&](const char* text) {
-            findings.push_back({Kind::Open, KivSettingLayers::NameOf(directory), directory, 0, {}, text});
-        };
-        if (!areEnforced)
-            say("its locks are not enforced: KivAdminSettingsPath names it, which every user may change");
-        struct stat status {};
-        if (stat(directory.ConvertToChar(), &status) == 0 && (status.st_mode & S_IWOTH) != 0)
-            say("its locks are not enforced: every user may write to the directory");
+    const auto read = [](const KivUnicodeString& file) { return KivReadFile(file).state; };
+    return KivTimedCalls<KivFileContent::State>().Make({path}, read, kPatience)[0].has_value();
+}
+
+// Whoever may change a layer's file, or the list, changes its locks. Each place is told of once. Where one
+// does not answer in time nothing is found: that it does not is said when the file is read.
+void FindExposures(const KivSettingLayerList& list, std::string_view fileName,
+                   std::vector<KivSettingFinding>& findings)
+{
+    std::vector<KivUnicodeString> paths{KivSettingLayers::SystemFile()}, names{{}};
+    for (const KivUnicodeString& directory : list.Directories()) {
+        names.push_back(KivSettingLayers::NameOf(directory));
+        if (list.IsEnforced()) {
+            paths.push_back((directory + "/").Append(fileName));
+        } else {
+            findings.push_back(
+                {Kind::Open,
+                 names.back(),
+                 directory,
+                 0,
+                 {},
+                 "its locks are not enforced: KivAdminSettingsPath names it, which every user may change"});
+        }
+    }
+    KivTimedCalls<std::vector<KivExposure>> calls;
+    const auto exposures = calls.Make(paths, &KivFindExposures, kPatience);
+    std::set<KivUnicodeString> places;
+    for (std::size_t at = 0; at < paths.size(); ++at) {
+        if (!exposures[at]) continue;
+        for (const KivExposure& exposure : *exposures[at]) {
+            if (!places.insert(exposure.place).second) continue;
+            findings.push_back({Kind::Open,
+                                names[at],
+                                exposure.place,
+                                0,
+                                {},
+                                KivUnicodeString("locks are not enforced: ") + exposure.text});
+        }
     }
 }
 
@@ -152,7 +186,7 @@ std::vector<KivSettingFinding> KivCheckSettings(std::string_view name, std::span
                                                 const KivUnicodeString& editedLayer)
 {
     std::vector<KivSettingFinding> findings;
-    const std::vector<KivUnicodeString> directories = KivSettingLayers::Outside(editedLayer);
+    const KivUnicodeString fileName = KivSettingLayers::FileIn({}, name);
     const bool isUsers = editedLayer.IsEmpty();
     const KivUnicodeString ownDirectory = isUsers ? KivSettingLayers::User() : editedLayer;
     const KivUnicodeString ownName = isUsers ? "user" : KivSettingLayers::NameOf(editedLayer);
@@ -162,16 +196,22 @@ std::vector<KivSettingFinding> KivCheckSettings(std::string_view name, std::span
     // What the readers say is what is wrong.
     std::vector<KivDiagnostic> said;
     std::vector<KivSettingLayer> outside;
+    KivSettingLayerList list;
     {
         const KivDiagnosticScope scope(said);
-        outside = KivReadAdministratorLayers(directories, KivSettingLayers::FileIn({}, name).View());
-        own.Read();
+        list = KivSettingLayerList::Read().Outside(editedLayer);
+        outside = KivReadAdministratorLayers(list, fileName.View());
+        if (Answers(own.Path()))
+            own.Read();
+        else
+            KivReport({.text = "the file system does not answer in time", .file = own.Path()});
     }
 
     std::vector<Layer> layers;
     layers.reserve(outside.size() + 1);
     for (const KivSettingLayer& layer : outside)
-        layers.push_back({layer.name, layer.path, layer.file, layer.replaced ? *layer.replaced : layer.file});
+        layers.push_back({layer.name, layer.path, layer.file, layer.replaced ? *layer.replaced : layer.file,
+                          false, !layer.closed.IsEmpty()});
     layers.push_back({ownName, own.Path(), own.File(), own.File(), isUsers});
 
     for (const KivDiagnostic& diagnostic : said) {
@@ -180,7 +220,7 @@ std::vector<KivSettingFinding> KivCheckSettings(std::string_view name, std::span
         findings.push_back({Kind::Wrong, at == layers.end() ? KivUnicodeString() : at->name, diagnostic.file,
                             diagnostic.line, diagnostic.key, diagnostic.text});
     }
-    ExamineDirectories(directories, findings);
+    FindExposures(list, fileName.View(), findings);
     for (KivSettingFinding& finding : Check(known).Run(layers)) findings.push_back(std::move(finding));
     return findings;
 }

@@ -75,9 +75,11 @@ KivUnicodeString KivSettingInfo::MessageOfParts() const
     for (const KivSettingInfo* one : Parts()) {
         if (!one->IsClosed()) continue;
         if (!message.IsEmpty()) message.Append("\n");
-        message.Append(Text(one->locked ? "SettingPartLocked" : "SettingPartLockedHere",
-                            {Text(one->part.ConvertToChar(), {}), one->value,
-                             Place(one->lockLayer, one->lockFile, one->lockLine)}));
+        const char* const text = !one->lockReason.IsEmpty() ? "SettingPartClosed"
+                                 : one->locked              ? "SettingPartLocked"
+                                                            : "SettingPartLockedHere";
+        message.Append(Text(text, {Text(one->part.ConvertToChar(), {}), one->value,
+                                   Place(one->lockLayer, one->lockFile, one->lockLine), one->lockReason}));
     }
     return message;
 }
@@ -85,6 +87,10 @@ KivUnicodeString KivSettingInfo::MessageOfParts() const
 KivUnicodeString KivSettingInfo::MessageOfLock(const KivUnicodeString& shown) const
 {
     const KivUnicodeString locker = Place(lockLayer, lockFile, lockLine);
+    if (!lockReason.IsEmpty()) {
+        return shown.IsEmpty() ? Text("SettingClosed", {locker, lockReason})
+                               : Text("SettingClosedAt", {locker, lockReason, shown});
+    }
     if (shown.IsEmpty()) return Text(locked ? "SettingLocked" : "SettingLockedHere", {locker});
     if (!locked) return Text("SettingLockedHereAt", {locker, shown});
     if (origin == Origin::None || file == lockFile) return Text("SettingLockedAt", {locker, shown});

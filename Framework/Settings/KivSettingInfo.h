@@ -27,6 +27,9 @@ struct KivSettingInfo {
     KivUnicodeString lockLayer; // name of the outermost layer that locks it
     KivUnicodeString lockFile;  // its file
     int lockLine = 0;           // its line there; that of a lock on a prefix, when this is one
+    // Why that layer, which cannot be read, is closed as a whole until it can be: a clause. Empty for a lock
+    // that somebody wrote.
+    KivUnicodeString lockReason;
 
     // The other parts of what is shown as one, such as the green and the blue of a color whose record this
     // is: an administrator locks and unlocks them along with this one. Whoever shows several as one fills

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Settings/KivSettingFile.h"
+#include "Settings/KivSettingLayerList.h"
 
 #include <optional>
 #include <vector>
@@ -10,11 +11,14 @@ struct KivSettingLayer {
     KivUnicodeString name;
     KivUnicodeString path; // of its file, whether that is there or not
     KivSettingFile file;
-    std::optional<KivSettingFile> replaced; // what is on disk, where a copy is in force instead
+    std::optional<KivSettingFile> replaced; // what is on disk, where something else is in force instead
+    // Why nothing is known of it: it locks every key, at what the layers outside of it give. Empty otherwise.
+    KivUnicodeString closed;
 };
 
-// Reads the layers of these directories, outermost first, in at most a second. A layer that is away, slow,
-// half written or damaged is replaced by this machine's copy of its last complete state; without a copy what
-// is intact of it is in force.
-std::vector<KivSettingLayer> KivReadAdministratorLayers(const std::vector<KivUnicodeString>& directories,
+// Reads the layers of the list, outermost first, in at most a second. One that is away, slow, half written or
+// damaged is replaced by what this process, else this machine, knows of its last complete state. Where
+// nothing is known an optional layer says nothing, and any other is closed; of a list of which nothing is
+// known the list itself stands as a closed layer.
+std::vector<KivSettingLayer> KivReadAdministratorLayers(const KivSettingLayerList& list,
                                                         std::string_view fileName);

@@ -4,19 +4,41 @@
 #include "Base/KivDiagnostic.h"
 #include "Base/KivQuotedText.h"
 #include "Disk/KivAtomicFile.h"
+#include "Disk/KivDirectoryTrouble.h"
 #include "Disk/KivFileContent.h"
 #include "Disk/KivFileLock.h"
 #include "Disk/KivHiddenName.h"
 #include "Settings/KivSettingLayers.h"
 
-#include <unistd.h>
+#include <map>
 
-KivSettingLayerCopy::KivSettingLayerCopy(const KivUnicodeString& original) : _original(original)
+namespace {
+
+struct Known {
+    std::string text;
+    bool isOnDisk = false;
+};
+
+// By the original's path. Never destroyed: asked until the very end.
+std::map<KivUnicodeString, Known>& Memory()
 {
-    _path = KivSettingLayers::Cache();
-    if (_path.IsEmpty()) return;
-    const std::string_view name = original.View().substr(KivDirectoryOf(original.View()).size());
-    _path.Append("/layers/" + KivChecksumText(original.View()) + "-").Append(name);
+    static auto& memory = *new std::map<KivUnicodeString, Known>;
+    return memory;
+}
+
+} // namespace
+
+KivSettingLayerCopy::KivSettingLayerCopy(const KivUnicodeString& original, bool isEnforced)
+    : _original(original), _isEnforced(isEnforced)
+{}
+
+// Empty when there is no place for copies.
+KivUnicodeString KivSettingLayerCopy::Path() const
+{
+    KivUnicodeString path = KivSettingLayers::Cache(_isEnforced);
+    if (path.IsEmpty()) return path;
+    const std::string_view name = _original.View().substr(KivDirectoryOf(_original.View()).size());
+    return path.Append("/layers/" + KivChecksumText(_original.View()) + "-").Append(name);
 }
 
 std::string KivSettingLayerCopy::Header(std::string_view text) const
@@ -27,10 +49,13 @@ std::string KivSettingLayerCopy::Header(std::string_view text) const
     return header += '\n';
 }
 
-bool KivSettingLayerCopy::Read(std::string& text) const
+bool KivSettingLayerCopy::ReadFromDisk(std::string& text) const
 {
-    if (_path.IsEmpty()) return false;
-    const KivFileContent copy = KivReadFile(_path);
+    const KivUnicodeString path = Path();
+    if (path.IsEmpty() ||
+        !KivDirectoryTrouble(KivUnicodeString(KivDirectoryOf(path.View())), false).IsEmpty())
+        return false;
+    const KivFileContent copy = KivReadFile(path);
     const std::size_t headerEnd = copy.text.find('\n');
     if (copy.state != KivFileContent::State::Read || headerEnd == std::string::npos) return false;
     std::string body = copy.text.substr(headerEnd + 1);
@@ -39,31 +64,64 @@ bool KivSettingLayerCopy::Read(std::string& text) const
     return true;
 }
 
+bool KivSettingLayerCopy::Read(std::string& text) const
+{
+    const auto [known, isNew] = Memory().try_emplace(_original);
+    if (isNew && !(known->second.isOnDisk = ReadFromDisk(known->second.text))) {
+        Memory().erase(known);
+        return false;
+    }
+    text = known->second.text;
+    return true;
+}
+
+bool KivSettingLayerCopy::StandIn(const KivUnicodeString& doubt, const char* otherwise,
+                                  std::string& text) const
+{
+    const bool isKnown = Read(text);
+    KivReport({.text = doubt +
+                       (isKnown ? "; this machine's copy of its last complete state is in force" : otherwise),
+               .file = _original});
+    return isKnown;
+}
+
 void KivSettingLayerCopy::Keep(std::string_view text) const
 {
-    if (_path.IsEmpty()) return;
-    std::string kept;
-    if (Read(kept) && kept == text) return;
+    Known& known = Memory()[_original];
+    if (known.isOnDisk && known.text == text) return;
+    known.text = text;
+    known.isOnDisk = !text.empty() && KeepOnDisk(text);
+}
 
-    const auto failed = [this](const KivUnicodeString& reason) {
-        KivReport({KivDiagnostic::Severity::Note,
-                   KivUnicodeString("the copy of an administrator's file cannot be kept: ") + reason,
-                   _path,
-                   0,
-                   {}});
+// Whether it is there from now on.
+bool KivSettingLayerCopy::KeepOnDisk(std::string_view text) const
+{
+    const KivUnicodeString path = Path();
+    std::string kept;
+    if (path.IsEmpty() || (ReadFromDisk(kept) && kept == text)) return true;
+
+    const auto failed = [&path](const KivUnicodeString& reason) {
+        KivReport({.severity = KivDiagnostic::Severity::Note,
+                   .text = KivUnicodeString("the copy of an administrator's file cannot be kept: ") + reason,
+                   .file = path});
+        return false;
     };
-    const KivUnicodeString directory(KivDirectoryOf(_path.View()));
+    const KivUnicodeString directory(KivDirectoryOf(path.View()));
+    if (const KivUnicodeString trouble = KivMakingTrouble(directory); !trouble.IsEmpty())
+        return failed(trouble);
     if (const int error = KivMakeDirectories(directory, 0700)) {
         return failed(KivErrorWords("no directory", error));
     }
+    if (const KivUnicodeString trouble = KivDirectoryTrouble(directory, false); !trouble.IsEmpty())
+        return failed(trouble);
     // Another program that is here at the same time keeps the same copy.
-    KivFileLock lock(_path);
+    KivFileLock lock(path);
     if (!lock.Await(std::chrono::milliseconds(15)) || !lock.IsHeld()) return failed(lock.Reason());
     KivAtomicFile file(lock.Place());
-    if (!file.Write(Header(text).append(text), 0600) || !file.Rename()) failed(file.Reason());
+    return (file.Write(Header(text).append(text), 0600) && file.Rename()) || failed(file.Reason());
 }
 
-void KivSettingLayerCopy::Drop() const
+void KivSettingLayerCopy::ForgetAll()
 {
-    if (!_path.IsEmpty()) unlink(_path.ConvertToChar());
+    Memory().clear();
 }

@@ -13,4 +13,5 @@ void KivSettingProvenance::Fill(KivSettingInfo& info) const
     if (lockLayer) info.lockLayer = *lockLayer;
     if (lockFile) info.lockFile = *lockFile;
     info.lockLine = lockLine;
+    if (lockReason) info.lockReason = *lockReason;
 }

@@ -18,6 +18,7 @@ struct KivSettingProvenance {
     const KivUnicodeString* lockLayer = nullptr; // null when it is not locked
     const KivUnicodeString* lockFile = nullptr;
     int lockLine = 0;
+    const KivUnicodeString* lockReason = nullptr; // null unless that layer is closed
 
     // Copies it into a record, whose value and names stay as they are.
     void Fill(KivSettingInfo& info) const;

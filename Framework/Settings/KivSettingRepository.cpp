@@ -3,6 +3,7 @@
 #include "Base/KivDiagnostic.h"
 #include "Base/KivGuarded.h"
 #include "Settings/KivSettingEnumeration.h"
+#include "Settings/KivSettingLayerCopy.h"
 #include "Settings/KivSettingLayers.h"
 #include "Settings/KivSettingListeners.h"
 #include "Settings/KivSettingRegistry.h"
@@ -78,6 +79,7 @@ const KivUnicodeString& KivSettingRepository::EditedLayer()
 
 void KivSettingRepository::ForgetAll()
 {
+    KivSettingLayerCopy::ForgetAll();
     for (const auto& [key, repository] : KivSettingRegistry::Instance().repositories) {
         if (!repository) continue;
         repository->_shown = {};

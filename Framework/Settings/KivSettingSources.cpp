@@ -53,6 +53,7 @@ void KivSettingSources::FillLock(const KivSettingAttribute& attribute, KivSettin
         provenance.lockLayer = &layer.name;
         provenance.lockFile = &layer.path;
         provenance.lockLine = attribute.lockLine;
+        if (!layer.closed.IsEmpty()) provenance.lockReason = &layer.closed;
         break;
     }
 }

@@ -30,8 +30,7 @@ void TakeLine(const KivSettingLine& line, bool isAdministrators, KivSettingEntry
 } // namespace
 
 KivSettingStore::KivSettingStore(std::string_view name, const KivUnicodeString& editedLayer)
-    : _name(name), _isAdministrator(!editedLayer.IsEmpty()),
-      _layerDirectories(KivSettingLayers::Outside(editedLayer)),
+    : _name(name), _isAdministrator(!editedLayer.IsEmpty()), _editedLayer(editedLayer),
       _own(OwnPath(_isAdministrator ? editedLayer : KivSettingLayers::User(), name), _isAdministrator),
       _sources(_isAdministrator ? KivSettingLayers::NameOf(editedLayer) : "user", _own.Path(),
                _isAdministrator)
@@ -148,8 +147,8 @@ void KivSettingStore::ResolveAll()
 
 void KivSettingStore::ReadLayers()
 {
-    std::vector<KivSettingLayer> layers =
-        KivReadAdministratorLayers(_layerDirectories, KivSettingLayers::FileIn({}, _name.View()).View());
+    std::vector<KivSettingLayer> layers = KivReadAdministratorLayers(
+        KivSettingLayerList::Read().Outside(_editedLayer), KivSettingLayers::FileIn({}, _name.View()).View());
     KivSettingPrefixLocks prefixLocks;
     // Each line of the layers that says something of one key, with its attribute.
     struct Statement {
@@ -159,6 +158,7 @@ void KivSettingStore::ReadLayers()
     };
     std::vector<Statement> statements;
     for (int layer = 0; layer < static_cast<int>(layers.size()); ++layer) {
+        if (!layers[static_cast<std::size_t>(layer)].closed.IsEmpty()) prefixLocks.Add("*", layer, 0);
         for (const KivSettingLine& line : layers[static_cast<std::size_t>(layer)].file.Lines()) {
             if (line.isPattern)
                 prefixLocks.Add(line.key, layer, line.number);

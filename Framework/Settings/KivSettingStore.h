@@ -101,7 +101,7 @@ private:
 
     KivString _name;
     bool _isAdministrator;
-    std::vector<KivUnicodeString> _layerDirectories; // outside of the own file, outermost first
+    KivUnicodeString _editedLayer; // its directory, or empty for the user's
     KivSettingOwnFile _own;
     unsigned _takenVersion = 0; // of the own file
     KivSettingSources _sources;

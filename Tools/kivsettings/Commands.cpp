@@ -10,7 +10,8 @@ constexpr const Command* kCommands[] = {
 
 constexpr Option kCommon[] = {
     {"layer", "DIR", "work on the administrator's layer in DIR instead of the user's settings"},
-    {"system-layers", "FILE", "take the list of layers from FILE instead of /etc/kiv/layers"},
+    {"system-layers", "FILE",
+     "take the list of layers from FILE instead of /etc/kiv/layers; none: there is no list"},
     {"help", nullptr, "explain the command"},
 };
 

@@ -6,11 +6,11 @@
 #include "Base/KivDiagnosticScope.h"
 #include "Disk/KivTimedReading.h"
 #include "Settings/KivSettingFile.h"
+#include "Settings/KivSettingLayerList.h"
 #include "Settings/KivSettingLayers.h"
 
 #include <algorithm>
 #include <chrono>
-#include <set>
 
 namespace {
 
@@ -19,7 +19,7 @@ using Kind = KivSettingFinding::Kind;
 // The files of the layers, outermost first, the one that is written last.
 std::vector<KivUnicodeString> Paths(const KivUnicodeString& edited)
 {
-    std::vector<KivUnicodeString> paths = KivSettingLayers::Outside(edited);
+    std::vector<KivUnicodeString> paths = KivSettingLayerList::Read().Outside(edited).Directories();
     const KivUnicodeString own = edited.IsEmpty() ? KivSettingLayers::User() : edited;
     if (!own.IsEmpty()) paths.push_back(own);
     for (KivUnicodeString& path : paths) path = KivSettingLayers::FileIn(path, Settings::Name);
@@ -67,24 +67,19 @@ LayerCheck CheckLayers(const KivUnicodeString& editedLayer)
     LayerCheck check;
     std::vector<const char*> known;
     for (const KivDrwCatalogueEntry& entry : KivDrwCatalogue::Entries()) known.push_back(entry.key);
-    // What is said meanwhile is of the list of layers, and said each time that it is read.
-    std::set<KivUnicodeString> said;
+    check.findings = KivCheckSettings(Settings::Name, known, editedLayer);
     std::vector<KivUnicodeString> paths;
     {
-        const KivDiagnosticScope scope([&](const KivDiagnostic& about) {
-            if (said.insert(about.Message()).second)
-                check.findings.push_back({Kind::Wrong, {}, about.file, about.line, about.key, about.text});
-            return true;
-        });
-        for (KivSettingFinding& finding : KivCheckSettings(Settings::Name, known, editedLayer)) {
-            check.findings.push_back(std::move(finding));
-        }
+        // What is said of the list of layers is among the findings.
+        std::vector<KivDiagnostic> saidBefore;
+        const KivDiagnosticScope scope(saidBefore);
         paths = Paths(editedLayer);
     }
     for (KivSettingFinding& finding : check.findings) SuggestName(finding);
 
     // A share that does not answer must not hold up the rest.
-    std::vector<KivFileContent> contents = KivReadInTime(paths, std::chrono::seconds(1), &KivReadFile);
+    const auto read = [](const KivUnicodeString& path) { return KivReadFile(path); };
+    std::vector<KivFileContent> contents = KivReadInTime(paths, std::chrono::seconds(1), read);
     for (std::size_t i = 0; i < paths.size(); ++i) {
         if (contents[i].state == KivFileContent::State::Unreadable) check.isUnreadable = true;
         if (contents[i].state != KivFileContent::State::Read) continue;

@@ -2,6 +2,7 @@
 #include "Console.h"
 #include "Help.h"
 
+#include "Disk/KivTimedCalls.h"
 #include "Settings/KivSettingLayers.h"
 #include "Settings/KivSettingRepository.h"
 
@@ -18,25 +19,40 @@ ExitCode Misuse(Console& console, const Arguments& arguments)
     return ExitCode::Misuse;
 }
 
+// Asks without waiting long: it may lie on a share that does not answer.
+std::filesystem::file_type TypeOf(const std::string& path)
+{
+    const auto type = [](const KivUnicodeString& place) {
+        std::error_code failed;
+        return std::filesystem::status(place.View(), failed).type();
+    };
+    const auto answer = KivTimedCalls<std::filesystem::file_type>().Make({KivUnicodeString(path)}, type,
+                                                                         std::chrono::seconds(1));
+    return answer[0].value_or(std::filesystem::file_type::unknown);
+}
+
 // False, and said, when there is no such file or directory.
 bool FindLayers(const Arguments& arguments, Console& console)
 {
-    std::error_code failed;
+    using Type = std::filesystem::file_type;
+    const auto isMissing = [&console](const std::string& path, Type type, const char* what) {
+        if (type == Type::unknown) what = "the file system does not answer in time";
+        console.Say(path, what);
+        return false;
+    };
     if (arguments.Has("system-layers")) {
         const std::string file(arguments.Value("system-layers"));
-        if (!std::filesystem::exists(file, failed)) {
-            console.Say(file, "there is no such file");
-            return false;
-        }
-        KivSettingLayers::SetSystemFile(KivSettingLayers::Absolute(file));
+        const bool isNone = file == "none";
+        const Type type = isNone ? Type::regular : TypeOf(file);
+        if (type == Type::unknown || type == Type::not_found)
+            return isMissing(file, type, "there is no such file");
+        KivSettingLayers::SetSystemFile(isNone ? KivUnicodeString() : KivSettingLayers::Absolute(file));
     }
     if (arguments.Has("layer")) {
         const std::string directory(arguments.Value("layer"));
         // Made by the administrator, not by a typing error.
-        if (!std::filesystem::is_directory(directory, failed)) {
-            console.Say(directory, "the layer's directory is not there");
-            return false;
-        }
+        if (const Type type = TypeOf(directory); type != Type::directory)
+            return isMissing(directory, type, "the layer's directory is not there");
         KivSettingRepository::SetEditedLayer(KivUnicodeString(directory));
     }
     return true;

@@ -32,7 +32,7 @@ public:
 
     Settings();
 
-    KivSettingRepository& Repository() { return _repository; }
+    KivSettingRepository& Repository() const { return _repository; }
 
     Setting Describe(const std::string& key) const;
     // Keys with a value that the catalogue does not know, in the order of the files.

@@ -10,13 +10,11 @@
 
 namespace {
 
-std::vector<KivUnicodeString> Files(const Arguments& arguments)
+// With the list of layers, by which others may come to count.
+std::vector<KivUnicodeString> Files(const Settings& settings)
 {
-    std::vector<KivUnicodeString> files = KivSettingLayers::Administrator();
-    const KivUnicodeString own = arguments.Has("layer") ? KivSettingLayers::Absolute(arguments.Value("layer"))
-                                                        : KivSettingLayers::User();
-    if (!own.IsEmpty()) files.push_back(own);
-    for (KivUnicodeString& file : files) file = KivSettingLayers::FileIn(file, Settings::Name);
+    std::vector<KivUnicodeString> files = settings.Repository().Files();
+    if (!KivSettingLayers::SystemFile().IsEmpty()) files.push_back(KivSettingLayers::SystemFile());
     return files;
 }
 
@@ -25,7 +23,7 @@ ExitCode Run(const Arguments& arguments, Console& console)
     Settings settings;
     if (!KeySelection::Named(settings, arguments.names, arguments.Has("force"), console))
         return ExitCode::Misuse;
-    FileWatch watch(Files(arguments));
+    FileWatch watch(Files(settings));
     if (!watch.IsOpen()) {
         console.Say("the system offers no way to watch files");
         return ExitCode::Trouble;

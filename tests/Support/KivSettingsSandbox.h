@@ -86,7 +86,7 @@ public:
     // Names the administrator layers (directories below root), outermost first, as the system does.
     void NameLayers(const std::vector<std::string>& names)
     {
-        std::string lines;
+        std::string lines = names.empty() ? "none\n" : "";
         for (const std::string& name : names) lines += (root / name).string() + "\n";
         Write(root / "layers", lines);
     }

@@ -103,6 +103,7 @@ TEST_F(Damage, AFileMayEndAnywhereOrBeOfALaterVersion)
 TEST_F(Damage, AFileThatCannotBeReadIsProtected)
 {
     box.NameLayers({"site"});
+    std::filesystem::create_directory(box.root / "site");
     const auto isProtected = [&](const char* what) {
         box.diagnostics.clear();
         KivSettingRepository& repository = box.Reopen();
@@ -142,6 +143,8 @@ TEST_F(Damage, AFileThatCannotBeReadIsProtected)
     box.Write(file, std::string(KivMostLines + 1, '\n'));
     isProtected("lines");
     box.Write(file, "int Snap = 3\n");
+    std::filesystem::remove(box.root /
+                            "layers"); // else the list cannot be read either, and closes everything
     FaultyDisk::fault = FaultyDisk::Fault::EndEarly;
     isProtected("cut while it is read");
     FaultyDisk::fault = FaultyDisk::Fault::EndEarlyOnce;
