@@ -4,14 +4,14 @@
 
 KivUnicodeString KivDiagnostic::Message() const
 {
-    KivUnicodeString words;
+    KivUnicodeString message;
     if (!file.IsEmpty()) {
-        words = file;
-        if (line > 0) words.Append(":" + std::to_string(line));
-        words.Append(": ");
+        message = file;
+        if (line > 0) message.Append(":" + std::to_string(line));
+        message.Append(": ");
     }
-    if (!key.IsEmpty()) words.Append(key.View()).Append(": ");
-    return words + text;
+    if (!key.IsEmpty()) message.Append(key.View()).Append(": ");
+    return message + text;
 }
 
 void KivReport(const KivDiagnostic& diagnostic)

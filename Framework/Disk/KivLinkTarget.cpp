@@ -4,6 +4,7 @@
 #include "Disk/KivFileContent.h"
 #include "Disk/KivFileHandle.h"
 #include "Disk/KivHiddenName.h"
+#include "Disk/KivUninterrupted.h"
 
 #include <cerrno>
 #include <climits>
@@ -18,7 +19,8 @@ constexpr int kMostLinks = 40; // as many as the system follows
 // Opened without being followed, so that whose it is and where it leads are asked of one and the same link.
 KivFileHandle OpenItself(const KivUnicodeString& path)
 {
-    return KivFileHandle(open(path.ConvertToChar(), O_PATH | O_NOFOLLOW | O_CLOEXEC));
+    return KivFileHandle(
+        KivUninterrupted([&] { return open(path.ConvertToChar(), O_PATH | O_NOFOLLOW | O_CLOEXEC); }));
 }
 
 } // namespace

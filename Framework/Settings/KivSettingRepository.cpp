@@ -38,7 +38,8 @@ struct KivSettingRepository::Opened {
 
 inline KivSettingRepository::Opened& KivSettingRepository::Open() const
 {
-    if (!_opened) [[unlikely]] _opened.reset(new Opened{.store = {_name.View(), _editedLayer}});
+    if (!_opened) [[unlikely]]
+        _opened.reset(new Opened{.store = {_name.View(), _editedLayer}});
     return *_opened;
 }
 

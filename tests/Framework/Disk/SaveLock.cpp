@@ -167,11 +167,11 @@ TEST_F(SaveLock, HoldsWhenItsFileIsRemoved)
 
     // Nor does a save put a file in place when it has lost the lock on the way.
     KivSettingOwnFile own(KivUnicodeString(box.File("other").string()), false);
-    const auto outcome = own.Save([&](bool) {
+    const auto outcome = own.Save([&] {
         std::filesystem::remove(box.root / "other/.DraftingOptions.kivsettings.lock");
         return KivSettingOwnFile::Changes{{"Ruler", {.value = 1}}};
     });
-    EXPECT_EQ(outcome, KivSettingOwnFile::Outcome::Refused);
+    EXPECT_EQ(outcome, KivSettingOwnFile::Receipt::Refused);
     EXPECT_EQ(box.Said("the lock file was removed meanwhile"), 1);
     EXPECT_TRUE(box.Names("other").empty());
 }

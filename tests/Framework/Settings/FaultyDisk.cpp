@@ -8,6 +8,7 @@
 #include <fcntl.h>
 #include <string_view>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <thread>
 #include <unistd.h>
 
@@ -53,6 +54,22 @@ extern "C" int open(const char* path, int flags, ...)
     FaultyDisk::stuck += FaultyDisk::isShareStuck && isOnShare;
     while (FaultyDisk::isShareStuck && isOnShare) std::this_thread::sleep_for(std::chrono::milliseconds(2));
     return next(path, flags, mode);
+}
+
+// What is on a share is not near.
+extern "C" long syscall(long number, ...) noexcept
+{
+    static const auto next = Next<long(long, ...)>("syscall");
+    va_list more;
+    va_start(more, number);
+    long given[6];
+    for (long& argument : given) argument = va_arg(more, long);
+    va_end(more);
+    const bool isPath = number == SYS_openat2;
+    if (isPath &&
+        std::string_view(reinterpret_cast<const char*>(given[1])).find("/share/") != std::string_view::npos)
+        return Fail(EXDEV);
+    return next(number, given[0], given[1], given[2], given[3], given[4], given[5]);
 }
 
 extern "C" int openat(int directory, const char* name, int flags, ...)
