@@ -78,6 +78,8 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
     connect(&_turnAwaited, &QTimer::timeout, this, [this] { LookForTurn(); });
 
     if (!ShowPage(KivUnicodeString(_memory.Page()))) _list->setCurrentRow(0);
+    BringForward(_list->currentRow()); // the session has just filled it
+    connect(_list, &QListWidget::currentRowChanged, this, [this](int row) { PageChosen(row); });
     const QSize remembered = _memory.Size();
     resize((remembered.isValid() ? remembered : sizeHint()).boundedTo(FreeSize()));
 }
@@ -89,7 +91,6 @@ OptionsWindow::~OptionsWindow()
 
 void OptionsWindow::AddPages()
 {
-    connect(_list, &QListWidget::currentRowChanged, this, [this](int row) { PageChosen(row); });
     for (const KivOptionsSession::Page& page : _session->Pages()) {
         auto* item = new QListWidgetItem(IconStore::Shared().Icon(page.icon), ToQt(page.title), _list);
         item->setToolTip(ToQt(page.help));
@@ -155,6 +156,12 @@ void OptionsWindow::PageChosen(int page)
 {
     if (page < 0 || !_session) return;
     _session->Refill(_session->Pages()[static_cast<std::size_t>(page)]);
+    BringForward(page);
+}
+
+void OptionsWindow::BringForward(int page)
+{
+    if (page < 0 || !_session) return;
     PageView(page).Build();
     _stack->setCurrentIndex(page);
     const QString title = ToQt(_session->Pages()[static_cast<std::size_t>(page)].title);

@@ -57,6 +57,7 @@ private:
     void ListenToKeys();
     void Go(int pages);
     void PageChosen(int page);
+    void BringForward(int page);
     void OrderTab();
     bool CommitFields();
     NativeField* Field() const;

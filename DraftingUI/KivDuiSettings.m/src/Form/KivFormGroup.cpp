@@ -28,8 +28,9 @@ KivDrwLockFrame* KivFormGroup::Radios(const KivString& name, KivPropertyOf<int>&
                                       const KivSettingKind& kind, KivFormRow::Rule rule)
 {
     const short row = _rows++;
-    if (_form.LeavesOut(property)) return nullptr;
-    auto* frame = new KivDrwLockFrame(&_frame, name, property.Info(), KivDlgGridLayout);
+    const auto record = _form.RecordOf(property);
+    if (!record) return nullptr;
+    auto* frame = new KivDrwLockFrame(&_frame, name, *record, KivDlgGridLayout);
     frame->SetGridConstraints(row, 0, 1, 1, KivDlgAttachAllSides);
     std::vector<KivRadioBinding::Button> buttons;
     short buttonRow = 0;

@@ -37,11 +37,11 @@ void KivFormRow::Put(KivDialog& control)
     _attachment = KivDlgAttachAllSides;
 }
 
-bool KivFormRow::LeavesOut(const KivProperty& property)
+std::optional<KivSettingInfo> KivFormRow::RecordOf(const KivProperty& property)
 {
-    if (!_form.LeavesOut(property)) return false;
-    At(static_cast<short>(_column + _columns)).Attached(KivDlgAttachAllSides);
-    return true;
+    const std::optional<KivSettingInfo> record = _form.RecordOf(property);
+    if (!record) At(static_cast<short>(_column + _columns)).Attached(KivDlgAttachAllSides);
+    return record;
 }
 
 void KivFormRow::Name(KivDialog* control)
@@ -112,8 +112,9 @@ KivDrwLockCheckButton* KivFormRow::Check(const KivString& name, KivPropertyOf<in
 template <class T> KivDrwLockCheckButton*
 KivFormRow::CheckOf(const KivString& name, KivPropertyOf<T>& property, bool isOnFor1Alone, Rule rule)
 {
-    if (LeavesOut(property)) return nullptr;
-    auto* button = new KivDrwLockCheckButton(&_frame, name, property.Info(), 0UL);
+    const auto record = RecordOf(property);
+    if (!record) return nullptr;
+    auto* button = new KivDrwLockCheckButton(&_frame, name, *record, 0UL);
     Put(*button);
     Name(button->GetDialog());
     _form.Connect(button->GetDialog(), button->GetChkBModifyNotification());
@@ -159,8 +160,9 @@ void KivFormRow::FillRange(KivDrwLockSpinner& spinner, const KivSettingKind& kin
 KivDrwLockSpinner* KivFormRow::Spinner(const KivString& name, KivPropertyOf<double>& property,
                                        const KivSettingKind& kind, Rule rule, const KivSpinnerLook& look)
 {
-    if (LeavesOut(property)) return nullptr;
-    KivDrwLockSpinner* spinner = BareSpinner(name, property.Info(), kind, look);
+    const auto record = RecordOf(property);
+    if (!record) return nullptr;
+    KivDrwLockSpinner* spinner = BareSpinner(name, *record, kind, look);
     _form.Add(std::make_unique<KivMeasureBinding>(spinner, property, kind, std::move(rule)));
     return spinner;
 }
@@ -168,8 +170,9 @@ KivDrwLockSpinner* KivFormRow::Spinner(const KivString& name, KivPropertyOf<doub
 KivDrwLockSpinner* KivFormRow::Spinner(const KivString& name, KivPropertyOf<int>& property,
                                        const KivSettingKind& kind, Rule rule, const KivSpinnerLook& look)
 {
-    if (LeavesOut(property)) return nullptr;
-    KivDrwLockSpinner* spinner = BareSpinner(name, property.Info(), kind, look);
+    const auto record = RecordOf(property);
+    if (!record) return nullptr;
+    KivDrwLockSpinner* spinner = BareSpinner(name, *record, kind, look);
     _form.Add(std::make_unique<KivWholeNumberBinding>(spinner, property, std::move(rule)));
     return spinner;
 }
@@ -177,8 +180,9 @@ KivDrwLockSpinner* KivFormRow::Spinner(const KivString& name, KivPropertyOf<int>
 KivDrwLockComboColor* KivFormRow::Color(const KivString& name, KivPropertyOf<KivPageColor>& property,
                                         Rule rule)
 {
-    if (LeavesOut(property)) return nullptr;
-    auto* combo = new KivDrwLockComboColor(&_frame, name, property.Info());
+    const auto record = RecordOf(property);
+    if (!record) return nullptr;
+    auto* combo = new KivDrwLockComboColor(&_frame, name, *record);
     PutNamed(*combo, combo->GetCombo());
     _form.Add(std::make_unique<KivColorBinding>(combo, property, std::move(rule)));
     return combo;
@@ -201,8 +205,9 @@ KivDrwLockCombo* KivFormRow::BareCombo(const KivString& name, const KivSettingIn
 KivDrwLockCombo* KivFormRow::Choice(const KivString& name, KivPropertyOf<int>& property,
                                     const KivSettingKind& kind, unsigned long style, Rule rule)
 {
-    if (LeavesOut(property)) return nullptr;
-    KivDrwLockCombo* combo = BareCombo(name, property.Info(), style);
+    const auto record = RecordOf(property);
+    if (!record) return nullptr;
+    KivDrwLockCombo* combo = BareCombo(name, *record, style);
     _form.Add(std::make_unique<KivChoiceBinding>(combo, property, kind, std::move(rule)));
     return combo;
 }
@@ -210,8 +215,9 @@ KivDrwLockCombo* KivFormRow::Choice(const KivString& name, KivPropertyOf<int>& p
 KivDrwLockCombo* KivFormRow::Names(const KivString& name, KivPropertyOf<KivUnicodeString>& property,
                                    KivFormNames names, Rule rule)
 {
-    if (LeavesOut(property)) return nullptr;
-    KivDrwLockCombo* combo = BareCombo(name, property.Info(), 0UL);
+    const auto record = RecordOf(property);
+    if (!record) return nullptr;
+    KivDrwLockCombo* combo = BareCombo(name, *record, 0UL);
     _form.Add(std::make_unique<KivNameBinding>(combo, property, names, std::move(rule)));
     return combo;
 }
@@ -244,8 +250,9 @@ KivDrwLockComboWeight* KivFormRow::LineWeight(const KivString& name, KivProperty
 KivDrwLockEditor* KivFormRow::Text(const KivString& name, KivPropertyOf<KivUnicodeString>& property,
                                    int width, Rule rule)
 {
-    if (LeavesOut(property)) return nullptr;
-    auto* editor = new KivDrwLockEditor(&_frame, name, property.Info(), 0UL);
+    const auto record = RecordOf(property);
+    if (!record) return nullptr;
+    auto* editor = new KivDrwLockEditor(&_frame, name, *record, 0UL);
     Put(*editor);
     Name(editor->GetDialog());
     if (KivDlgEditor* field = editor->GetEditor()) {

@@ -80,7 +80,8 @@ private:
     KivDrwLockCombo* BareCombo(const KivString& name, const KivSettingInfo& info, unsigned long style);
     template <class T> KivDrwLockCheckButton* CheckOf(const KivString& name, KivPropertyOf<T>& property,
                                                       bool isOnFor1Alone, Rule rule);
-    bool LeavesOut(const KivProperty& property);
+    // None, and the cell is passed over, when the control is left out.
+    std::optional<KivSettingInfo> RecordOf(const KivProperty& property);
     void FillRange(KivDrwLockSpinner& spinner, const KivSettingKind& kind);
     void Put(KivDialog& control);
     void PutNamed(KivDrwLockDialog& wrapper, KivDlgCombo* combo);

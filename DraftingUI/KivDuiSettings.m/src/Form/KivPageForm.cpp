@@ -80,10 +80,12 @@ void KivPageForm::ReadAll()
     for (const auto& binding : _bindings) binding->Read();
 }
 
-bool KivPageForm::LeavesOut(const KivProperty& property) const
+std::optional<KivSettingInfo> KivPageForm::RecordOf(const KivProperty& property) const
 {
     KivSettingInfo info;
-    return _refused == Refused::LeaveOut && property.GetInfo(info) < 0;
+    const bool isRefused = property.GetInfo(info) < 0;
+    if (isRefused && _refused == Refused::LeaveOut) return {};
+    return info;
 }
 
 void KivPageForm::Add(std::unique_ptr<KivControlBinding> binding)

@@ -4,6 +4,7 @@
 #include "Form/KivFormGroup.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 // The groups and rows of a page or of a window of it, as they are declared: builds each control from its
@@ -27,7 +28,7 @@ public:
     KivFormGroup Group(KivDialog& surface, const KivString& name, const KivString& icon, short row = 0,
                        short column = 0, short rows = 1);
 
-    // Shows every lock record.
+    // Asks for every lock record and shows it. Controls that have just been made have theirs.
     void ShowLocks();
     // Shows every property.
     void Show();
@@ -45,8 +46,9 @@ public:
     // Whether a control of this property sent a notification.
     bool IsSender(const KivProperty& property, const KivCommand* from) const;
 
-    // For rows that are being declared: KivFormRow and KivFormGroup.
-    bool LeavesOut(const KivProperty& property) const;
+    // For rows that are being declared. The lock record that a control is to be made with; none when it is
+    // left out.
+    std::optional<KivSettingInfo> RecordOf(const KivProperty& property) const;
     void Add(std::unique_ptr<KivControlBinding> binding);
     void Connect(KivCommand* control, KivNotification* notification);
 

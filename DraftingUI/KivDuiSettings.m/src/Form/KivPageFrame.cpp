@@ -1,5 +1,7 @@
 #include "Form/KivPageFrame.h"
 
+#include <utility>
+
 KivPageFrame::KivPageFrame(KivDialog* parent, const KivString& name, const KivString& catalogue,
                            Refused refused)
     : KivClass(parent, name, KivDlgGridLayout), _form(*this, refused), _catalogue(catalogue)
@@ -23,7 +25,7 @@ KivFormGroup KivPageFrame::Group(const KivString& name, const KivString& icon, s
 void KivPageFrame::Initialize()
 {
     for (KivProperty* property : _properties) property->Load();
-    _form.ShowLocks();
+    if (std::exchange(_isShown, true)) _form.ShowLocks();
     UpdateWidgets();
 }
 

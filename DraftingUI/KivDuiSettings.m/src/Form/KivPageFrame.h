@@ -43,4 +43,5 @@ protected:
 private:
     KivString _catalogue;
     short _groups = 0;
+    bool _isShown = false; // until then the locks are those that Build has just taken
 };

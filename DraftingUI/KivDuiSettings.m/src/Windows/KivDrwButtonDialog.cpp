@@ -11,7 +11,9 @@ KivDrwButtonDialog::KivDrwButtonDialog(KivDialog* parent, const KivString& name,
 
 void KivDrwButtonDialog::Open()
 {
-    Init();
+    // The controls have just taken their locks.
+    for (KivBoundValue* value : _values) value->Load();
+    ShowValues();
     SetVisibility(KivDlgShown);
 }
 
