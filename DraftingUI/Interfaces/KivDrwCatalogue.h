@@ -6,7 +6,8 @@
 #include <string_view>
 #include <vector>
 
-// The groups of settings, in writing order; each belongs to one options page.
+// The groups of settings, in writing order; each belongs to one options page. Their names stand in the same
+// order in KivDrwCatalogue.cpp.
 enum class KivDrwGroup {
     General,
     Layout,

@@ -10,14 +10,15 @@ protected:
     void SetUp() override { manager = std::make_unique<KivUserSettingsManager>(); }
 };
 
-TEST_F(OptionsManager, FindsTheTenFactoriesThroughTheDictionary)
+TEST_F(OptionsManager, FindsTheFactoryOfEveryTabThroughTheDictionary)
 {
-    const char* const tabs[] = {"Admin", "Annot",  "Gal",   "Gen",  "Geo",
-                                "Int",   "Layout", "Manip", "Trel", "View"};
+    const char* const editors[] = {
+#define KIV_TAB(Editor, ...) #Editor,
+#include "KivDrwTabs.def"
+    };
     const auto factories = manager->Factories();
-    ASSERT_EQ(factories.size(), 10U);
-    for (const char* tab : tabs) {
-        const KivUnicodeString editor = "KivDrwOpt" + KivUnicodeString(tab) + "Editor";
+    ASSERT_EQ(factories.size(), std::size(editors));
+    for (const KivUnicodeString editor : editors) {
         int supporters = 0;
         for (const auto& factory : factories) {
             if (!factory->Support(editor)) continue;
@@ -44,10 +45,10 @@ TEST_F(OptionsManager, FindsTheTenFactoriesThroughTheDictionary)
                 << "only factories make editors";
             EXPECT_EQ(factory->Create("KivINobody"), nullptr);
         }
-        EXPECT_EQ(supporters, 1) << tab;
+        EXPECT_EQ(supporters, 1) << editor.View();
     }
     for (const auto& factory : factories) EXPECT_FALSE(factory->Support("") || factory->Support("KivEditor"));
-    EXPECT_EQ(manager->CreateEditors().size(), 10U);
+    EXPECT_EQ(manager->CreateEditors().size(), std::size(editors));
 }
 
 TEST_F(OptionsManager, OffersThePagesThatHaveSomethingToShow)
@@ -56,8 +57,9 @@ TEST_F(OptionsManager, OffersThePagesThatHaveSomethingToShow)
     std::string titles;
     for (const KivOptionsSession::Page& page : session->Pages())
         titles += std::string(page.title.View()) + " ";
-    EXPECT_EQ(titles, "General Layout View Generation Geometry Dimension Manipulators Annotation "
-                      "Compatibility Administration ");
+    EXPECT_TRUE(titles.starts_with("General Layout View Generation Geometry Dimension Manipulators "
+                                   "Annotation Compatibility Administration "))
+        << titles;
     const KivOptionsSession::Page& page = session->Pages()[0];
     EXPECT_EQ(page.title, "General");
     EXPECT_NE(page.frame->FindDialog("DrwSet"), nullptr);

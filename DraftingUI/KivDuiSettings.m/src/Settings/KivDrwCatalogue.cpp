@@ -1,5 +1,6 @@
 #include "KivDrwCatalogue.h"
 
+#include <array>
 #include <cstddef>
 
 namespace {
@@ -24,11 +25,14 @@ constexpr KivDrwCatalogueEntry kEntries[] = {
 #undef KIV_ENTRY
 };
 
-constexpr KivDrwGroup kGroups[] = {General,   Layout,       View,       Generation, Geometry,
-                                   Dimension, Manipulators, Annotation, Trel,       Administration};
 constexpr const char* kGroupNames[] = {"General",       "Layout",        "View",         "Generation",
                                        "Geometry",      "Dimension",     "Manipulators", "Annotation",
                                        "Compatibility", "Administration"};
+constexpr auto kGroups = [] {
+    std::array<KivDrwGroup, std::size(kGroupNames)> groups{};
+    for (std::size_t i = 0; i < groups.size(); ++i) groups[i] = static_cast<KivDrwGroup>(i);
+    return groups;
+}();
 
 } // namespace
 
