@@ -17,5 +17,6 @@ struct KivDiagnostic {
     KivUnicodeString Message() const;
 };
 
-// Reports a diagnostic to whoever observes (see KivDiagnosticScope), else on standard error.
+// Reports a diagnostic, in the thread that calls, to whoever observes (see KivDiagnosticScope), else on
+// standard error.
 void KivReport(const KivDiagnostic& diagnostic);

@@ -65,7 +65,7 @@ enum class KivLastLink { Follow, Refuse };
 
 // Reads a regular file of at most so many bytes and lines. One that turns out shorter or longer than it says
 // is read once more; then it is unreadable: no part is taken for the whole. Never waits for the other end of
-// a pipe.
+// a pipe. On any thread, several at once too.
 KivFileContent KivReadFile(const KivUnicodeString& path, KivLastLink last = KivLastLink::Follow);
 
 // "cannot be opened: Permission denied"

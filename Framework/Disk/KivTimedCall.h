@@ -12,7 +12,8 @@
 
 // A call that may not come back, as one on a share that does not answer: it runs on a thread of its own, and
 // who gave it waits as long as he likes. When nobody waits any longer it is left to itself: it holds all that
-// it uses, and the end of the process does not wait for it.
+// it uses, and the end of the process does not wait for it. All of this is for the thread that gives the
+// call; the call itself may share nothing with it that either changes.
 template <class T> class KivTimedCall {
 public:
     explicit KivTimedCall(std::function<T()> call)
