@@ -21,7 +21,6 @@ public:
     // Non-modal for the tree: the directory is entered when the dialog is accepted.
     QFileDialog* OpenChooser();
     // What is wrong with the path that is shown, else empty.
-    const QString& Complaint() const { return _complaint; }
 
 protected:
     void ShowNode() override;

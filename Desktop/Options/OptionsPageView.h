@@ -10,7 +10,6 @@ class OptionsPageView : public QScrollArea {
 public:
     OptionsPageView(KivEditorPage* page, QWidget* parent);
 
-    bool IsBuilt() const { return _built; }
     void Build();
     // What Tab reaches on the page, in reading order.
     QList<QWidget*> Fields() const;

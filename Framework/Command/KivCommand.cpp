@@ -43,26 +43,19 @@ KivCommand::~KivCommand()
     while (_watchers) _watchers->Watch(nullptr);
 }
 
-KivCallback KivCommand::Subscribe(KivCommand* from, KivNotification* notification, Method method, void* data)
+void KivCommand::Subscribe(KivCommand* from, KivNotification* notification, Method method, void* data)
 {
-    if (!from || !notification) return 0;
-    from->_subscriptions.push_back({++from->_lastCallback, notification, this, method, data});
-    return from->_lastCallback;
-}
-
-void KivCommand::RemoveAnalyseNotificationCB(KivCommand* from, KivCallback callback)
-{
-    if (!from) return;
-    std::erase_if(from->_subscriptions, [&](const Subscription& s) { return s.id == callback; });
+    if (!from || !notification) return;
+    from->_subscriptions.push_back({++from->_lastSubscription, notification, this, method, data});
 }
 
 void KivCommand::SendNotification(KivNotification* notification)
 {
     // A subscriber may change the list, or destroy this object: go on by id over the live list.
     const KivWeakPtr<KivCommand> self(this);
-    const KivCallback last = _lastCallback;
+    const unsigned int last = _lastSubscription;
     ++notificationsUnderWay;
-    KivCallback done = 0;
+    unsigned int done = 0;
     while (self) {
         const Subscription* next = nullptr;
         for (const Subscription& s : _subscriptions) {

@@ -8,8 +8,6 @@
 #include <functional>
 #include <vector>
 
-using KivCallback = unsigned int;
-
 // The base of everything that sends and receives notifications. Who subscribes and who is subscribed to may
 // die in any order, also while a notification is under way.
 class KivCommand : public KivClass<KivCommand, KivBaseUnknown> {
@@ -25,14 +23,13 @@ public:
     KivCommand* GetParent() const { return _parent.Get(); }
 
     // From now on a notification of `from` calls a method of this object, as method(from, notification,
-    // data). A null publisher or notification subscribes nothing and answers 0.
-    template <class T>
-    KivCallback AddAnalyseNotificationCB(KivCommand* from, KivNotification* notification,
-                                         void (T::*method)(KivCommand*, KivNotification*, void*), void* data)
+    // data). A null publisher or notification subscribes nothing.
+    template <class T> void AddAnalyseNotificationCB(KivCommand* from, KivNotification* notification,
+                                                     void (T::*method)(KivCommand*, KivNotification*, void*),
+                                                     void* data)
     {
-        return Subscribe(from, notification, static_cast<Method>(method), data);
+        Subscribe(from, notification, static_cast<Method>(method), data);
     }
-    void RemoveAnalyseNotificationCB(KivCommand* from, KivCallback callback);
 
     // Calls every subscriber, in the order of subscription. Nothing is sent by or to what waits for its
     // destruction.
@@ -55,19 +52,19 @@ private:
     friend class KivWeakLink;
 
     struct Subscription {
-        KivCallback id;
+        unsigned int id; // in the order of subscription
         KivNotification* notification;
         KivWeakPtr<KivCommand> subscriber;
         Method method;
         void* data;
     };
-    KivCallback Subscribe(KivCommand* from, KivNotification* notification, Method method, void* data);
+    void Subscribe(KivCommand* from, KivNotification* notification, Method method, void* data);
     bool Deliver(const Subscription& subscription, KivNotification* notification);
 
     KivString _name;
     KivWeakPtr<KivCommand> _parent; // not owned
     KivWeakLink* _watchers = nullptr;
     std::vector<Subscription> _subscriptions; // to this object's notifications
-    KivCallback _lastCallback = 0;
+    unsigned int _lastSubscription = 0;
     bool _condemned = false;
 };

@@ -10,8 +10,6 @@ public:
     KivNotification(const KivNotification&) = delete;
     KivNotification& operator=(const KivNotification&) = delete;
 
-    const KivString& GetNotificationName() const { return _name; }
-
 private:
-    KivString _name;
+    KivString _name; // for who looks at it in a debugger
 };

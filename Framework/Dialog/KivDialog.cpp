@@ -7,8 +7,8 @@
 
 #include <algorithm>
 
-KivDialog::KivDialog(KivDialog* parent, const KivString& name, unsigned long style)
-    : KivClass(parent, name), _style(style), _catalogue(parent ? parent->_catalogue : nullptr)
+KivDialog::KivDialog(KivDialog* parent, const KivString& name, unsigned long)
+    : KivClass(parent, name), _catalogue(parent ? parent->_catalogue : nullptr)
 {
     if (parent) parent->_children.push_back(this);
 }

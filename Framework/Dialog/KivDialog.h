@@ -31,6 +31,8 @@ public:
         unsigned int attachment = KivDlgAttachAllSides;
     };
 
+    // The style is the toolkit's number for the looks of each class; what is seen follows from the class and
+    // its grid, so that it has no effect here, nor in any class derived from this one.
     KivDialog(KivDialog* parent, const KivString& name, unsigned long style);
     ~KivDialog() override;
 
@@ -38,7 +40,6 @@ public:
     const std::vector<KivDialog*>& Children() const { return _children; }
     // The node of that name at or below this one, depth first; null when there is none.
     KivDialog* FindDialog(const KivString& name);
-    unsigned long GetStyle() const { return _style; }
 
     void SetGridConstraints(short row, short column, short rows, short columns, unsigned int attachment);
     const GridConstraints& GetGridConstraints() const { return _grid; }
@@ -63,8 +64,7 @@ public:
     void SetLongHelp(const KivUnicodeString& help) { Set(_longHelp, help); }
     KivUnicodeString GetLongHelp() const { return TextOf(_longHelp, "LongHelp"); }
     // When the control is available, said while the page has it disabled ("Available when … is on").
-    void SetUnavailableHelp(const KivUnicodeString& help) { Set(_unavailableHelp, help); }
-    KivUnicodeString GetUnavailableHelp() const { return TextOf(_unavailableHelp, "Unavailable"); }
+    KivUnicodeString GetUnavailableHelp() const { return CatalogueText("Unavailable"); }
 
     // Names of icons: normal, focused, pressed, disabled; the last three may be empty, and so may all.
     void SetIconName(const KivString& normal, const KivString& focused, const KivString& pressed,
@@ -133,11 +133,10 @@ private:
     void TellPadlock();
     bool IsKeptLocked() const;
 
-    unsigned long _style;
     GridConstraints _grid;
     std::vector<KivDialog*> _children;
     const KivTextCatalogue* _catalogue; // not owned
-    Text _title, _help, _shortHelp, _longHelp, _unavailableHelp;
+    Text _title, _help, _shortHelp, _longHelp;
     KivString _icon;
     unsigned long _sensitivity = KivDlgEnabled;
     unsigned long _visibility = KivDlgShown;

@@ -20,9 +20,9 @@ public:
     explicit KivSettingTransaction(KivSettingRepository& repository) : _repository(repository) {}
 
     // Puts a change down; of several for one key the last one counts. Nothing changes before Save.
+    // No value drops the one that is there, so that the one of the layers outside shows, else the reader's
+    // default.
     void Set(const KivString& key, KivSettingValue value);
-    // Drops the value, so that the one of the layers outside shows, else the reader's default.
-    void Unset(const KivString& key) { Set(key, {}); }
 
     // Makes the changes and saves them. Refusals do not keep the others from being stored; Refused means that
     // the file could not be written: the changes are then in the working state, and the next save writes

@@ -19,6 +19,7 @@ protected:
     }
     QString Path(const char* below) const { return root.path() + below; }
     void Show(const QString& path) { node->SetText(path.toUtf8().constData(), 0); }
+    bool IsMarked() const { return field->accessibleDescription().contains("no such directory"); }
     NativeDirectoryButton* Button() const { return window->findChild<NativeDirectoryButton*>(); }
 
     QTemporaryDir root;
@@ -44,7 +45,7 @@ TEST_F(NativeDirectories, AMissingOneIsKeptAndMarkedAndFollowsTheDisk)
         field->setModified(true);
         QTest::keyClick(field, Qt::Key_Tab);
         EXPECT_EQ(QString::fromUtf8(node->GetText().ConvertToChar()), field->text()) << "never refused";
-        EXPECT_EQ(!field->Complaint().isEmpty(), missing) << path.toStdString();
+        EXPECT_EQ(IsMarked(), missing) << path.toStdString();
     }
 
     const int wide = field->sizeHint().width();
@@ -56,13 +57,12 @@ TEST_F(NativeDirectories, AMissingOneIsKeptAndMarkedAndFollowsTheDisk)
     QDir().mkdir(Path("/later"));
     QEvent activated(QEvent::WindowActivate);
     QApplication::sendEvent(window.get(), &activated);
-    EXPECT_EQ(field->Complaint(), "");
-    EXPECT_NE(field->accessibleDescription(), "There is no such directory: " + Path("/later"));
+    EXPECT_FALSE(IsMarked());
     QDir().rmdir(Path("/later"));
     QApplication::sendEvent(window.get(), &activated);
-    EXPECT_NE(field->Complaint(), "");
+    EXPECT_TRUE(IsMarked());
     node->SetSensitivity(KivDlgDisabled);
-    EXPECT_NE(field->accessibleDescription(), field->Complaint()) << "why it is gray comes first";
+    EXPECT_FALSE(IsMarked()) << "why it is gray comes first";
     EXPECT_FALSE(Button()->isEnabled());
     EXPECT_EQ(Button()->toolTip(), field->toolTip());
     EXPECT_EQ(Button()->accessibleDescription(), field->accessibleDescription());
@@ -97,7 +97,7 @@ TEST_F(NativeDirectories, TheChooserBeginsWhereTheTextLeadsAndEntersWhatIsChosen
     EXPECT_EQ(field->text(), Path("/chosen"));
     EXPECT_EQ(node->GetText(), Path("/chosen").toUtf8().constData());
     EXPECT_EQ(typed.heard, 1);
-    EXPECT_EQ(field->Complaint(), "");
+    EXPECT_FALSE(IsMarked());
     second->close();
     // A tree that goes while its directory is being chosen takes the field along.
     QFileDialog* const third = field->OpenChooser();

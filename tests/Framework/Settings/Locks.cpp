@@ -130,8 +130,8 @@ TEST_F(Locks, ABatchStoresWhatItMayAndNamesTheRest)
     batch.Set("not a key", 1);
     batch.Set("Angle", std::numeric_limits<double>::infinity());
     batch.Set("Grid", 2);
-    batch.Unset("Old");
-    batch.Unset("DimOld");
+    batch.Set("Old", {});
+    batch.Set("DimOld", {});
     EXPECT_EQ(box.Bytes(box.File("user")), "int Old = 1\n");
     EXPECT_EQ(batch.Save(), KivSettingRepository::Receipt::Durable);
     EXPECT_EQ(box.Saved(box.File("user")), "int Grid = 2\n");
