@@ -1,5 +1,6 @@
 #include "Disk/KivDirectory.h"
 
+#include "Disk/KivNearPath.h"
 #include "Disk/KivTimedCall.h"
 
 #include <dirent.h>
@@ -61,6 +62,8 @@ std::map<KivUnicodeString, Place>& Places()
 
 std::optional<KivDirectoryLook> Ask(const KivUnicodeString& path, bool withNames, Clock::duration patience)
 {
+    const bool isOurs = Looker().target<KivDirectoryLook (*)(const KivUnicodeString&, bool)>() != nullptr;
+    if (isOurs && !Places().contains(path) && KivIsNearPath(path)) return LookAt(path, withNames);
     Place& place = Places()[path];
     place.Absorb();
     const bool isHanging = place.call.has_value();

@@ -106,7 +106,7 @@ TEST_F(FirstStart, NeverWinsOverWhatAnotherProgramStored)
     bool isBetween = true;
     KivDrwRepository()->AddListener([&](const auto& keys) {
         if (!std::exchange(isBetween, false)) return;
-        EXPECT_EQ(keys.size(), KivDrwCatalogue::Rows().size()) << "the commit";
+        EXPECT_EQ(keys.size(), KivDrwCatalogue::Entries().size()) << "the commit";
         box.Write(file, mine + theirs);
     });
     KivDrwOptionsServices::InitOptionsOnDisk();

@@ -12,7 +12,7 @@ KivDrwButtonDialog::KivDrwButtonDialog(KivDialog* parent, const KivString& name,
 void KivDrwButtonDialog::Open()
 {
     // The controls have just taken their locks.
-    for (KivBoundValue* value : _values) value->Load();
+    for (KivProperty* property : _properties) property->Load();
     ShowValues();
     SetVisibility(KivDlgShown);
 }
