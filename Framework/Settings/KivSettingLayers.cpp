@@ -48,7 +48,7 @@ KivUnicodeString KivSettingLayers::Cache(bool isEnforced)
 {
     if (isEnforced && SystemFile() == kSystemFile) {
         if (geteuid() == 0) return "/var/cache/kiv";
-        static const KivUnicodeString home = KivAccountHome();
+        static const auto& home = *new KivUnicodeString(KivAccountHome());
         return home.IsEmpty() ? home : KivUnicodeString(home).Append("/.cache/kiv");
     }
     return BaseDirectory("XDG_CACHE_HOME", "/.cache/kiv");

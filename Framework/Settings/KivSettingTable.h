@@ -12,7 +12,7 @@
 
 // One key with all that is known of it, resolved.
 struct KivSettingAttribute {
-    inline static const KivSettingValue NoValue{};
+    inline static const KivSettingValue& NoValue = *new KivSettingValue; // asked until the very end
 
     std::string_view key; // the table keeps its characters
 

@@ -239,7 +239,7 @@ TEST_F(ViewPage, AQualityFixesTheResolutionUnlessItIsTheUsersOwn)
 TEST_F(ViewPage, FieldAndCursorShowTheSameLevel)
 {
     box.NameLayers({"site"});
-    box.Write(box.File("site"), "");
+    box.Write(box.File("site"), "# kivsettings 1\n");
     OpenOn("int DrwGenerationModeVal = 3\n");
     EXPECT_TRUE(Press("pushRasterOptions"));
     auto& graph = Node<Kiv2DViewer>("viewerHRVLOD");
