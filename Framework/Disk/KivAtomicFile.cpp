@@ -72,6 +72,7 @@ bool KivAtomicFile::TakeOver(mode_t permissions)
 {
     struct stat old {};
     if (fstatat(_place.Directory(), _place.Name().ConvertToChar(), &old, 0) != 0) {
+        if (errno != ENOENT) return false; // it may well be there, and have others
         return permissions == 0600 || fchmod(_handle.Get(), permissions) == 0;
     }
     // A program run with other rights must not take the file away from its owner. Where that is not allowed

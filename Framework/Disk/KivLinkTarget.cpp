@@ -35,7 +35,11 @@ KivLinkTarget KivFollowLinks(const KivUnicodeString& path, KivLinkTrust trust)
             return target;
         }
         struct stat status {};
-        if (fstat(handle.Get(), &status) != 0 || !S_ISLNK(status.st_mode)) return target;
+        if (fstat(handle.Get(), &status) != 0) {
+            target.trouble = KivErrorWords("the file cannot be examined", errno);
+            return target;
+        }
+        if (!S_ISLNK(status.st_mode)) return target;
         if (trust == KivLinkTrust::CallerAndRoot && status.st_uid != 0 && status.st_uid != geteuid()) {
             target.trouble = KivUnicodeString("a link of the user ") + KivAccountName(status.st_uid) +
                              " stands in place of the file; only root's and your own are followed";
@@ -43,7 +47,10 @@ KivLinkTarget KivFollowLinks(const KivUnicodeString& path, KivLinkTrust trust)
         }
         char text[PATH_MAX];
         const ssize_t length = readlinkat(handle.Get(), "", text, sizeof text);
-        if (length <= 0) return target;
+        if (length <= 0) {
+            target.trouble = KivErrorWords("the link cannot be read", errno);
+            return target;
+        }
         const std::string_view next(text, static_cast<std::size_t>(length));
         target.path = next[0] == '/' ? KivUnicodeString(next)
                                      : KivUnicodeString(KivDirectoryOf(target.path.View())).Append(next);

@@ -14,9 +14,10 @@ struct KivSettingEntry {
     bool IsEmpty() const { return !lock && !KivHasValue(value); }
 
     // The same statement, wherever it stands.
-    bool Equals(const KivSettingEntry& other) const
+    bool Equals(const KivSettingEntry& other) const { return lock == other.lock && HasValueOf(other); }
+    bool HasValueOf(const KivSettingEntry& other) const
     {
-        return initial == other.initial && lock == other.lock && KivSameValue(value, other.value);
+        return initial == other.initial && KivSameValue(value, other.value);
     }
 };
 

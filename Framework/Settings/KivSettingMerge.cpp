@@ -22,7 +22,16 @@ KivSettingMerge::KivSettingMerge(const KivSettingTable& table, const KivSettingJ
     }
     for (const auto& [index, before] : unsavedNow) {
         const KivSettingEntry& working = table[index].own;
-        const bool isDirty = !working.Equals(before) && !working.Equals(entries[index]);
-        if (isDirty && !yields(index, working)) entries[index] = working;
+        if (working.Equals(before) || yields(index, working)) continue;
+        // Who changed the value has said nothing of the lock, and the other way round.
+        KivSettingEntry& entry = entries[index];
+        if (working.lock != before.lock && working.lock != entry.lock) {
+            entry.lock = working.lock;
+            entry.lockLine = working.lockLine;
+        }
+        if (before.HasValueOf(working) || entry.HasValueOf(working)) continue;
+        entry.value = working.value;
+        entry.initial = working.initial;
+        entry.line = working.line;
     }
 }

@@ -152,9 +152,9 @@ std::shared_ptr<KivFileLock> KivSettingOwnFile::AskTurn(KivUnicodeString& troubl
         trouble = "there is no home directory, and KivUserSettingsPath names none";
         return nullptr;
     }
-    const KivUnicodeString target = Target().path; // what is against it is a trouble of the directory, too
-    const KivUnicodeString directory(KivDirectoryOf(target.View()));
-    trouble = KivMakingTrouble(directory);
+    const KivLinkTarget target = Target();
+    const KivUnicodeString directory(KivDirectoryOf(target.path.View()));
+    trouble = target.trouble.IsEmpty() ? KivMakingTrouble(directory) : target.trouble;
     if (!trouble.IsEmpty()) return nullptr;
     if (const int error = KivMakeDirectories(directory, _isAdministrators ? 0755 : 0700)) {
         trouble = KivErrorWords("the directory cannot be made", error);
@@ -162,7 +162,7 @@ std::shared_ptr<KivFileLock> KivSettingOwnFile::AskTurn(KivUnicodeString& troubl
     }
     trouble = DirectoryTrouble();
     if (!trouble.IsEmpty()) return nullptr;
-    auto turn = std::make_shared<KivFileLock>(target);
+    auto turn = std::make_shared<KivFileLock>(target.path);
     _turn = turn;
     return turn;
 }
@@ -190,6 +190,10 @@ KivSettingOwnFile::Receipt KivSettingOwnFile::Save(const Merge& merge)
     return UnderLock([&](const KivFileLock& lock) {
         if (_isAdministrators && _file.SealState() == KivSettingSeal::State::Broken) {
             Refuse(KivSettingSeal::BrokenInLayer(_path));
+            return Receipt::Refused;
+        }
+        if (_isAdministrators && _content.state == KivFileContent::State::Read && _file.Text().empty()) {
+            Refuse("the file is empty, as if it had been cut off; remove it to begin the layer anew");
             return Receipt::Refused;
         }
         const Changes changes = merge();
