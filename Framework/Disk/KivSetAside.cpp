@@ -5,8 +5,10 @@
 #include "Disk/KivHiddenName.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
-#include <filesystem>
+#include <dirent.h>
+#include <memory>
 #include <vector>
 
 namespace {
@@ -21,20 +23,23 @@ std::string EndingOf(unsigned number)
 // The numbers of the copies, oldest first. 0, or the error.
 int FindCopies(const KivFilePlace& file, std::vector<unsigned>& numbers)
 {
-    const std::string_view directory = KivDirectoryOf(file.Path().View());
+    const KivUnicodeString directory(KivDirectoryOf(file.Path().View()));
     const std::string prefix = std::string(file.Name().View()) + ".damaged-";
-    std::error_code failed;
-    for (std::filesystem::directory_iterator at(directory.empty() ? "." : directory, failed), end;
-         !failed && at != end; at.increment(failed)) {
-        const std::string name = at->path().filename().string();
+    const std::unique_ptr<DIR, int (*)(DIR*)> stream(
+        opendir(directory.IsEmpty() ? "." : directory.ConvertToChar()), &closedir);
+    if (!stream) return errno;
+    errno = 0;
+    while (const dirent* const entry = readdir(stream.get())) {
+        const std::string_view name = entry->d_name;
         if (!name.starts_with(prefix)) continue;
         unsigned number = 0;
         const char* const last = name.data() + name.size();
         const auto read = std::from_chars(name.data() + prefix.size(), last, number);
         if (read.ec == std::errc{} && read.ptr == last) numbers.push_back(number);
     }
+    const int error = errno;
     std::sort(numbers.begin(), numbers.end());
-    return failed.value();
+    return error;
 }
 
 } // namespace
