@@ -1,5 +1,4 @@
 #include "Disk/KivFileLock.h"
-#include "FaultyDisk.h"
 #include "Settings/KivSettingRepository.h"
 #include "Support/KivSettingsSandbox.h"
 
@@ -11,8 +10,8 @@
 #include <cstdint>
 #include <limits>
 #include <locale>
+#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 
@@ -208,65 +207,6 @@ TEST_F(Saving, CommitRollbackAndSaveTellWhatShowsAnotherValue)
     EXPECT_EQ(box.Read(repository, "A", 0), 8);
 }
 
-TEST_F(Saving, TwoProcessesLoseNothingOfEachOther)
-{
-    constexpr int saves = 200;
-    pid_t children[2];
-    for (int who = 0; who < 2; ++who) {
-        if ((children[who] = fork()) != 0) continue;
-        KivSettingRepository& repository = box.Reopen();
-        bool well = true;
-        for (int i = 0; i < saves; ++i) {
-            Put(repository, (who ? "Odd" : "Even") + std::to_string(i), i);
-            Put(repository, who ? "OddCount" : "EvenCount", i);
-            well = well && repository.SaveRepository(nullptr) == S_OK;
-        }
-        _exit(well ? 0 : 1);
-    }
-    for (const pid_t child : children) {
-        int status = -1;
-        waitpid(child, &status, 0);
-        EXPECT_EQ(status, 0);
-    }
-    KivSettingRepository& repository = box.Reopen();
-    for (int i = 0; i < saves; ++i) {
-        EXPECT_EQ(box.Read(repository, ("Odd" + std::to_string(i)).c_str(), -1), i);
-        EXPECT_EQ(box.Read(repository, ("Even" + std::to_string(i)).c_str(), -1), i);
-    }
-    EXPECT_EQ(box.Read(repository, "OddCount", -1), saves - 1);
-    EXPECT_EQ(box.Read(repository, "EvenCount", -1), saves - 1);
-    EXPECT_TRUE(box.diagnostics.empty());
-    EXPECT_EQ(box.Names("user").size(), 1U);
-}
-
-TEST_F(Saving, AProcessThatIsKilledLeavesOldOrNew)
-{
-    box.Write(file, "# kivsettings 1\nint A = 0\nint B = 0\n");
-    for (int round = 0; round < 30; ++round) {
-        const pid_t child = fork();
-        if (child == 0) {
-            KivSettingRepository& repository = box.Reopen();
-            for (int i = 0;; ++i) {
-                Put(repository, "A", i);
-                Put(repository, "B", i);
-                repository.SaveRepository(nullptr);
-            }
-        }
-        std::this_thread::sleep_for(std::chrono::microseconds(2000 + 377 * round));
-        kill(child, SIGKILL);
-        waitpid(child, nullptr, 0);
-        KivSettingRepository& repository = box.Reopen();
-        ASSERT_EQ(box.Read(repository, "A", -1), box.Read(repository, "B", -2));
-        ASSERT_TRUE(box.diagnostics.empty());
-    }
-    // What the last one may have left is cleaned; nobody waits for it.
-    box.Write(box.root / "user/.DraftingOptions.kivsettings.tmp", "half");
-    KivSettingRepository& repository = box.Reopen();
-    Put(repository, "A", -1);
-    EXPECT_EQ(Save(repository), Receipt::Durable);
-    EXPECT_EQ(box.Names("user").size(), 1U);
-}
-
 TEST_F(Saving, LinksAreFollowedForTheFileAndNeverForTheTemporary)
 {
     box.Write(box.root / "store/real", "int A = 1\n");
@@ -289,6 +229,25 @@ TEST_F(Saving, LinksAreFollowedForTheFileAndNeverForTheTemporary)
     EXPECT_EQ(status.st_uid, owner);
 }
 
+// No file of this process may grow.
+class FullDisk {
+public:
+    FullDisk() { Allow(0); }
+    ~FullDisk() { Allow(RLIM_INFINITY); }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    static void Allow(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit limit{};
+        getrlimit(RLIMIT_FSIZE, &limit);
+        limit.rlim_cur = std::min(bytes, limit.rlim_max);
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+};
+
 TEST_F(Saving, ARefusedSaveKeepsEverythingForTheNextOne)
 {
     box.Write(file, "int A = 1\n");
@@ -301,9 +260,10 @@ TEST_F(Saving, ARefusedSaveKeepsEverythingForTheNextOne)
 
     // The disk is full; what another program stored before that is taken all the same.
     box.Write(file, "int A = 1\nint B = 1\n");
-    FaultyDisk::fault = FaultyDisk::Fault::Write;
-    EXPECT_EQ(Save(repository), Receipt::Refused);
-    FaultyDisk::fault = FaultyDisk::Fault::None;
+    {
+        const FullDisk full;
+        EXPECT_EQ(Save(repository), Receipt::Refused);
+    }
     EXPECT_EQ(box.Said("the settings were not saved: the file cannot be written"), 1);
     EXPECT_EQ(box.Names("user").size(), 1U);
     EXPECT_EQ(box.Bytes(file), "int A = 1\nint B = 1\n");
