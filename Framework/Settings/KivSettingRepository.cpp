@@ -9,17 +9,14 @@
 #include "Settings/KivSettingRegistry.h"
 #include "Settings/KivSettingStore.h"
 
-#include <algorithm>
 #include <cstdio>
 
 namespace {
 
 bool IsName(std::string_view name)
 {
-    return !name.empty() && name.size() <= 100 && std::all_of(name.begin(), name.end(), [](char c) {
-        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
-               c == '-';
-    });
+    constexpr std::string_view allowed = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-";
+    return !name.empty() && name.size() <= 100 && name.find_first_not_of(allowed) == std::string_view::npos;
 }
 
 } // namespace
@@ -231,8 +228,8 @@ HRESULT KivSettingRepository::GetProvenance(const char* key, KivSettingProvenanc
         const KivSettingAttribute* attribute = Store().FindOrLocked(key);
         if (!attribute) return E_FAIL;
         Store().Sources().Fill(provenance, *attribute);
-        const bool isKnown = provenance.origin != KivSettingInfo::Origin::None || provenance.lockLayer;
-        return isKnown ? S_OK : E_FAIL;
+        const bool hasValue = provenance.origin != KivSettingInfo::Origin::None;
+        return hasValue || provenance.lockLayer ? S_OK : E_FAIL;
     };
     return KivGuarded(fill, E_FAIL);
 }
