@@ -16,3 +16,8 @@ QString WindowText(const char* key)
 {
     return ToQt(KivTextCatalogue::Open("KivDesktop").Text(key));
 }
+
+QString DraftingText(const char* key)
+{
+    return ToQt(KivTextCatalogue::Open("KivDrafting").Text(key));
+}

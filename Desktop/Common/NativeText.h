@@ -8,5 +8,7 @@
 QString ToQt(const KivUnicodeString& text);
 KivUnicodeString FromQt(const QString& text);
 
-// A text of the window itself, in the user's language; the key when it is missing.
+// A text of the options window itself, in the user's language; the key when it is missing.
 QString WindowText(const char* key);
+// The same of the drafting window.
+QString DraftingText(const char* key);

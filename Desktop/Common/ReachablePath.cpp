@@ -3,6 +3,8 @@
 #include "Common/NativeText.h"
 #include "Disk/KivTimedReading.h"
 
+#include <QDir>
+
 #include <algorithm>
 #include <unistd.h>
 
@@ -19,4 +21,13 @@ QString ReachablePath(const KivUnicodeString& path)
     };
     const KivFileContent found = std::move(KivReadInTime({path}, std::chrono::milliseconds(200), look)[0]);
     return found.state == KivFileContent::State::Read ? ToQt(KivUnicodeString(found.text)) : QString();
+}
+
+QString DirectoryStart(const QString& typed)
+{
+    const QString wanted = QDir::cleanPath(QDir::current().absoluteFilePath(typed));
+    const QString reached = typed.isEmpty() ? QString() : ReachablePath(FromQt(wanted));
+    if (reached.isEmpty()) return QDir::homePath();
+    const QFileInfo found(reached);
+    return found.isDir() ? QDir::cleanPath(reached) : found.absolutePath();
 }

@@ -3,8 +3,8 @@
 #include "Common/NativeText.h"
 #include "Dialog/KivUserHand.h"
 #include "Native/NativeBuilder.h"
-#include "Native/NativeField.h"
 #include "Native/NativePanel.h"
+#include "Native/NativePiece.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>

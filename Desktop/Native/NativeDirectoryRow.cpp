@@ -1,9 +1,51 @@
 #include "Native/NativeDirectoryRow.h"
 
-#include "Native/NativeDirectoryButton.h"
+#include "Common/NativeText.h"
 #include "Native/NativeEditor.h"
 
 #include <QBoxLayout>
+#include <QEvent>
+#include <QTextDocumentFragment>
+
+NativeDirectoryButton::NativeDirectoryButton(QWidget& field, QWidget* parent)
+    : QToolButton(parent), _field(field)
+{
+    setText(QStringLiteral("…"));
+    setAccessibleName(WindowText("ChooseDirectory"));
+    // A click keeps the focus in the field: what is typed there is where the search begins.
+    setFocusPolicy(Qt::TabFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred); // as high as its field
+    field.installEventFilter(this);
+    Follow();
+}
+
+bool NativeDirectoryButton::eventFilter(QObject* field, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::ShowToParent:
+    case QEvent::HideToParent:
+    case QEvent::EnabledChange:
+    case QEvent::ToolTipChange:
+        Follow();
+        break;
+    default:
+        break;
+    }
+    return QToolButton::eventFilter(field, event);
+}
+
+void NativeDirectoryButton::Follow()
+{
+    QSizePolicy policy = sizePolicy();
+    policy.setRetainSizeWhenHidden(_field.sizePolicy().retainSizeWhenHidden());
+    setSizePolicy(policy);
+    setVisible(!_field.isHidden());
+    setEnabled(_field.isEnabled());
+    // A gray one has the reason of its field.
+    setToolTip(isEnabled() ? accessibleName() : _field.toolTip());
+    setAccessibleDescription(isEnabled() ? QString()
+                                         : QTextDocumentFragment::fromHtml(_field.toolTip()).toPlainText());
+}
 
 NativeDirectoryRow::NativeDirectoryRow(KivDialog& node, QWidget* parent)
     : QWidget(parent), _field(new NativeEditor(node, this))

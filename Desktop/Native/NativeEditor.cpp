@@ -1,7 +1,7 @@
 #include "Native/NativeEditor.h"
 
-#include "Common/DirectoryStart.h"
 #include "Common/NativeText.h"
+#include "Common/ReachablePath.h"
 #include "Dialog/KivUserHand.h"
 #include "Native/NativeDescription.h"
 

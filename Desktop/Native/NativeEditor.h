@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Dialog/KivDlgEditor.h"
-#include "Native/NativeField.h"
 #include "Native/NativePiece.h"
 
 #include <QLineEdit>

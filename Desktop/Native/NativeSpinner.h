@@ -2,7 +2,6 @@
 
 #include "Dialog/KivDlgSpinner.h"
 #include "Native/NativeBubble.h"
-#include "Native/NativeField.h"
 #include "Native/NativePiece.h"
 
 #include <QAbstractSpinBox>

@@ -1,7 +1,7 @@
 #include "Options/OptionsPageView.h"
 
 #include "Native/NativeBuilder.h"
-#include "Native/NativeDirectoryButton.h"
+#include "Native/NativeDirectoryRow.h"
 #include "Native/NativePiece.h"
 
 OptionsPageView::OptionsPageView(KivEditorPage* page, QWidget* parent) : QScrollArea(parent), _page(page)

@@ -1,7 +1,7 @@
 #include "Options/OptionsSubWindows.h"
 
 #include "Native/NativeDialog.h"
-#include "Native/NativeField.h"
+#include "Native/NativePiece.h"
 
 #include <algorithm>
 

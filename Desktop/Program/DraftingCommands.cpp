@@ -1,7 +1,7 @@
 #include "Program/DraftingCommands.h"
 
 #include "Command/KivCommandHeader.h"
-#include "Common/DraftingText.h"
+#include "Common/NativeText.h"
 #include "KivDrwCommandAvailability.h"
 #include "KivDrwSettingController.h"
 #include "KivIDrwDraftingSettingAtt.h"

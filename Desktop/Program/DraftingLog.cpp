@@ -1,6 +1,5 @@
 #include "Program/DraftingLog.h"
 
-#include "Common/DraftingText.h"
 #include "Common/NativeText.h"
 #include "Program/DraftingDiagnostics.h"
 

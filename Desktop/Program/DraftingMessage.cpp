@@ -1,6 +1,5 @@
 #include "Program/DraftingMessage.h"
 
-#include "Common/DraftingText.h"
 #include "Common/NativeText.h"
 #include "Program/DraftingDiagnostics.h"
 

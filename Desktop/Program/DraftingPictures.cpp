@@ -1,6 +1,5 @@
 #include "Program/DraftingPictures.h"
 
-#include "Common/DraftingText.h"
 #include "Common/NativeText.h"
 #include "Dialog/KivDlgCheckButton.h"
 #include "Dialog/KivDlgCombo.h"

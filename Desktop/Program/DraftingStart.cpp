@@ -1,7 +1,7 @@
 #include "Program/DraftingStart.h"
 
 #include "Base/KivTextCatalogue.h"
-#include "Common/DraftingText.h"
+#include "Common/NativeText.h"
 #include "Component/KivLibrary.h"
 #include "KivDrwOptionsServices.h"
 #include "KivDrwSketcherSettings.h"

@@ -1,6 +1,6 @@
 #include "Program/DraftingTree.h"
 
-#include "Common/DraftingText.h"
+#include "Common/NativeText.h"
 #include "Parameter/KivParmEngine.h"
 #include "Sheet/SheetPart.h"
 #include "Sheet/SheetSettings.h"

@@ -1,6 +1,6 @@
 #include "Program/DraftingWelcome.h"
 
-#include "Common/DraftingText.h"
+#include "Common/NativeText.h"
 #include "Sheet/SheetUnit.h"
 #include "Sheet/SheetView.h"
 

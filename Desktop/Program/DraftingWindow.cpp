@@ -1,6 +1,6 @@
 #include "Program/DraftingWindow.h"
 
-#include "Common/DraftingText.h"
+#include "Common/NativeText.h"
 #include "Common/SettingsWatch.h"
 #include "Options/OptionsWindow.h"
 #include "Program/DraftingCommands.h"

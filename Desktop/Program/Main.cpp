@@ -1,4 +1,3 @@
-#include "Common/DraftingText.h"
 #include "Common/NativeText.h"
 #include "Common/SettingsWatch.h"
 #include "KivDrwDraftingSettings.h"

@@ -1,6 +1,6 @@
 #include "Sheet/SheetPicture.h"
 
-#include "Common/DraftingText.h"
+#include "Common/NativeText.h"
 #include "Sheet/SheetGrid.h"
 #include "Sheet/SheetPart.h"
 #include "Sheet/SheetSketchPicture.h"

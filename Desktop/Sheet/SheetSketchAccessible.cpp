@@ -1,6 +1,6 @@
 #include "Sheet/SheetSketchAccessible.h"
 
-#include "Common/DraftingText.h"
+#include "Common/NativeText.h"
 #include "Sheet/SheetView.h"
 
 #include <QWindow>

@@ -1,6 +1,6 @@
 #include "Sheet/SheetSketchPicture.h"
 
-#include "Common/DraftingText.h"
+#include "Common/NativeText.h"
 #include "Sheet/SheetSketch.h"
 #include "Sheet/SheetText.h"
 #include "Sheet/SheetUnit.h"

@@ -1,6 +1,6 @@
 #include "Sheet/SheetView.h"
 
-#include "Common/DraftingText.h"
+#include "Common/NativeText.h"
 #include "Parameter/KivParmEngine.h"
 #include "Sheet/SheetGrid.h"
 #include "Sheet/SheetPicture.h"

@@ -1,4 +1,4 @@
-#include "Native/NativeDirectoryButton.h"
+#include "Native/NativeDirectoryRow.h"
 #include "Native/NativeEditor.h"
 #include "OptionsFixture.h"
 

@@ -1,4 +1,4 @@
-#include "Native/NativeGroup.h"
+#include "Native/NativeFrames.h"
 
 #include "Common/IconView.h"
 #include "Common/NativeText.h"
@@ -43,4 +43,15 @@ void NativeGroup::initStyleOption(QStyleOptionGroupBox* option) const
     // Natively it stays enabled, for the padlocks in it.
     if (TreeNode() && !TreeNode()->IsEnabled())
         option->textColor = palette().color(QPalette::Disabled, QPalette::WindowText);
+}
+
+NativeMergedFrame::NativeMergedFrame(KivDialog& node, QObject* owner)
+    : QObject(owner), NativePiece(node, nullptr)
+{}
+
+void NativeMergedFrame::ShowNode()
+{
+    for (const KivDialog* child : Node()->Children()) {
+        if (NativePiece* piece = NativePiece::Of(child)) piece->Refresh();
+    }
 }

@@ -1,8 +1,9 @@
-#include "Native/NativeRadioButton.h"
+#include "Native/NativeButtons.h"
 
 #include "Common/IconStore.h"
 #include "Common/NativeText.h"
 #include "Dialog/KivUserHand.h"
+#include "Native/NativePadlock.h"
 
 #include <QKeyEvent>
 
@@ -16,6 +17,33 @@ bool IsUsable(const KivDlgRadioButton* button)
 }
 
 } // namespace
+
+NativeCheckButton::NativeCheckButton(KivDialog& node, QWidget* parent)
+    : QCheckBox(parent), NativePieceFor(node, this)
+{}
+
+void NativeCheckButton::ShowNode()
+{
+    const KivDlgCheckButton& button = *TreeNode();
+    setText(ToQt(button.GetTitle()));
+    setChecked(button.GetState() == KivDlgChecked);
+    // One that only reserves the cell of a padlock has the padlock's size and nothing to draw.
+    const bool isReserved = button.GetVisibility() == KivDlgReserved;
+    if (!isReserved) setIcon(IconStore::Shared().Icon(button.GetIconName()));
+    updateGeometry();
+}
+
+void NativeCheckButton::nextCheckState()
+{
+    if (TreeNode()) KivUserHand::Tick(*TreeNode());
+}
+
+QSize NativeCheckButton::sizeHint() const
+{
+    const bool isReserved = TreeNode() && TreeNode()->GetVisibility() == KivDlgReserved;
+    return isReserved && !TreeNode()->GetIconName().IsEmpty() ? NativePadlock::PadlockSize(*this)
+                                                              : QCheckBox::sizeHint();
+}
 
 NativeRadioButton::NativeRadioButton(KivDialog& node, QWidget* parent)
     : QRadioButton(parent), NativePieceFor(node, this)
@@ -79,4 +107,28 @@ void NativeRadioButton::ChooseNeighbor(bool next)
     KivDlgRadioButton* chosen = *std::find_if(choices.begin(), choices.end() - 1, &IsUsable);
     if (const NativePiece* piece = Of(chosen)) piece->Widget()->setFocus(Qt::TabFocusReason);
     KivUserHand::Choose(*chosen);
+}
+
+NativePushButton::NativePushButton(KivDialog& node, QWidget* parent)
+    : QPushButton(parent), NativePieceFor(node, this)
+{
+    setAutoDefault(false);
+    connect(this, &QPushButton::clicked, this, [this] {
+        if (TreeNode()) KivUserHand::Press(*TreeNode());
+    });
+}
+
+void NativePushButton::ShowNode()
+{
+    setText(ToQt(TreeNode()->GetTitle()));
+    setIcon(IconStore::Shared().Icon(TreeNode()->GetIconName()));
+}
+
+void NativePushButton::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        click();
+    } else {
+        QPushButton::keyPressEvent(event);
+    }
 }
