@@ -53,9 +53,6 @@ constexpr Example kExamples[] = {
 
 constexpr Command kCheckCommand{
     .name = "check",
-    .arguments = "",
-    .fewest = 0,
-    .most = 0,
     .summary = "examine every line of every layer",
     .description =
         "Reads the files of all layers, outermost first, then the user's, and prints each line that\n"
@@ -65,6 +62,5 @@ constexpr Command kCheckCommand{
         "when a file cannot be read.",
     .options = kOptions,
     .examples = kExamples,
-    .needsLayer = false,
     .run = &Run,
 };

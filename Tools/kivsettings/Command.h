@@ -22,14 +22,14 @@ struct Example {
 // One command of the program: everything that parsing, help and the run need to know of it.
 struct Command {
     const char* name;
-    const char* arguments; // as help shows them, "" for none
-    int fewest;            // arguments, and at most this many
-    int most;
+    const char* arguments = ""; // as help shows them
+    int fewest = 0;             // arguments, and at most this many
+    int most = 0;
     const char* summary; // one line
     const char* description;
-    std::span<const Option> options;
+    std::span<const Option> options = {};
     std::span<const Example> examples;
-    bool needsLayer; // works on an administrator's layer alone
+    bool needsLayer = false; // works on an administrator's layer alone
     ExitCode (*run)(const Arguments&, Console&);
 };
 

@@ -74,7 +74,6 @@ constexpr Example kExamples[] = {
 constexpr Command kDiffCommand{
     .name = "diff",
     .arguments = "[FILE FILE]",
-    .fewest = 0,
     .most = 2,
     .summary = "compare own values with the administrator's, or two files",
     .description =
@@ -84,6 +83,5 @@ constexpr Command kDiffCommand{
         "code is 1 when something differs.",
     .options = kOptions,
     .examples = kExamples,
-    .needsLayer = false,
     .run = &Run,
 };

@@ -37,7 +37,6 @@ constexpr Example kExamples[] = {
 constexpr Command kExportCommand{
     .name = "export",
     .arguments = "[PATTERN...]",
-    .fewest = 0,
     .most = kAnyNumber,
     .summary = "print settings that differ from the defaults as a settings file",
     .description =
@@ -45,6 +44,5 @@ constexpr Command kExportCommand{
         "Patterns select keys.",
     .options = kOptions,
     .examples = kExamples,
-    .needsLayer = false,
     .run = &Run,
 };

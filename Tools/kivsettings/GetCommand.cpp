@@ -54,6 +54,5 @@ constexpr Command kGetCommand{
         "bare unless it holds control characters; then it is quoted as in a settings file.",
     .options = kOptions,
     .examples = kExamples,
-    .needsLayer = false,
     .run = &Run,
 };

@@ -31,12 +31,9 @@ constexpr Example kExamples[] = {
 constexpr Command kHelpCommand{
     .name = "help",
     .arguments = "[COMMAND]",
-    .fewest = 0,
     .most = 1,
     .summary = "explain the program or one command",
     .description = "Lists the commands, or explains one of them with examples.",
-    .options = {},
     .examples = kExamples,
-    .needsLayer = false,
     .run = &Run,
 };

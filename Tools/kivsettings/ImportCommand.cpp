@@ -81,6 +81,5 @@ constexpr Command kImportCommand{
         "left out (exit code 1). Locks of the file count with --layer alone.",
     .options = kOptions,
     .examples = kExamples,
-    .needsLayer = false,
     .run = &Run,
 };

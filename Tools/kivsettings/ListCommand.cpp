@@ -70,7 +70,6 @@ constexpr Example kExamples[] = {
 constexpr Command kListCommand{
     .name = "list",
     .arguments = "[PATTERN...]",
-    .fewest = 0,
     .most = kAnyNumber,
     .summary = "show settings: type, value, default, origin, lock, page",
     .description =
@@ -81,6 +80,5 @@ constexpr Command kListCommand{
         "lock is \"-\" or the layer that locks.",
     .options = kOptions,
     .examples = kExamples,
-    .needsLayer = false,
     .run = &Run,
 };

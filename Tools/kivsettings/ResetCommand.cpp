@@ -35,8 +35,6 @@ constexpr Command kResetCommand{
                    "administrator's values apply, else the defaults. The pages are General, Layout, View,\n"
                    "Generation, Geometry, Dimension, Manipulators, Annotation, Compatibility and\n"
                    "Administration.",
-    .options = {},
     .examples = kExamples,
-    .needsLayer = false,
     .run = &Run,
 };

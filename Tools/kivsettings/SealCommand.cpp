@@ -46,9 +46,6 @@ constexpr Example kExamples[] = {
 
 constexpr Command kSealCommand{
     .name = "seal",
-    .arguments = "",
-    .fewest = 0,
-    .most = 0,
     .summary = "accept an administrator's layer as it stands",
     .description =
         "Ends the file of the layer of --layer with a count and a check sum of what stands before, so\n"
@@ -58,6 +55,5 @@ constexpr Command kSealCommand{
         "layers.",
     .options = kOptions,
     .examples = kExamples,
-    .needsLayer = false,
     .run = &Run,
 };

@@ -41,6 +41,5 @@ constexpr Command kSetCommand{
         "(exit code 1).",
     .options = kOptions,
     .examples = kExamples,
-    .needsLayer = false,
     .run = &Run,
 };

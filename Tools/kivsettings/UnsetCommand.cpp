@@ -34,6 +34,5 @@ constexpr Command kUnsetCommand{
                    "administrator's applies, else the default. Keys without one are passed over.",
     .options = kOptions,
     .examples = kExamples,
-    .needsLayer = false,
     .run = &Run,
 };

@@ -59,7 +59,6 @@ constexpr Example kExamples[] = {
 constexpr Command kWatchCommand{
     .name = "watch",
     .arguments = "[PATTERN...]",
-    .fewest = 0,
     .most = kAnyNumber,
     .summary = "print changes as other programs save them",
     .description =
@@ -68,6 +67,5 @@ constexpr Command kWatchCommand{
         "and when its output is closed.",
     .options = kOptions,
     .examples = kExamples,
-    .needsLayer = false,
     .run = &Run,
 };

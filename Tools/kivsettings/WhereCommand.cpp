@@ -43,6 +43,5 @@ constexpr Command kWhereCommand{
                    "pattern comes from and who locks it.",
     .options = kOptions,
     .examples = kExamples,
-    .needsLayer = false,
     .run = &Run,
 };
