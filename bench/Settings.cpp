@@ -1,6 +1,6 @@
 #include "Component/KivLibrary.h"
 #include "KivDrwCatalogue.h"
-#include "KivDrwRepository.h"
+#include "KivDrwSettingAccess.h"
 #include "Options/KivOptionsSession.h"
 #include "Ratio.h"
 #include "Support/KivSettingsSandbox.h"

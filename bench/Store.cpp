@@ -1,5 +1,5 @@
 #include "KivDrwCatalogue.h"
-#include "KivDrwRepository.h"
+#include "KivDrwSettingAccess.h"
 #include "Ratio.h"
 #include "Support/KivSettingsSandbox.h"
 

@@ -8,6 +8,8 @@
 #include <QObject>
 #include <QWidget>
 
+class IconView;
+
 // The surface of a page. It has no name of its own: the page's title is the options manager's.
 class NativePage : public QWidget, public NativePieceFor<KivEditorPage> {
 public:
@@ -21,8 +23,6 @@ protected:
     }
     bool StaysReachable() const override { return true; }
 };
-
-class IconView;
 
 // A titled group with its icon beside the controls.
 class NativeGroup : public QGroupBox, public NativePieceFor<KivDlgToolsOptionsFrame> {

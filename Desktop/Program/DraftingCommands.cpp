@@ -2,8 +2,7 @@
 
 #include "Command/KivCommandHeader.h"
 #include "Common/NativeText.h"
-#include "KivDrwCommandAvailability.h"
-#include "KivDrwSettingController.h"
+#include "KivDrwWorkbench.h"
 #include "KivIDrwDraftingSettingAtt.h"
 #include "Sheet/SheetView.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Common/OptionsMemory.h"
-#include "Sheet/SheetLook.h"
+#include "Sheet/SheetStyle.h"
 
 // What the drafting window remembers for windows to come: the style of lines that they start with. A file
 // that cannot be read or written is as good as none.

@@ -1,18 +1,18 @@
 #include "Common/NativeText.h"
 #include "Common/SettingsWatch.h"
-#include "KivDrwDraftingSettings.h"
-#include "KivDrwRepository.h"
-#include "KivDrwSketcherSettings.h"
-#include "Program/DraftingDiagnostics.h"
+#include "KivDrwSettingAccess.h"
+#include "KivDrwWorkbench.h"
+#include "Program/DraftingMessages.h"
 #include "Program/DraftingPictures.h"
 #include "Program/DraftingSignals.h"
 #include "Program/DraftingStart.h"
 #include "Program/DraftingWindow.h"
-#include "Program/OffscreenPlatform.h"
 #include "Settings/KivSettingRepository.h"
 #include "Sheet/SheetSettings.h"
 
 #include <QApplication>
+
+#include <cstdio>
 #include <iostream>
 #include <optional>
 #include <vector>
@@ -24,6 +24,20 @@ bool HasScreen()
     for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         if (!qEnvironmentVariableIsEmpty(name)) return true;
     return false;
+}
+
+void Say(QtMsgType, const QMessageLogContext&, const QString& said)
+{
+    if (said.contains("propagateSizeHints") || said.contains("XDG_RUNTIME_DIR")) return;
+    std::fprintf(stderr, "%s\n", qPrintable(said));
+}
+
+// Makes Qt draw without a screen, and keeps back what its platform has to say of every window that is shown
+// so. To be called before the application is constructed.
+void DrawOffscreen()
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(&Say);
 }
 
 int ShowWindow(DraftingWindow& window, const KivUnicodeString& page)
@@ -52,7 +66,7 @@ int main(int argc, char** argv)
         line.screenshots = "screenshots";
         std::cout << DraftingText("NoScreen").toStdString() << '\n';
     }
-    if (line.screenshots) OffscreenPlatform::Choose();
+    if (line.screenshots) DrawOffscreen();
     if (line.scale != 1.0) qputenv("QT_SCALE_FACTOR", QByteArray::number(line.scale));
 
     // The arguments are ours and have been read; the toolkit gets the name alone.

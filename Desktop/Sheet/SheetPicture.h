@@ -3,8 +3,6 @@
 #include "Common/SheetColors.h"
 #include "Sheet/SheetCamera.h"
 #include "Sheet/SheetLayout.h"
-#include "Sheet/SheetLook.h"
-#include "Sheet/SheetSketchStyle.h"
 #include "Sheet/SheetStyle.h"
 
 #include <QPolygonF>

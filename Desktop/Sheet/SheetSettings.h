@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Sheet/SheetSketchStyle.h"
 #include "Sheet/SheetStyle.h"
 
 #include <QObject>

@@ -1,10 +1,27 @@
 #pragma once
 
-#include "Sheet/SheetConstraint.h"
-
+#include <QPainterPath>
 #include <QRectF>
+
+#include <array>
 #include <optional>
 #include <span>
+
+// A kind of geometric constraint.
+enum class SheetConstraint {
+    Horizontal,
+    Vertical,
+    Parallel,
+    Perpendicular,
+    Concentric,
+    Coincident,
+    Tangent,
+    Symmetric,
+};
+inline constexpr std::size_t kSheetConstraints = 8;
+
+// The symbol of a kind, from -1 to 1 in both directions, y up.
+QPainterPath SheetSymbol(SheetConstraint kind);
 
 // The sample sketch: a tongue with a bore and two holes, in mm around its middle, y up.
 class SheetSketch {

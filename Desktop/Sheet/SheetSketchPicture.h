@@ -3,7 +3,7 @@
 #include "Common/SheetColors.h"
 #include "Sheet/SheetCamera.h"
 #include "Sheet/SheetLayout.h"
-#include "Sheet/SheetSketchStyle.h"
+#include "Sheet/SheetStyle.h"
 
 #include <optional>
 

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "Sheet/SheetCamera.h"
-#include "Sheet/SheetFormat.h"
-#include "Sheet/SheetLook.h"
+#include "Sheet/SheetLayout.h"
 #include "Sheet/SheetMarkers.h"
 #include "Sheet/SheetSettings.h"
+#include "Sheet/SheetStyle.h"
 
 #include <QPixmap>
 #include <QWidget>

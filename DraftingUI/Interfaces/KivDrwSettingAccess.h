@@ -8,6 +8,14 @@
 // How every reader, page and service moves one setting between a variable and the repository, which may be
 // null.
 
+// The repository of all drafting settings, its keys bound to their indices; null when it cannot be had.
+inline KivSettingRepository* KivDrwRepository()
+{
+    KivSettingRepository* repository = KivSettingRepository::GetRepository("DraftingOptions", 0, 1, nullptr);
+    if (repository) repository->BindKeys(kKivDrwKeyNames);
+    return repository;
+}
+
 // A value has the type that its key is stored in; only a switch is an unsigned char here and an int there.
 template <class Value, class Stored>
 concept KivDrwStoredAs = std::same_as<Value, Stored> ||

@@ -1,6 +1,30 @@
 #pragma once
 
-#include "KivIDrwTabFactory.h"
+#include "Component/KivClass.h"
+#include "Component/KivTie.h"
+#include "Component/KivVar.h"
+#include "Options/KivEditorFactory.h"
+
+// Every tab's factory interface; Self is the tab's own. It has the operations of KivEditorFactory and states
+// how an adapter passes them on.
+template <class Self> class KivIDrwTabFactory : public KivClass<Self, KivEditorFactory> {
+public:
+    static constexpr const char* Framework = "DraftingUI";
+    static constexpr KivClassKind Kind = KivClassKind::Interface;
+
+    template <class Implementation> class Forwarder : public KivTie<Self, Implementation> {
+    public:
+        using KivTie<Self, Implementation>::KivTie;
+        unsigned char Support(const KivUnicodeString& editorName) const override
+        {
+            return this->Impl() ? this->Impl()->Support(editorName) : static_cast<unsigned char>(0);
+        }
+        KivBaseUnknown* Create(const KivUnicodeString& interfaceName) const override
+        {
+            return this->Impl() ? this->Impl()->Create(interfaceName) : nullptr;
+        }
+    };
+};
 
 // The ten factory interfaces by which a host finds the tabs (KivIDrwOptGalEditorFactory and the others), each
 // with its identifier and its handle, and the functions that make the adapters of the library's factories and

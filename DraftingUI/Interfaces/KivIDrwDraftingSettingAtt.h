@@ -1,7 +1,9 @@
 #pragma once
 
 #include "Component/KivClass.h"
+#include "Component/KivClassDictionary.h"
 #include "Component/KivTie.h"
+#include "Component/KivVar.h"
 #include "Settings/KivSettingInfo.h"
 
 inline constexpr IID IID_KivIDrwDraftingSettingAtt = KivMakeIID("KivIDrwDraftingSettingAtt");
@@ -43,3 +45,11 @@ public:
 #include "KivDrwDraftingAttributes.def"
     };
 };
+
+// A controller component of the drafting settings under one of its interfaces; empty when it cannot be had.
+template <class Interface> KivVar<Interface> KivDrwSettingController()
+{
+    void* found = nullptr;
+    KivInstantiateComponent("KivDrwDraftingSettingCtrl", Interface::ClassId(), &found);
+    return KivVar<Interface>::Adopt(static_cast<Interface*>(static_cast<KivBaseUnknown*>(found)));
+}

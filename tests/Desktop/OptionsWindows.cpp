@@ -1,5 +1,5 @@
 #include "Disk/KivFileLock.h"
-#include "Options/OptionsMessageStrip.h"
+#include "Options/OptionsStrips.h"
 #include "OptionsFixture.h"
 
 #include <QLineEdit>

@@ -1,7 +1,6 @@
 #include "Command/KivCommandHeader.h"
 #include "Component/KivMetaClass.h"
-#include "KivDrwDraftingSettings.h"
-#include "KivDrwSketcherSettings.h"
+#include "KivDrwWorkbench.h"
 #include "Program/DraftingCommands.h"
 #include "Program/DraftingStart.h"
 #include "Sheet/SheetSettings.h"

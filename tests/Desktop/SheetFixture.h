@@ -1,9 +1,8 @@
 #pragma once
 
-#include "KivDrwDraftingSettings.h"
 #include "KivDrwKeys.h"
-#include "KivDrwRepository.h"
-#include "KivDrwSketcherSettings.h"
+#include "KivDrwSettingAccess.h"
+#include "KivDrwWorkbench.h"
 #include "Sheet/SheetView.h"
 #include "Support/KivSettingsSandbox.h"
 

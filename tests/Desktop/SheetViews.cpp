@@ -3,7 +3,7 @@
 #include "Sheet/SheetAccessible.h"
 #include "Sheet/SheetLayout.h"
 #include "Sheet/SheetRotation.h"
-#include "Sheet/SheetRuler.h"
+#include "Sheet/SheetRulers.h"
 #include "SheetFixture.h"
 #include "TestHand.h"
 

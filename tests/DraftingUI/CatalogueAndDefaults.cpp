@@ -1,8 +1,6 @@
 #include "KivDrwCatalogue.h"
-#include "KivDrwOptionsServices.h"
-#include "KivDrwRepository.h"
 #include "KivDrwSettingAccess.h"
-#include "KivDrwSketcherSettings.h"
+#include "KivDrwWorkbench.h"
 #include "Support/KivSettingsSandbox.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "Command/KivRecord.h"
 #include "KivDrwDefaults.h"
-#include "KivDrwRepository.h"
-#include "KivDrwSketcherSettings.h"
+#include "KivDrwSettingAccess.h"
+#include "KivDrwWorkbench.h"
 #include "Support/KivSettingsSandbox.h"
 
 #include <gtest/gtest.h>

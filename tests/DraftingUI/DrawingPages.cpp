@@ -4,7 +4,6 @@
 #include "Dialog/KivDlgRadioButton.h"
 #include "Dialog/KivDlgSpinner.h"
 #include "Dialog/KivUserHand.h"
-#include "KivDrwRepository.h"
 #include "KivDrwSettingAccess.h"
 #include "Pages/Kiv2DBaseOptGalFrm.h"
 #include "Pages/KivDrwOptAnnotFrm.h"

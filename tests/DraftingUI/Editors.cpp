@@ -1,7 +1,7 @@
-#include "KivDrwRepository.h"
+#include "KivDrwSettingAccess.h"
 #include "Options/KivOptionsSession.h"
 #include "SketcherTest.h"
-#include "Tabs/KivDrwCommitSettingEditor.h"
+#include "Tabs/KivDrwTabEditor.h"
 #include "Tabs/KivDrwTabs.h"
 
 #include <algorithm>

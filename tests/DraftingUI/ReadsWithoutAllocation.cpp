@@ -1,5 +1,4 @@
 #include "CountedAllocations.h"
-#include "KivDrwRepository.h"
 #include "KivDrwSettingAccess.h"
 #include "Support/KivSettingsSandbox.h"
 

@@ -1,6 +1,5 @@
-#include "KivDrwDraftingSettings.h"
-#include "KivDrwRepository.h"
 #include "KivDrwSettingAccess.h"
+#include "KivDrwWorkbench.h"
 #include "SketcherTest.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KivDrwSketcherSettings.h"
+#include "KivDrwWorkbench.h"
 #include "Support/KivSettingsSandbox.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "ToolFixture.h"
 
 #include "KivDrwCatalogue.h"
-#include "KivDrwOptionsServices.h"
+#include "KivDrwWorkbench.h"
 
 namespace {
 

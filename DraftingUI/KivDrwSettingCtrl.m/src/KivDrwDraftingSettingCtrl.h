@@ -2,7 +2,6 @@
 
 #include "Component/KivClass.h"
 #include "Component/KivVariant.h"
-#include "KivDrwRepository.h"
 #include "KivDrwSettingAccess.h"
 
 // The component "KivDrwDraftingSettingCtrl": shows eleven keys of the drafting settings as attributes

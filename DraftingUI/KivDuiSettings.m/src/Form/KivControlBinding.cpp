@@ -1,7 +1,5 @@
 #include "Form/KivControlBinding.h"
 
-#include <utility>
-
 KivControlBinding::KivControlBinding(KivDrwLockDialog* control, KivProperty& property, Rule rule)
     : _control(control), _property(property), _rule(std::move(rule))
 {}

@@ -4,6 +4,8 @@
 #include "Lock/KivDrwLockDialog.h"
 
 #include <functional>
+#include <optional>
+#include <utility>
 
 // Ties a control of a page, or several of one choice, to its property, both ways. The property outlives it;
 // the control belongs to the dialog tree and may be gone.
@@ -44,4 +46,39 @@ private:
     KivWeakPtr<KivDrwLockDialog> _control;
     KivProperty& _property;
     Rule _rule;
+};
+
+// The binding of a control that shows a value of type T.
+template <class LockControl, class T> class KivTypedBinding : public KivControlBinding {
+public:
+    KivTypedBinding(LockControl* control, KivPropertyOf<T>& property, Rule rule)
+        : KivControlBinding(control, property, std::move(rule)), _property(property)
+    {}
+
+    void Show() final
+    {
+        if (!IsAlive()) return;
+        ShowValue(Typed(), _property.cached);
+        _shown = Reading(Typed());
+    }
+    bool Read() final
+    {
+        if (!IsAlive()) return false;
+        const std::optional<T> reading = Reading(Typed());
+        const bool isNew = reading && reading != _shown;
+        if (isNew) _property.cached = *reading;
+        _shown = reading;
+        return isNew;
+    }
+
+protected:
+    virtual void ShowValue(LockControl& control, const T& value) = 0;
+    // What the control shows; none when nothing in it is chosen.
+    virtual std::optional<T> Reading(LockControl& control) = 0;
+
+private:
+    LockControl& Typed() const { return static_cast<LockControl&>(*Control()); }
+
+    KivPropertyOf<T>& _property;
+    std::optional<T> _shown; // the reading since when a change is the user's
 };

@@ -1,16 +1,23 @@
 #include "Form/KivControlBindings.h"
 
 #include "Base/KivTextCatalogue.h"
-#include "Form/KivWholeOf.h"
 #include "Settings/KivDrwStoredColor.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
-KivMeasureBinding::KivMeasureBinding(KivDrwLockSpinner* spinner, KivPropertyOf<double>& property,
-                                     const KivSettingKind& kind, Rule rule)
-    : KivTypedBinding(spinner, property, std::move(rule)), _kind(kind)
-{}
+namespace {
+
+// Cut towards zero; one that no int can hold, of either sign or none, gives the greatest int, deliberately.
+int WholeOf(double value)
+{
+    constexpr double kGreatest = std::numeric_limits<int>::max();
+    return value > -kGreatest - 2.0 && value < kGreatest + 1.0 ? static_cast<int>(value)
+                                                               : std::numeric_limits<int>::max();
+}
+
+} // namespace
 
 void KivMeasureBinding::ShowValue(KivDrwLockSpinner& spinner, const double& value)
 {
@@ -24,11 +31,6 @@ std::optional<double> KivMeasureBinding::Reading(KivDrwLockSpinner& spinner)
     return value;
 }
 
-KivWholeNumberBinding::KivWholeNumberBinding(KivDrwLockSpinner* spinner, KivPropertyOf<int>& property,
-                                             Rule rule)
-    : KivTypedBinding(spinner, property, std::move(rule))
-{}
-
 void KivWholeNumberBinding::ShowValue(KivDrwLockSpinner& spinner, const int& value)
 {
     KivDrwSettingsServices::UpdateSpinner(&spinner, static_cast<double>(value));
@@ -36,16 +38,11 @@ void KivWholeNumberBinding::ShowValue(KivDrwLockSpinner& spinner, const int& val
 
 std::optional<int> KivWholeNumberBinding::Reading(KivDrwLockSpinner& spinner)
 {
-    const int whole = KivWholeOf(spinner.GetValue());
+    const int whole = WholeOf(spinner.GetValue());
     // What is typed is shown as it counts.
     if (spinner.GetValue() != static_cast<double>(whole)) ShowValue(spinner, whole);
     return whole;
 }
-
-KivColorBinding::KivColorBinding(KivDrwLockComboColor* combo, KivPropertyOf<KivPageColor>& property,
-                                 Rule rule)
-    : KivTypedBinding(combo, property, std::move(rule))
-{}
 
 void KivColorBinding::ShowValue(KivDrwLockComboColor& combo, const KivPageColor& color)
 {
@@ -62,11 +59,6 @@ std::optional<KivPageColor> KivColorBinding::Reading(KivDrwLockComboColor& combo
         return {};
     return color;
 }
-
-KivChoiceBinding::KivChoiceBinding(KivDrwLockCombo* combo, KivPropertyOf<int>& property,
-                                   const KivSettingKind& kind, Rule rule)
-    : KivTypedBinding(combo, property, std::move(rule)), _kind(kind)
-{}
 
 void KivChoiceBinding::ShowValue(KivDrwLockCombo& control, const int& value)
 {
@@ -140,4 +132,16 @@ bool KivRadioBinding::IsSender(const KivCommand* from) const
 {
     return from && std::any_of(_buttons.begin(), _buttons.end(),
                                [from](const Button& button) { return button.button.Get() == from; });
+}
+
+void KivTextBinding::ShowValue(KivDrwLockEditor& editor, const KivUnicodeString& value)
+{
+    if (KivDlgEditor* field = editor.GetEditor()) field->SetText(value, 0);
+}
+
+std::optional<KivUnicodeString> KivTextBinding::Reading(KivDrwLockEditor& editor)
+{
+    const KivDlgEditor* field = editor.GetEditor();
+    if (!field) return {};
+    return field->GetText();
 }

@@ -3,15 +3,12 @@
 #include "Base/KivListOfUnicodeString.h"
 #include "Base/KivResult.h"
 #include "Dialog/KivDlgRadioButton.h"
-#include "Form/KivPageColor.h"
-#include "Form/KivTypedBinding.h"
-#include "KivDrwSettingsServices.h"
+#include "Form/KivControlBinding.h"
+#include "KivDrwControlServices.h"
 #include "KivSettingKind.h"
-#include "Lock/KivDrwLockCheckButton.h"
-#include "Lock/KivDrwLockCombo.h"
-#include "Lock/KivDrwLockComboColor.h"
-#include "Lock/KivDrwLockFrame.h"
-#include "Lock/KivDrwLockSpinner.h"
+#include "Lock/KivDrwLockCombos.h"
+#include "Lock/KivDrwLockControls.h"
+#include "Lock/KivDrwLockDialog.h"
 
 // The bindings, by the kind of control that they tie.
 
@@ -40,23 +37,32 @@ private:
     bool _isOnFor1Alone;
 };
 
-// A measure: shown in the spinner's unit, stored in another.
-class KivMeasureBinding final : public KivTypedBinding<KivDrwLockSpinner, double> {
+// The binding of a control whose values have a kind.
+template <class LockControl, class T> class KivKindBinding : public KivTypedBinding<LockControl, T> {
 public:
-    KivMeasureBinding(KivDrwLockSpinner* spinner, KivPropertyOf<double>& property, const KivSettingKind& kind,
-                      Rule rule);
+    KivKindBinding(LockControl* control, KivPropertyOf<T>& property, const KivSettingKind& kind,
+                   KivControlBinding::Rule rule)
+        : KivTypedBinding<LockControl, T>(control, property, std::move(rule)), _kind(kind)
+    {}
+
+protected:
+    const KivSettingKind& _kind;
+};
+
+// A measure: shown in the spinner's unit, stored in another.
+class KivMeasureBinding final : public KivKindBinding<KivDrwLockSpinner, double> {
+public:
+    using KivKindBinding::KivKindBinding;
 
 private:
     void ShowValue(KivDrwLockSpinner& spinner, const double& value) override;
     std::optional<double> Reading(KivDrwLockSpinner& spinner) override;
-
-    const KivSettingKind& _kind;
 };
 
 // A whole number that is typed as a real one: what is typed is cut towards zero and shown so.
 class KivWholeNumberBinding final : public KivTypedBinding<KivDrwLockSpinner, int> {
 public:
-    KivWholeNumberBinding(KivDrwLockSpinner* spinner, KivPropertyOf<int>& property, Rule rule);
+    using KivTypedBinding::KivTypedBinding;
 
 private:
     void ShowValue(KivDrwLockSpinner& spinner, const int& value) override;
@@ -76,7 +82,7 @@ public:
 // A color. What is none, components out of range, shows none as chosen.
 class KivColorBinding final : public KivTypedBinding<KivDrwLockComboColor, KivPageColor> {
 public:
-    KivColorBinding(KivDrwLockComboColor* combo, KivPropertyOf<KivPageColor>& property, Rule rule);
+    using KivTypedBinding::KivTypedBinding;
 
 private:
     void ShowValue(KivDrwLockComboColor& combo, const KivPageColor& color) override;
@@ -84,16 +90,13 @@ private:
 };
 
 // A choice from texts.
-class KivChoiceBinding final : public KivTypedBinding<KivDrwLockCombo, int> {
+class KivChoiceBinding final : public KivKindBinding<KivDrwLockCombo, int> {
 public:
-    KivChoiceBinding(KivDrwLockCombo* combo, KivPropertyOf<int>& property, const KivSettingKind& kind,
-                     Rule rule);
+    using KivKindBinding::KivKindBinding;
 
 private:
     void ShowValue(KivDrwLockCombo& combo, const int& value) override;
     std::optional<int> Reading(KivDrwLockCombo& combo) override;
-
-    const KivSettingKind& _kind;
 };
 
 // Delivers names that are found anew whenever the page is shown.
@@ -131,3 +134,31 @@ private:
     std::vector<Button> _buttons;
     std::optional<int> _otherwise;
 };
+
+// A text. It is stored as it was typed.
+class KivTextBinding final : public KivTypedBinding<KivDrwLockEditor, KivUnicodeString> {
+public:
+    using KivTypedBinding::KivTypedBinding;
+
+private:
+    void ShowValue(KivDrwLockEditor& editor, const KivUnicodeString& value) override;
+    std::optional<KivUnicodeString> Reading(KivDrwLockEditor& editor) override;
+};
+
+// A line type or a line weight, by its number. A stored number that none in the combo has shows none as
+// chosen.
+template <class LockCombo> class KivLineStyleBinding final : public KivTypedBinding<LockCombo, unsigned int> {
+public:
+    using KivTypedBinding<LockCombo, unsigned int>::KivTypedBinding;
+
+private:
+    void ShowValue(LockCombo& combo, const unsigned int& number) override { combo.SetSelect(number); }
+    std::optional<unsigned int> Reading(LockCombo& combo) override
+    {
+        if (!combo.GetCombo() || combo.GetCombo()->GetSelect() < 0) return {};
+        return combo.GetSelect();
+    }
+};
+
+using KivLineTypeBinding = KivLineStyleBinding<KivDrwLockComboDashed>;
+using KivLineWeightBinding = KivLineStyleBinding<KivDrwLockComboWeight>;

@@ -2,7 +2,7 @@
 
 #include "Form/KivDrwKeyProperty.h"
 #include "Form/KivPageFrame.h"
-#include "KivDrwRepository.h"
+#include "KivDrwSettingAccess.h"
 
 // A page without a generic frame and without accessors: it reads and writes the keys themselves.
 class KivDrwKeyPageFrame : public KivClass<KivDrwKeyPageFrame, KivPageFrame> {
@@ -11,7 +11,10 @@ public:
     using KivClass::KivClass;
 
     // Sets every property to its default, which Initialize does for those that are not stored.
-    void InitDraftingValues();
+    void InitDraftingValues()
+    {
+        for (KivProperty* property : _properties) property->LoadDefault();
+    }
 
 protected:
     KivSettingRepository* _repository = KivDrwRepository(); // may be null: the page then shows defaults

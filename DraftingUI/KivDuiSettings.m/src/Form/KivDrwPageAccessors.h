@@ -1,8 +1,7 @@
 #pragma once
 
-#include "Form/KivAccessorProperty.h"
+#include "Form/KivPageSetting.h"
 #include "Settings/KivDrwAttributeDefault.h"
-#include "Settings/KivDrwBackgroundColor.h"
 #include "Settings/KivDrwPageWrite.h"
 #include "Settings/KivDrwStoredColor.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Form/KivDrwPageAccessors.h"
-#include "KivDrwSketcherSettings.h"
+#include "KivDrwWorkbench.h"
 
 // Settings by which the sketcher draws and picks: whoever listens to it is told of each change, as its own
 // setters do. They are stored in the page's repository, not by those setters, which write to the one that the

@@ -1,10 +1,9 @@
 #include "Form/KivFormRow.h"
 
 #include "Base/KivTextCatalogue.h"
-#include "DrwOptionsServices.h"
-#include "Form/KivLineStyleBinding.h"
+#include "Form/KivControlBindings.h"
 #include "Form/KivPageForm.h"
-#include "Form/KivTextBinding.h"
+#include "KivDrwControlServices.h"
 
 #include <utility>
 

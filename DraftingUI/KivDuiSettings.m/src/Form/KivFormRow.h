@@ -3,18 +3,12 @@
 #include "Dialog/KivDlgFrame.h"
 #include "Dialog/KivDlgPushButton.h"
 #include "Form/KivControlBindings.h"
-#include "Form/KivPageColor.h"
 #include "Form/KivProperty.h"
 #include "KivSettingKind.h"
-#include "Lock/KivDrwLockCheckButton.h"
-#include "Lock/KivDrwLockCombo.h"
-#include "Lock/KivDrwLockComboColor.h"
-#include "Lock/KivDrwLockComboDashed.h"
-#include "Lock/KivDrwLockComboWeight.h"
-#include "Lock/KivDrwLockEditor.h"
-#include "Lock/KivDrwLockFrame.h"
-#include "Lock/KivDrwLockLabel.h"
-#include "Lock/KivDrwLockSpinner.h"
+#include "Lock/KivDrwLockCombos.h"
+#include "Lock/KivDrwLockControls.h"
+#include "Lock/KivDrwLockDialog.h"
+#include "Lock/KivDrwLockRow.h"
 
 class KivPageForm;
 

@@ -5,6 +5,9 @@
 #include "Form/KivPageRules.h"
 #include "Form/KivProperty.h"
 
+// The name of every tab's frame in its page.
+inline constexpr const char* kKivDrwFrameName = "DrwSet";
+
 // What all page frames have in common, in calling order: construction, Build, Initialize, any number of
 // Write.
 class KivPageFrame : public KivClass<KivPageFrame, KivDlgFrame> {

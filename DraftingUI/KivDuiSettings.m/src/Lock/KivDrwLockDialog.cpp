@@ -73,3 +73,17 @@ unsigned long KivDrwLockDialog::GetSensitivity() const
     _lock->GetAssociatedDialogSensitivity(forced);
     return forced == KivDlgDisabled ? KivDlgDisabled : _dialog->GetSensitivity();
 }
+
+KivDrwLockFrame::KivDrwLockFrame(KivSettingRepository* repository, const KivString& attributeName,
+                                 KivDialog* parent, const KivString& name, unsigned long style)
+    : KivClass(repository, attributeName, parent, name)
+{
+    Wrap(new (std::nothrow) KivDlgFrame(this, name + "locked", style));
+}
+
+KivDrwLockFrame::KivDrwLockFrame(KivDialog* parent, const KivString& name, const KivSettingInfo& info,
+                                 unsigned long style)
+    : KivClass(parent, name, info)
+{
+    Wrap(new (std::nothrow) KivDlgFrame(this, name + "locked", style));
+}

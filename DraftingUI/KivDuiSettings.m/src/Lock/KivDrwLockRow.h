@@ -1,6 +1,8 @@
 #pragma once
 
+#include "Dialog/KivDlgCheckButton.h"
 #include "Dialog/KivDlgFrame.h"
+#include "Dialog/KivDlgLabel.h"
 #include "Dialog/KivDlgLock.h"
 
 // What rows with and without a padlock have in common: a name and texts that are those of the object in their
@@ -31,4 +33,20 @@ public:
 protected:
     KivWeakPtr<KivDialog> _dialog; // in the second cell, or null
     KivWeakPtr<KivDlgLock> _lock;  // in the first one, or null
+};
+
+// A row without a setting: a plain label, kept in line with the rows above and below by a spacer in the
+// padlock's cell. Texts go to and come from the label; without one, from the frame.
+class KivDrwLockLabel : public KivClass<KivDrwLockLabel, KivDrwLockRow> {
+public:
+    static constexpr const char* Name = "KivDrwLockLabel";
+
+    // Zero leaves the label out; the padlock's cell is kept.
+    KivDrwLockLabel(KivDialog* parent, const KivString& name, int withLabel);
+
+    // The label itself; null without one.
+    KivDlgLabel* GetDialog() const { return static_cast<KivDlgLabel*>(_dialog.Get()); }
+
+private:
+    KivWeakPtr<KivDlgCheckButton> _spacer;
 };

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Form/KivDrwPageAccessors.h"
-#include "KivDrwSettingController.h"
 #include "KivIDrwDraftingSettingAtt.h"
 #include "Pages/Kiv2DBaseOptAdminFrm.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Form/KivDrwSketcherAccessors.h"
-#include "KivDrwRepository.h"
+#include "KivDrwSettingAccess.h"
 #include "Pages/Kiv2DBaseOptGeoFrm.h"
 
 // The color of the symbols of constraints.

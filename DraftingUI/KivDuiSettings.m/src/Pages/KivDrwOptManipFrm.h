@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Form/KivDrwPageAccessors.h"
-#include "KivDrwRepository.h"
+#include "KivDrwSettingAccess.h"
 #include "Pages/Kiv2DBaseOptManipFrm.h"
 
 // The Manipulators page of the drafting workbench, bound to its settings.

@@ -2,7 +2,7 @@
 
 #include "Form/KivDrwPageAccessors.h"
 #include "Form/KivPageFrame.h"
-#include "KivDrwRepository.h"
+#include "KivDrwSettingAccess.h"
 
 // The Compatibility page: how drawings of the earlier product generation are taken over. It has no generic
 // frame: its accessors are bound to the settings where they are declared.

@@ -1,12 +1,9 @@
 #include "Pages/KivDrwOptViewFrame.h"
 
 #include "Base/KivTextCatalogue.h"
-#include "Windows/KivDrwButtonGenFil.h"
 #include "Windows/KivDrwButtonHRVView.h"
-#include "Windows/KivDrwButtonLinetypeView.h"
-#include "Windows/KivDrwButtonProject3DPts.h"
 #include "Windows/KivDrwButtonRasterView.h"
-#include "Windows/KivDrwButtonWireFrameMod.h"
+#include "Windows/KivDrwButtonWindows.h"
 
 namespace {
 

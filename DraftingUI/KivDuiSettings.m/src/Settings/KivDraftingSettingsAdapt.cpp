@@ -1,7 +1,7 @@
 #include "KivDraftingSettingsAdapt.h"
 
 #include "KivDrwSettingAccess.h"
-#include "Settings/KivDrwBackgroundColor.h"
+#include "Settings/KivDrwStoredColor.h"
 
 HRESULT KivDraftingSettingsAdapt::GetShowRuler(unsigned char& shown)
 {

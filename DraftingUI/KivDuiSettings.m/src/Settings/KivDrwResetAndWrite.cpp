@@ -1,7 +1,7 @@
 #include "KivDrwCatalogue.h"
 #include "KivDrwDefaults.h"
-#include "KivDrwRepository.h"
-#include "KivDrwSketcherSettings.h"
+#include "KivDrwSettingAccess.h"
+#include "KivDrwWorkbench.h"
 
 #include <string_view>
 #include <vector>

@@ -1,7 +1,6 @@
 #include "Tabs/KivDrwOptAdminEditor.h"
 
-#include "KivDrwCommandAvailability.h"
-#include "KivDrwSettingController.h"
+#include "KivDrwWorkbench.h"
 #include "KivIDrwDraftingSettingAtt.h"
 #include "Options/KivEditorPage.h"
 

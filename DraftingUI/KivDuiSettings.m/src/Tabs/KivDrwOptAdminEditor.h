@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Component/KivVar.h"
-#include "Form/KivDrwFrameName.h"
+#include "Form/KivPageFrame.h"
 #include "Options/KivEditor.h"
 #include "Pages/KivDrwOptAdminFrm.h"
 #include "Settings/KivIASettingController.h"

@@ -1,6 +1,6 @@
 #include "Tabs/KivDrwOptGalEditor.h"
 
-#include "KivDrwSketcherSettings.h"
+#include "KivDrwWorkbench.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "Tabs/KivDrwOptGeoEditor.h"
 
-#include "KivDrwSketcherSettings.h"
+#include "KivDrwWorkbench.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include "Dialog/KivDlgDialog.h"
 #include "Form/KivDrwKeyProperty.h"
 #include "Form/KivPageForm.h"
-#include "KivDrwRepository.h"
+#include "KivDrwSettingAccess.h"
 
 // What the windows of the View page have in common: each edits a few keys, shows itself when it is
 // constructed, and belongs to the page. There is deliberately no way to cancel one: every way of closing it

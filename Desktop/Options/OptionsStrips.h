@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QFrame>
+#include <QLabel>
+#include <QStringList>
+
+// Says at the head of the window whose layer is edited: an administrator's changes are no settings of his
+// own.
+class OptionsLayerStrip : public QLabel {
+    Q_OBJECT
+
+public:
+    // The directory of the layer.
+    OptionsLayerStrip(const QString& layer, QWidget* parent);
+};
+
+// Says at the foot of the window, in words, what went wrong. Empty and unseen until something did.
+class OptionsMessageStrip : public QFrame {
+public:
+    explicit OptionsMessageStrip(QWidget* parent);
+
+    // The same message again is not repeated.
+    void Add(const QString& message);
+    void Clear();
+    const QStringList& Messages() const { return _messages; }
+
+private:
+    void Show();
+
+    QStringList _messages;
+    QLabel* _text;
+};

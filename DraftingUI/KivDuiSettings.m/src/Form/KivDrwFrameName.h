@@ -1,4 +1,0 @@
-#pragma once
-
-// The name of every tab's frame in its page.
-inline constexpr const char* kKivDrwFrameName = "DrwSet";

@@ -1,6 +1,0 @@
-#include "Form/KivDrwKeyPageFrame.h"
-
-void KivDrwKeyPageFrame::InitDraftingValues()
-{
-    for (KivProperty* property : _properties) property->LoadDefault();
-}
