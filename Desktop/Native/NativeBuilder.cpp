@@ -1,8 +1,6 @@
 #include "Native/NativeBuilder.h"
 
-#include "Dialog/KivComboDashed.h"
-#include "Dialog/KivComboSymbol.h"
-#include "Dialog/KivComboWeight.h"
+#include "Dialog/KivCombos.h"
 #include "Native/NativeButtons.h"
 #include "Native/NativeColorCombo.h"
 #include "Native/NativeDirectoryRow.h"

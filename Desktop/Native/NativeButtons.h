@@ -1,8 +1,6 @@
 #pragma once
 
-#include "Dialog/KivDlgCheckButton.h"
-#include "Dialog/KivDlgPushButton.h"
-#include "Dialog/KivDlgRadioButton.h"
+#include "Dialog/KivDlgButtons.h"
 #include "Native/NativePiece.h"
 
 #include <QCheckBox>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Dialog/KivComboColor.h"
+#include "Dialog/KivCombos.h"
 #include "Native/NativeCombo.h"
 
 class QColorDialog;

@@ -3,6 +3,9 @@
 #include <QToolButton>
 #include <QWidget>
 
+class KivDialog;
+class NativeEditor;
+
 // The button beside a field for a directory, which lets a user choose one. It is there and can be used while
 // its field is and can.
 class NativeDirectoryButton : public QToolButton {
@@ -19,9 +22,6 @@ private:
 
     QWidget& _field;
 };
-
-class KivDialog;
-class NativeEditor;
 
 // A field for a directory and, beside it, the button that chooses one. It goes when the field goes.
 class NativeDirectoryRow : public QWidget {

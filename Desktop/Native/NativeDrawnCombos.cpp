@@ -1,8 +1,7 @@
 #include "Native/NativeDrawnCombos.h"
 
 #include "Common/IconEngine.h"
-#include "Dialog/KivComboDashed.h"
-#include "Dialog/KivComboWeight.h"
+#include "Dialog/KivCombos.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Dialog/KivDlgToolsOptionsFrame.h"
+#include "Dialog/KivDlgFrame.h"
 #include "Native/NativePiece.h"
 #include "Options/KivEditorPage.h"
 

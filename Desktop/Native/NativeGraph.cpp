@@ -2,10 +2,7 @@
 
 #include "Common/NativeText.h"
 #include "Common/SheetColors.h"
-#include "Viewer/Kiv2DArrowRep.h"
-#include "Viewer/Kiv2DLineRep.h"
-#include "Viewer/Kiv2DPolylineRep.h"
-#include "Viewer/Kiv2DTextRep.h"
+#include "Viewer/Kiv2DReps.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Viewer/Kiv2DCanvas.h"
+#include "Viewer/Kiv2DRepresentation.h"
 #include "Viewer/Kiv2DViewer.h"
 
 #include <QFont>

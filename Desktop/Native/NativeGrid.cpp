@@ -1,8 +1,8 @@
 #include "Native/NativeGrid.h"
 
 #include "Dialog/KivDlgDialog.h"
+#include "Dialog/KivDlgFrame.h"
 #include "Dialog/KivDlgSpinner.h"
-#include "Dialog/KivDlgToolsOptionsFrame.h"
 
 #include <algorithm>
 #include <limits>

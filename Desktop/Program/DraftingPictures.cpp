@@ -1,9 +1,8 @@
 #include "Program/DraftingPictures.h"
 
 #include "Common/NativeText.h"
-#include "Dialog/KivDlgCheckButton.h"
+#include "Dialog/KivDlgButtons.h"
 #include "Dialog/KivDlgCombo.h"
-#include "Dialog/KivDlgPushButton.h"
 #include "Dialog/KivHandReach.h"
 #include "Dialog/KivUserHand.h"
 #include "Native/NativeDialog.h"

@@ -6,8 +6,8 @@
 #include "KivDrwWorkbench.h"
 #include "Options/KivOptionsSession.h"
 #include "Parameter/KivControlUnit.h"
-#include "Parameter/KivParmDictionary.h"
 #include "Parameter/KivParmEngine.h"
+#include "Parameter/KivParmMagnitude.h"
 #include "Program/DraftingOptions.h"
 #include "Settings/KivSettingRepository.h"
 

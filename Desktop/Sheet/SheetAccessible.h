@@ -36,8 +36,6 @@ private:
     mutable QAccessible::Id _sketch = 0; // made when it is first asked for
 };
 
-class SheetView;
-
 // What a screen reader is told of the sketch on a sheet: a picture, with what the settings let it show.
 class SheetSketchAccessible : public QAccessibleInterface {
 public:

@@ -1,8 +1,8 @@
 #include "Sheet/SheetRulers.h"
 
 #include "Common/NativeText.h"
-#include "Parameter/KivDecimal.h"
 #include "Parameter/KivMeasure.h"
+#include "Parameter/KivNumberFormat.h"
 #include "Sheet/SheetUnit.h"
 
 #include <QFontMetricsF>

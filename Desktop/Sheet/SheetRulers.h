@@ -9,6 +9,8 @@
 #include <optional>
 #include <vector>
 
+class QPainter;
+
 // The marks of a ruler in the user's unit of length.
 class SheetRuler {
 public:
@@ -21,8 +23,6 @@ public:
     // labelPixels apart.
     static std::vector<Mark> Marks(double from, double to, double pixelsPerMm, double labelPixels);
 };
-
-class QPainter;
 
 // The two rulers at the top and at the left of a sheet's window, in the user's unit of length.
 class SheetRulers {

@@ -2,8 +2,8 @@
 
 #include "Common/NativeText.h"
 #include "Parameter/KivMeasure.h"
-#include "Parameter/KivParmDictionary.h"
 #include "Parameter/KivParmEngine.h"
+#include "Parameter/KivParmMagnitude.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Base/KivListOfUnicodeString.h"
+#include "Base/KivListOf.h"
 #include "Base/KivResult.h"
 #include "Base/KivUnicodeString.h"
 

@@ -1,3 +1,5 @@
+#include "Base/KivDiagnostic.h"
+
 #include "Base/KivDiagnosticScope.h"
 
 #include <cstdio>
@@ -18,4 +20,12 @@ void KivReport(const KivDiagnostic& diagnostic)
 {
     if (!KivDiagnosticScope::Notify(diagnostic))
         std::fprintf(stderr, "%s\n", diagnostic.Message().ConvertToChar());
+}
+
+void KivReportFailedAssertion(const char* what, const char* whose, const char* file, int line)
+{
+    char text[256];
+    std::snprintf(text, sizeof text, ">> ASSERTION FAILED %.32s: %.40s [File: %.128s:%4d].<<\n", what, whose,
+                  file, line);
+    KivReport({.severity = KivDiagnostic::Severity::Error, .text = text});
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Base/KivUnicodeString.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <utility>
@@ -62,3 +64,5 @@ public:
 private:
     std::vector<T> _items;
 };
+
+using KivListOfUnicodeString = KivListOf<KivUnicodeString>;

@@ -1,6 +1,6 @@
 #include "Dialog/KivDlgFrame.h"
 
-#include "Dialog/KivDlgRadioButton.h"
+#include "Dialog/KivDlgButtons.h"
 
 KivUnicodeString KivDlgFrame::GetShownValue() const
 {
@@ -9,4 +9,11 @@ KivUnicodeString KivDlgFrame::GetShownValue() const
         if (KivUnicodeString chosen = child->GetShownValue(); !chosen.IsEmpty()) return chosen;
     }
     return {};
+}
+
+KivDlgToolsOptionsFrame::KivDlgToolsOptionsFrame(KivDialog* parent, const KivString& name,
+                                                 const KivString& icon)
+    : KivClass(parent, name, KivDlgGridLayout)
+{
+    SetIconName(icon, "", "", "", 0);
 }

@@ -1,13 +1,11 @@
 #include "Dialog/KivUserHand.h"
 
 #include "Base/KivTextCatalogue.h"
-#include "Dialog/KivComboColor.h"
-#include "Dialog/KivDlgCheckButton.h"
+#include "Dialog/KivCombos.h"
+#include "Dialog/KivDlgButtons.h"
 #include "Dialog/KivDlgDialog.h"
 #include "Dialog/KivDlgEditor.h"
 #include "Dialog/KivDlgLock.h"
-#include "Dialog/KivDlgPushButton.h"
-#include "Dialog/KivDlgRadioButton.h"
 #include "Dialog/KivDlgSpinner.h"
 #include "Dialog/KivHandReach.h"
 

@@ -1,6 +1,6 @@
 #include "Disk/KivAtomicFile.h"
 
-#include "Disk/KivUninterrupted.h"
+#include "Disk/KivFileHandle.h"
 
 #include <algorithm>
 #include <fcntl.h>
@@ -53,7 +53,7 @@ KivAtomicFile::~KivAtomicFile()
 
 bool KivAtomicFile::Fail(const char* what)
 {
-    _reason = KivErrorWords(what, errno);
+    _reason = KivErrorMessage(what, errno);
     return false;
 }
 

@@ -1,6 +1,6 @@
 #include "Disk/KivDirectory.h"
 
-#include "Disk/KivNearPath.h"
+#include "Disk/KivPath.h"
 #include "Disk/KivTimedCall.h"
 
 #include <dirent.h>
@@ -33,8 +33,8 @@ KivDirectoryLooker& Looker()
     return looker;
 }
 
-// A place that was late, and the one look at it that may be under way.
-struct Place {
+// A directory that was late, and the one look at it that may be under way.
+struct SlowDirectory {
     std::optional<KivTimedCall<KivDirectoryLook>> call;
     std::optional<KivDirectoryLook> known;
     bool isSlow = false;
@@ -54,29 +54,30 @@ struct Place {
 };
 
 // Used by the thread of the user interface alone. Those that answer in time are not kept.
-std::map<KivUnicodeString, Place>& Places()
+std::map<KivUnicodeString, SlowDirectory>& SlowDirectories()
 {
-    static auto& places = *new std::map<KivUnicodeString, Place>;
-    return places;
+    static auto& directories = *new std::map<KivUnicodeString, SlowDirectory>;
+    return directories;
 }
 
 std::optional<KivDirectoryLook> Ask(const KivUnicodeString& path, bool withNames, Clock::duration patience)
 {
     const bool isOurs = Looker().target<KivDirectoryLook (*)(const KivUnicodeString&, bool)>() != nullptr;
-    if (isOurs && !Places().contains(path) && KivIsNearPath(path)) return LookAt(path, withNames);
-    Place& place = Places()[path];
-    place.Absorb();
-    const bool isHanging = place.call.has_value();
-    place.withNames = place.withNames || withNames;
+    if (isOurs && !SlowDirectories().contains(path) && KivIsNearPath(path)) return LookAt(path, withNames);
+    SlowDirectory& directory = SlowDirectories()[path];
+    directory.Absorb();
+    const bool isHanging = directory.call.has_value();
+    directory.withNames = directory.withNames || withNames;
     if (!isHanging)
-        place.call.emplace([path, names = place.withNames, look = Looker()] { return look(path, names); });
-    if (!isHanging && !place.isSlow) place.call->WaitUntil(Clock::now() + patience);
-    const bool isInTime = place.Absorb();
-    std::optional<KivDirectoryLook> known = place.known;
+        directory.call.emplace(
+            [path, names = directory.withNames, look = Looker()] { return look(path, names); });
+    if (!isHanging && !directory.isSlow) directory.call->WaitUntil(Clock::now() + patience);
+    const bool isInTime = directory.Absorb();
+    std::optional<KivDirectoryLook> known = directory.known;
     if (isInTime)
-        Places().erase(path);
+        SlowDirectories().erase(path);
     else
-        place.isSlow = true;
+        directory.isSlow = true;
     return known;
 }
 
@@ -84,8 +85,8 @@ KivDirectoryAnswer AnswerOf(const KivUnicodeString& path, const std::optional<Ki
 {
     KivDirectoryAnswer answer;
     if (known) answer.state = known->isThere ? KivDirectoryState::There : KivDirectoryState::Missing;
-    const auto place = Places().find(path);
-    answer.isAwaited = place != Places().end() && place->second.call;
+    const auto directory = SlowDirectories().find(path);
+    answer.isAwaited = directory != SlowDirectories().end() && directory->second.call;
     return answer;
 }
 
@@ -97,12 +98,12 @@ KivDirectoryAnswer KivAskDirectory(const KivUnicodeString& path)
     return AnswerOf(path, known);
 }
 
-KivDirectoryAnswer KivHearOfDirectory(const KivUnicodeString& path)
+KivDirectoryAnswer KivPollDirectory(const KivUnicodeString& path)
 {
-    const auto place = Places().find(path);
-    if (place == Places().end()) return KivAskDirectory(path); // it answers in time by now
-    place->second.Absorb();
-    return AnswerOf(path, place->second.known);
+    const auto directory = SlowDirectories().find(path);
+    if (directory == SlowDirectories().end()) return KivAskDirectory(path); // it answers in time by now
+    directory->second.Absorb();
+    return AnswerOf(path, directory->second.known);
 }
 
 int KivOpenDirectory(const KivUnicodeString& path, KivDirectory& directory)

@@ -9,7 +9,7 @@
 
 // What is known of a directory. Nobody waits long for one: it may lie on a share that does not answer.
 enum class KivDirectoryState {
-    Unknown, // its place has not answered yet
+    Unknown, // its file system has not answered yet
     There,
     Missing // it does not exist, is none, or may not be read
 };
@@ -19,12 +19,12 @@ struct KivDirectoryAnswer {
     bool isAwaited = false; // a newer one is still to come
 };
 
-// Asks for a directory and waits for the answer a fifth of a second at most; of a place that was late before
-// it tells what that answered the last time, without waiting, while it is asked again. A place that does not
-// answer is not asked twice. For the thread of the user interface, as are the others here.
+// Asks for a directory and waits for the answer a fifth of a second at most; of one that was late before it
+// tells what was answered the last time, without waiting, while it is asked again. One that does not answer
+// is not asked twice. For the thread of the user interface, as are the others here.
 KivDirectoryAnswer KivAskDirectory(const KivUnicodeString& path);
 // What has come of it since then, without asking again while an answer is awaited.
-KivDirectoryAnswer KivHearOfDirectory(const KivUnicodeString& path);
+KivDirectoryAnswer KivPollDirectory(const KivUnicodeString& path);
 
 // An open directory.
 struct KivDirectory {
@@ -38,7 +38,7 @@ struct KivDirectory {
 int KivOpenDirectory(const KivUnicodeString& path, KivDirectory& directory);
 
 // Delivers the name of the next entry, in the order of the file system, "." and ".." included. 0 while an
-// entry was delivered, -1 at the end. The first call waits for all of them, a second at most: a place that is
+// entry was delivered, -1 at the end. The first call waits for all of them, a second at most: one that is
 // late has none, until it has answered.
 int KivReadDirectory(KivDirectory& directory, KivUnicodeString& name);
 

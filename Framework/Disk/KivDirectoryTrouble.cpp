@@ -1,6 +1,6 @@
 #include "Disk/KivDirectoryTrouble.h"
 
-#include "Disk/KivHiddenName.h"
+#include "Disk/KivPath.h"
 
 #include <string>
 #include <sys/stat.h>

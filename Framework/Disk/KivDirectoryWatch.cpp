@@ -43,7 +43,7 @@ bool KivDirectoryWatch::Drain()
     for (KivDirectoryWatch* watch : watches) {
         if (std::find(Watches().begin(), Watches().end(), watch) == Watches().end()) continue;
         if (!watch->_answer.isAwaited) continue;
-        const KivDirectoryAnswer before = std::exchange(watch->_answer, KivHearOfDirectory(watch->_path));
+        const KivDirectoryAnswer before = std::exchange(watch->_answer, KivPollDirectory(watch->_path));
         isAwaited = isAwaited || watch->_answer.isAwaited;
         if (watch->_answer.state == before.state) continue;
         // It may be destroyed in answer, and its function with it.

@@ -1,13 +1,16 @@
 #include "Disk/KivExposure.h"
 
 #include "Base/KivAccount.h"
-#include "Disk/KivFileWriters.h"
 
 #include <algorithm>
+#include <array>
 #include <climits>
+#include <cstdint>
+#include <cstring>
 #include <deque>
 #include <string>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace {
@@ -32,6 +35,54 @@ std::string Parent(const std::string& path)
     return slash == std::string::npos || slash == 0 ? "/" : path.substr(0, slash);
 }
 
+// An access list as the system hands it out: a version, then the entries, least significant byte first.
+struct Entry {
+    enum Tag : std::uint16_t { User = 0x02, OwnGroup = 0x04, Group = 0x08, Mask = 0x10 };
+    std::uint16_t tag;
+    std::uint16_t rights;
+    std::uint32_t id;
+};
+constexpr std::size_t kHeader = 4;
+constexpr std::uint16_t kWrite = 2;
+
+std::vector<Entry> ReadList(const KivUnicodeString& path)
+{
+    std::array<char, 1 << 16> bytes;
+    const ssize_t size =
+        getxattr(path.ConvertToChar(), "system.posix_acl_access", bytes.data(), bytes.size());
+    std::vector<Entry> entries;
+    for (std::size_t at = kHeader; size > 0 && at + sizeof(Entry) <= static_cast<std::size_t>(size);
+         at += sizeof(Entry)) {
+        Entry entry{};
+        std::memcpy(&entry, bytes.data() + at, sizeof entry);
+        entries.push_back(entry);
+    }
+    return entries;
+}
+
+// Who may write to a file or directory, apart from its owner and from everybody.
+struct Writers {
+    std::vector<uid_t> users; // by an access list
+    std::vector<gid_t> groups;
+};
+
+// Reads them from the rights in the status, and from the access list if there is one.
+Writers ReadWriters(const KivUnicodeString& path, const struct stat& status)
+{
+    Writers writers;
+    // With an access list the group's bits are its mask: what it grants to anybody at most.
+    if ((status.st_mode & S_IWGRP) == 0) return writers;
+    const std::vector<Entry> list = ReadList(path);
+    if (list.empty()) writers.groups.push_back(status.st_gid);
+    for (const Entry& entry : list) {
+        if ((entry.rights & kWrite) == 0) continue;
+        if (entry.tag == Entry::User) writers.users.push_back(entry.id);
+        if (entry.tag == Entry::Group) writers.groups.push_back(entry.id);
+        if (entry.tag == Entry::OwnGroup) writers.groups.push_back(status.st_gid);
+    }
+    return writers;
+}
+
 // Goes down a path from the root, as the system does.
 class Walk {
 public:
@@ -46,10 +97,10 @@ public:
     }
 
 private:
-    // What is said of a place is what mends it.
-    void Say(const std::string& place, const KivUnicodeString& who, const std::string& mends)
+    // What is said of a path is what mends it.
+    void Say(const std::string& path, const KivUnicodeString& who, const std::string& mends)
     {
-        _found.push_back({KivUnicodeString(place), KivUnicodeString(who) + "; " + KivUnicodeString(mends)});
+        _found.push_back({KivUnicodeString(path), KivUnicodeString(who) + "; " + KivUnicodeString(mends)});
     }
 
     static std::string Move() { return "move it to a directory that only root may write to"; }
@@ -106,22 +157,22 @@ private:
         return S_ISDIR(status.st_mode) && (status.st_mode & S_ISVTX) != 0;
     }
 
-    void ExamineRights(const std::string& place, const struct stat& status)
+    void ExamineRights(const std::string& path, const struct stat& status)
     {
         if (IsSticky(status)) return;
         if ((status.st_mode & S_IWOTH) != 0)
-            return Say(place, "every user may write to it", "\"chmod o-w\" on it mends that");
-        const KivFileWriters writers = KivReadFileWriters(KivUnicodeString(place), status);
+            return Say(path, "every user may write to it", "\"chmod o-w\" on it mends that");
+        const Writers writers = ReadWriters(KivUnicodeString(path), status);
         for (const gid_t group : writers.groups) {
             if (!KivIsEverydayGroup(group)) continue;
-            return Say(place,
+            return Say(path,
                        KivUnicodeString("the users of the group " + std::to_string(group)) +
                            " may write to it",
                        "\"chmod g-w\" on it mends that");
         }
         for (const uid_t user : writers.users) {
             if (!KivIsPersonsAccount(user)) continue;
-            return Say(place, KivUnicodeString("the user ") + KivAccountName(user) + " may write to it",
+            return Say(path, KivUnicodeString("the user ") + KivAccountName(user) + " may write to it",
                        "\"setfacl -b\" on it mends that");
         }
     }

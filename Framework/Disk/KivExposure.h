@@ -4,11 +4,10 @@
 
 #include <vector>
 
-// A place by which people who are no administrators could change what stands at a path, or put something
-// else there.
+// Where people who are no administrators could change what stands at a path, or put something else there.
 struct KivExposure {
-    KivUnicodeString place; // the file, a directory on the way to it, or a link there
-    KivUnicodeString text;  // who could, and what mends it; a clause without a full stop
+    KivUnicodeString path; // the file, a directory on the way to it, or a link there
+    KivUnicodeString text; // who could, and what mends it; a clause without a full stop
 };
 
 // All of them for an absolute path, whether something stands there or not, from the root down; the way

@@ -1,7 +1,7 @@
 #include "Disk/KivFileContent.h"
 
 #include "Base/KivTextLines.h"
-#include "Disk/KivUninterrupted.h"
+#include "Disk/KivFileHandle.h"
 
 #include <fcntl.h>
 #include <system_error>
@@ -35,11 +35,12 @@ KivFileContent ReadOnce(const KivUnicodeString& path, KivLastLink last, bool& is
     isWhole = true;
     KivFileHandle handle = Open(path, last);
     if (!handle.IsOpen()) {
-        if (errno != ENOENT) return Unreadable(KivErrorWords("the file cannot be opened", errno));
+        if (errno != ENOENT) return Unreadable(KivErrorMessage("the file cannot be opened", errno));
         return {};
     }
     struct stat status {};
-    if (fstat(handle.Get(), &status) != 0) return Unreadable(KivErrorWords("the file cannot be read", errno));
+    if (fstat(handle.Get(), &status) != 0)
+        return Unreadable(KivErrorMessage("the file cannot be read", errno));
     if (S_ISDIR(status.st_mode)) return Unreadable("a directory stands in place of the file");
     if (!S_ISREG(status.st_mode)) return Unreadable("a pipe or device stands in place of the file");
     const auto size = static_cast<std::size_t>(status.st_size);
@@ -51,7 +52,7 @@ KivFileContent ReadOnce(const KivUnicodeString& path, KivLastLink last, bool& is
     while (filled <= size) {
         const ssize_t count = KivUninterrupted(
             [&] { return read(handle.Get(), content.text.data() + filled, size + 1 - filled); });
-        if (count < 0) return Unreadable(KivErrorWords("the file cannot be read", errno));
+        if (count < 0) return Unreadable(KivErrorMessage("the file cannot be read", errno));
         if (count == 0) break;
         filled += static_cast<std::size_t>(count);
     }
@@ -68,7 +69,7 @@ KivFileContent ReadOnce(const KivUnicodeString& path, KivLastLink last, bool& is
 
 } // namespace
 
-KivUnicodeString KivErrorWords(const char* what, int error)
+KivUnicodeString KivErrorMessage(const char* what, int error)
 {
     return KivUnicodeString(std::string(what) + ": " + std::generic_category().message(error));
 }

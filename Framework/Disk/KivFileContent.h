@@ -69,4 +69,4 @@ enum class KivLastLink { Follow, Refuse };
 KivFileContent KivReadFile(const KivUnicodeString& path, KivLastLink last = KivLastLink::Follow);
 
 // "cannot be opened: Permission denied"
-KivUnicodeString KivErrorWords(const char* what, int error);
+KivUnicodeString KivErrorMessage(const char* what, int error);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cerrno>
 #include <unistd.h>
 #include <utility>
 
@@ -25,3 +26,11 @@ public:
 private:
     int _descriptor = -1;
 };
+
+// Makes a call to the system, and once more whenever a signal has cut it short.
+template <class Call> auto KivUninterrupted(Call call)
+{
+    auto result = call();
+    while (result == -1 && errno == EINTR) result = call();
+    return result;
+}

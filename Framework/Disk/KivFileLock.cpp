@@ -53,7 +53,7 @@ KivFileLock::KivFileLock(const KivUnicodeString& file) : _place(std::make_shared
     if (_claim && _claim->IsWantedAgain()) return;
     _claim = std::make_shared<Claim>();
     if (!_place->IsOpen())
-        _claim->Decide({{}, KivErrorWords("the directory cannot be opened", _place->Error())});
+        _claim->Decide({{}, KivErrorMessage("the directory cannot be opened", _place->Error())});
     else
         Ask();
 }

@@ -1,7 +1,7 @@
 #include "Disk/KivFilePlace.h"
 
-#include "Disk/KivHiddenName.h"
-#include "Disk/KivUninterrupted.h"
+#include "Disk/KivFileHandle.h"
+#include "Disk/KivPath.h"
 
 #include <fcntl.h>
 

@@ -3,8 +3,7 @@
 #include "Base/KivAccount.h"
 #include "Disk/KivFileContent.h"
 #include "Disk/KivFileHandle.h"
-#include "Disk/KivHiddenName.h"
-#include "Disk/KivUninterrupted.h"
+#include "Disk/KivPath.h"
 
 #include <cerrno>
 #include <climits>
@@ -31,12 +30,12 @@ KivLinkTarget KivFollowLinks(const KivUnicodeString& path, KivLinkTrust trust)
     for (int links = 0; links < kMostLinks; ++links) {
         const KivFileHandle handle = OpenItself(target.path);
         if (!handle.IsOpen()) {
-            if (errno != ENOENT) target.trouble = KivErrorWords("the file cannot be opened", errno);
+            if (errno != ENOENT) target.trouble = KivErrorMessage("the file cannot be opened", errno);
             return target;
         }
         struct stat status {};
         if (fstat(handle.Get(), &status) != 0) {
-            target.trouble = KivErrorWords("the file cannot be examined", errno);
+            target.trouble = KivErrorMessage("the file cannot be examined", errno);
             return target;
         }
         if (!S_ISLNK(status.st_mode)) return target;
@@ -48,13 +47,13 @@ KivLinkTarget KivFollowLinks(const KivUnicodeString& path, KivLinkTrust trust)
         char text[PATH_MAX];
         const ssize_t length = readlinkat(handle.Get(), "", text, sizeof text);
         if (length <= 0) {
-            target.trouble = KivErrorWords("the link cannot be read", errno);
+            target.trouble = KivErrorMessage("the link cannot be read", errno);
             return target;
         }
         const std::string_view next(text, static_cast<std::size_t>(length));
         target.path = next[0] == '/' ? KivUnicodeString(next)
                                      : KivUnicodeString(KivDirectoryOf(target.path.View())).Append(next);
     }
-    target.trouble = KivErrorWords("the file cannot be opened", ELOOP);
+    target.trouble = KivErrorMessage("the file cannot be opened", ELOOP);
     return target;
 }

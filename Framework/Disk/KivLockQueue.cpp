@@ -1,7 +1,7 @@
 #include "Disk/KivLockQueue.h"
 
 #include "Disk/KivFileContent.h"
-#include "Disk/KivUninterrupted.h"
+#include "Disk/KivFileHandle.h"
 
 #include <fcntl.h>
 
@@ -83,7 +83,7 @@ KivLockQueue::Outcome OpenLockFile(const KivFilePlace& place)
     KivFileHandle handle(
         KivUninterrupted([&] { return openat(place.Directory(), name.ConvertToChar(), flags, 0600); }));
     const std::string lock = "the lock file " + std::string(name.View());
-    if (!handle.IsOpen()) return {{}, KivErrorWords((lock + " cannot be opened").c_str(), errno)};
+    if (!handle.IsOpen()) return {{}, KivErrorMessage((lock + " cannot be opened").c_str(), errno)};
     if (!IsForWritersAlone(place.Directory(), handle.Get()))
         return {{}, KivUnicodeString(lock + " is open to others; remove it when nobody saves")};
     return {std::move(handle), {}};
@@ -117,7 +117,7 @@ std::optional<KivLockQueue::Outcome> KivLockQueue::Go(int command)
         if (!_opened.handle.IsOpen()) return std::move(_opened);
         if (!GetInLine(command) || !Advance(command)) {
             if (command == F_OFD_SETLK && (errno == EAGAIN || errno == EACCES)) return std::nullopt;
-            return Outcome{{}, KivErrorWords("the file system cannot lock", errno)};
+            return Outcome{{}, KivErrorMessage("the file system cannot lock", errno)};
         }
         // Somebody may have removed the file while it was waited for; then the next one locks another.
         if (IsInPlace(*_place, _opened.handle.Get())) return std::move(_opened);

@@ -2,7 +2,7 @@
 
 #include "Disk/KivAtomicFile.h"
 #include "Disk/KivFileContent.h"
-#include "Disk/KivHiddenName.h"
+#include "Disk/KivPath.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -21,23 +21,23 @@ template <class T> class KivTimedCalls {
 public:
     using Call = std::function<T(const KivUnicodeString& path)>;
 
-    // What the calls answered that were done in time, each at its path's place.
+    // What the calls answered that were done in time, each at its path's index.
     std::vector<std::optional<T>> Make(const std::vector<KivUnicodeString>& paths, const Call& call,
                                        std::chrono::milliseconds limit)
     {
         std::vector<KivUnicodeString> wanted;
-        std::vector<std::size_t> places; // of those, among the paths
-        for (std::size_t place = 0; place < paths.size(); ++place) {
-            if (IsStuck(paths[place])) continue;
-            wanted.push_back(paths[place]);
-            places.push_back(place);
+        std::vector<std::size_t> indices; // of those, among the paths
+        for (std::size_t index = 0; index < paths.size(); ++index) {
+            if (IsStuck(paths[index])) continue;
+            wanted.push_back(paths[index]);
+            indices.push_back(index);
         }
         const auto round = std::make_shared<Round>(std::move(wanted), call);
         const std::size_t begun = Wait(round, std::chrono::steady_clock::now() + limit);
         std::vector<std::optional<T>> answers(paths.size());
         for (std::size_t at = 0; at < begun; ++at) {
-            answers[places[at]] = round->Take(at);
-            if (!answers[places[at]]) _stuck.insert_or_assign(paths[places[at]], Stuck{round, at});
+            answers[indices[at]] = round->Take(at);
+            if (!answers[indices[at]]) _stuck.insert_or_assign(paths[indices[at]], Stuck{round, at});
         }
         return answers;
     }

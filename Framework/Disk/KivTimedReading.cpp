@@ -1,6 +1,6 @@
 #include "Disk/KivTimedReading.h"
 
-#include "Disk/KivNearPath.h"
+#include "Disk/KivPath.h"
 #include "Disk/KivTimedCalls.h"
 
 std::vector<KivFileContent> KivReadInTime(const std::vector<KivUnicodeString>& paths,

@@ -1,9 +1,8 @@
 #include "Parameter/KivMeasure.h"
 
 #include "Parameter/KivControlUnit.h"
-#include "Parameter/KivDecimal.h"
 #include "Parameter/KivMeasureReader.h"
-#include "Parameter/KivTypedText.h"
+#include "Parameter/KivNumberFormat.h"
 
 #include <cmath>
 #include <cstdint>

@@ -2,7 +2,12 @@
 
 #include "Parameter/KivControlUnit.h"
 
+#include <string>
 #include <string_view>
+
+// A typed text with its typographic spaces, primes, quotes, minus signs and fractions replaced by those of
+// the keyboard: U+2033 becomes ", U+2212 becomes -, U+00BD becomes " 1/2 ". Other characters stay; UTF-8.
+std::string KivPlainText(std::string_view typed);
 
 // Reads one typed measure from left to right, out of a text that KivPlainText has prepared and that outlives
 // the reader. What the text may be is told at KivMeasure::Read.

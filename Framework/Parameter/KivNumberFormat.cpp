@@ -1,13 +1,10 @@
 #include "Parameter/KivNumberFormat.h"
 
-#include "Parameter/KivDecimal.h"
-
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <optional>
-#include <string>
 #include <string_view>
 
 namespace {
@@ -112,6 +109,9 @@ std::string Convert(double value, const Conversion& conversion)
     return std::string(missing, ' ') + sign + digits;
 }
 
+constexpr double kFirstWithExponent = 1.0e16; // a double has no decimals from here on
+constexpr int kMostDecimals = 17;
+
 } // namespace
 
 KivUnicodeString KivPrintNumber(double value, const char* format, int precision)
@@ -119,4 +119,37 @@ KivUnicodeString KivPrintNumber(double value, const char* format, int precision)
     const auto known = ReadFormat(format ? format : "");
     if (!known) return KivUnicodeString(KivPrintDecimal(value, precision));
     return KivUnicodeString(known->before + Convert(value, known->conversion) + known->after);
+}
+
+std::string KivPrintNotFinite(double value)
+{
+    if (std::isnan(value)) return "?";
+    if (std::isinf(value)) return value < 0.0 ? "-∞" : "∞";
+    return {};
+}
+
+std::string KivPrintDecimal(double value, int precision)
+{
+    if (!std::isfinite(value)) return KivPrintNotFinite(value);
+    precision = std::clamp(precision, 0, kMostDecimals);
+
+    std::array<char, 400> buffer; // the smallest double has 324 decimals
+    char* const begin = buffer.data();
+    char* const limit = begin + buffer.size();
+    const bool withExponent = std::abs(value) >= kFirstWithExponent;
+    const auto format = withExponent ? std::chars_format::scientific : std::chars_format::fixed;
+    char* end = std::to_chars(begin, limit, value, format).ptr;
+    if (withExponent) return {begin, end};
+
+    const char* point = std::find(begin, end, '.');
+    if (end - point > precision + 1) {
+        end = std::to_chars(begin, limit, value, format, precision).ptr;
+        point = std::find(begin, end, '.');
+    }
+    if (point != end) {
+        while (end[-1] == '0') --end;
+        if (end[-1] == '.') --end;
+    }
+    const std::string text(begin, end);
+    return text == "-0" ? "0" : text;
 }

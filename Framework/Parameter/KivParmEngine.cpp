@@ -1,7 +1,7 @@
 #include "Parameter/KivParmEngine.h"
 
 #include "Parameter/KivControlUnit.h"
-#include "Parameter/KivParmDictionary.h"
+#include "Parameter/KivParmMagnitude.h"
 
 #include <algorithm>
 #include <string>

@@ -1,9 +1,28 @@
 #pragma once
 
+#include "Base/KivString.h"
 #include "Parameter/KivDlgUnit.h"
-#include "Parameter/KivParmUnit.h"
 
 #include <optional>
+#include <utility>
+
+// The names under which the parameter engine knows its magnitudes.
+class KivParmDictionary {
+public:
+    static constexpr const char* LengthType = "LENGTH";
+    static constexpr const char* AngleType = "ANGLE";
+};
+
+// A unit of the parameter engine. It may be one that no control can show: KivControlUnit::Named tells.
+class KivParmUnit {
+public:
+    explicit KivParmUnit(KivString name) : _name(std::move(name)) {}
+
+    const KivString& Name() const { return _name; }
+
+private:
+    KivString _name;
+};
 
 // A magnitude of the parameter engine, and the unit that the user has chosen for it.
 class KivParmMagnitude {

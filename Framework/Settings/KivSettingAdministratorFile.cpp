@@ -1,7 +1,7 @@
 #include "Settings/KivSettingAdministratorFile.h"
 
-#include "Disk/KivHiddenName.h"
 #include "Disk/KivLinkTarget.h"
+#include "Disk/KivPath.h"
 
 #include <cerrno>
 #include <unistd.h>

@@ -169,10 +169,10 @@ void FindExposures(const KivSettingLayerList& list, std::string_view fileName,
     for (std::size_t at = 0; at < paths.size(); ++at) {
         if (!exposures[at]) continue;
         for (const KivExposure& exposure : *exposures[at]) {
-            if (!places.insert(exposure.place).second) continue;
+            if (!places.insert(exposure.path).second) continue;
             findings.push_back({Kind::Open,
                                 names[at],
-                                exposure.place,
+                                exposure.path,
                                 0,
                                 {},
                                 KivUnicodeString("locks are not enforced: ") + exposure.text});

@@ -7,7 +7,7 @@
 #include "Disk/KivDirectoryTrouble.h"
 #include "Disk/KivFileContent.h"
 #include "Disk/KivFileLock.h"
-#include "Disk/KivHiddenName.h"
+#include "Disk/KivPath.h"
 #include "Settings/KivSettingLayers.h"
 
 #include <map>
@@ -110,7 +110,7 @@ bool KivSettingLayerCopy::KeepOnDisk(std::string_view text) const
     if (const KivUnicodeString trouble = KivMakingTrouble(directory); !trouble.IsEmpty())
         return failed(trouble);
     if (const int error = KivMakeDirectories(directory, 0700)) {
-        return failed(KivErrorWords("no directory", error));
+        return failed(KivErrorMessage("no directory", error));
     }
     if (const KivUnicodeString trouble = KivDirectoryTrouble(directory, false); !trouble.IsEmpty())
         return failed(trouble);

@@ -3,7 +3,7 @@
 #include "Base/KivDiagnostic.h"
 #include "Disk/KivAtomicFile.h"
 #include "Disk/KivDirectoryTrouble.h"
-#include "Disk/KivHiddenName.h"
+#include "Disk/KivPath.h"
 #include "Disk/KivSetAside.h"
 
 #include <cerrno>
@@ -106,7 +106,7 @@ bool KivSettingOwnFile::SetAside(const KivFilePlace& place) const
     if (seal != State::Broken && (seal == State::Fits || !_file.IsDamaged())) return true;
     KivUnicodeString where;
     const int error = KivSetAside(place, _file.Text(), where);
-    if (error != 0) return Refuse(KivErrorWords("the file as it was cannot be set aside", error));
+    if (error != 0) return Refuse(KivErrorMessage("the file as it was cannot be set aside", error));
     if (!where.IsEmpty()) {
         KivReport({.severity = KivDiagnostic::Severity::Note,
                    .text = KivUnicodeString("the file as it was was set aside as ") + where,
@@ -157,7 +157,7 @@ std::shared_ptr<KivFileLock> KivSettingOwnFile::AskTurn(KivUnicodeString& troubl
     trouble = target.trouble.IsEmpty() ? KivMakingTrouble(directory) : target.trouble;
     if (!trouble.IsEmpty()) return nullptr;
     if (const int error = KivMakeDirectories(directory, _isAdministrators ? 0755 : 0700)) {
-        trouble = KivErrorWords("the directory cannot be made", error);
+        trouble = KivErrorMessage("the directory cannot be made", error);
         return nullptr;
     }
     trouble = DirectoryTrouble();

@@ -2,7 +2,7 @@
 
 #include "Base/KivChecksum.h"
 #include "Base/KivTextLines.h"
-#include "Disk/KivHiddenName.h"
+#include "Disk/KivPath.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Viewer/Kiv2DPointRep.h"
+#include "Viewer/Kiv2DReps.h"
 
 #include <limits>
 

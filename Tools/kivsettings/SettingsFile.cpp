@@ -19,7 +19,7 @@ KivFileContent ReadStandardInput()
         const ssize_t count = read(STDIN_FILENO, buffer, sizeof buffer);
         if (count < 0 && errno == EINTR) continue;
         if (count == 0) break;
-        if (count < 0) content.reason = KivErrorWords("it cannot be read", errno);
+        if (count < 0) content.reason = KivErrorMessage("it cannot be read", errno);
         if (count > 0) content.text.append(buffer, static_cast<std::size_t>(count));
         if (content.text.size() > KivMostBytes) content.reason = "it is too large";
         if (!content.reason.IsEmpty()) {

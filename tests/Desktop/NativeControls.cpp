@@ -1,4 +1,4 @@
-#include "Dialog/KivComboSymbol.h"
+#include "Dialog/KivCombos.h"
 #include "Dialog/KivDlgLabel.h"
 #include "Native/NativeBubble.h"
 #include "Native/NativeColorCombo.h"

@@ -1,5 +1,5 @@
-#include "Parameter/KivParmDictionary.h"
 #include "Parameter/KivParmEngine.h"
+#include "Parameter/KivParmMagnitude.h"
 #include "Sheet/SheetAccessible.h"
 #include "Sheet/SheetLayout.h"
 #include "Sheet/SheetRotation.h"

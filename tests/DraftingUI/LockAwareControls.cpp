@@ -5,8 +5,8 @@
 #include "Lock/KivDrwLockDialog.h"
 #include "Lock/KivDrwLockRow.h"
 #include "Parameter/KivControlUnit.h"
-#include "Parameter/KivParmDictionary.h"
 #include "Parameter/KivParmEngine.h"
+#include "Parameter/KivParmMagnitude.h"
 #include "Support/KivSettingsSandbox.h"
 
 #include <gtest/gtest.h>

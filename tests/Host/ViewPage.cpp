@@ -1,6 +1,4 @@
-#include "Dialog/KivComboDashed.h"
-#include "Dialog/KivComboSymbol.h"
-#include "Dialog/KivComboWeight.h"
+#include "Dialog/KivCombos.h"
 #include "Dialog/KivDlgLabel.h"
 #include "OptionsPages.h"
 #include "Viewer/Kiv2DManipulator.h"

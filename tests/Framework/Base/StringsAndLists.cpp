@@ -1,4 +1,4 @@
-#include "Base/KivListOfUnicodeString.h"
+#include "Base/KivListOf.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "Dialog/KivComboColor.h"
-#include "Dialog/KivDlgCheckButton.h"
+#include "Dialog/KivCombos.h"
+#include "Dialog/KivDlgButtons.h"
 #include "Dialog/KivDlgFrame.h"
 #include "Dialog/KivDlgLabel.h"
 #include "Dialog/KivDlgLock.h"

@@ -1,5 +1,5 @@
-#include "Parameter/KivParmDictionary.h"
 #include "Parameter/KivParmEngine.h"
+#include "Parameter/KivParmMagnitude.h"
 
 #include <gtest/gtest.h>
 

@@ -20,7 +20,7 @@ TEST(Exposures, NameEveryPlaceAndWhatMendsIt)
     const auto found = [&] {
         std::string all;
         for (const KivExposure& exposure : KivFindExposures(KivUnicodeString(file)))
-            all += std::string(exposure.place.View()) + ": " + std::string(exposure.text.View()) + "\n";
+            all += std::string(exposure.path.View()) + ": " + std::string(exposure.text.View()) + "\n";
         return all;
     };
     EXPECT_EQ(found(), "");

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Base/KivListOfUnicodeString.h"
+#include "Base/KivListOf.h"
 #include "Base/KivResult.h"
-#include "Dialog/KivDlgRadioButton.h"
+#include "Dialog/KivDlgButtons.h"
 #include "Form/KivControlBinding.h"
 #include "KivDrwControlServices.h"
 #include "KivSettingKind.h"

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Dialog/KivDlgButtons.h"
 #include "Dialog/KivDlgFrame.h"
-#include "Dialog/KivDlgPushButton.h"
 #include "Form/KivControlBindings.h"
 #include "Form/KivProperty.h"
 #include "KivSettingKind.h"

@@ -1,6 +1,6 @@
 #include "Form/KivPageForm.h"
 
-#include "Dialog/KivDlgToolsOptionsFrame.h"
+#include "Dialog/KivDlgFrame.h"
 
 #include <algorithm>
 

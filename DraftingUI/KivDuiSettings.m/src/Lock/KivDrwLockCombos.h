@@ -1,8 +1,6 @@
 #pragma once
 
-#include "Dialog/KivComboColor.h"
-#include "Dialog/KivComboDashed.h"
-#include "Dialog/KivComboWeight.h"
+#include "Dialog/KivCombos.h"
 #include "Dialog/KivDlgCombo.h"
 #include "Lock/KivDrwLockControls.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Dialog/KivDlgCheckButton.h"
+#include "Dialog/KivDlgButtons.h"
 #include "Dialog/KivDlgControl.h"
 #include "Dialog/KivDlgEditor.h"
 #include "Dialog/KivDlgSpinner.h"

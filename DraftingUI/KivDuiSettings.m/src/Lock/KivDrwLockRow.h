@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Dialog/KivDlgCheckButton.h"
+#include "Dialog/KivDlgButtons.h"
 #include "Dialog/KivDlgFrame.h"
 #include "Dialog/KivDlgLabel.h"
 #include "Dialog/KivDlgLock.h"

@@ -1,6 +1,6 @@
 #include "Pages/KivDrwOptAdminFrm.h"
 
-#include "Base/KivAssertion.h"
+#include "Base/KivDiagnostic.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Dialog/KivDlgPushButton.h"
+#include "Dialog/KivDlgButtons.h"
 #include "Form/KivProperty.h"
 #include "Lock/KivDrwLockDialog.h"
 

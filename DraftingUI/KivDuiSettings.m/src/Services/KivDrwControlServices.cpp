@@ -1,12 +1,12 @@
 #include "KivDrwControlServices.h"
 
-#include "Dialog/KivComboWeight.h"
+#include "Dialog/KivCombos.h"
 #include "Dialog/KivDlgCombo.h"
 #include "Lock/KivDrwLockCombos.h"
 #include "Lock/KivDrwLockControls.h"
 #include "Parameter/KivControlUnit.h"
-#include "Parameter/KivParmDictionary.h"
 #include "Parameter/KivParmEngine.h"
+#include "Parameter/KivParmMagnitude.h"
 #include "Settings/KivDrwStoredColor.h"
 
 #include <algorithm>

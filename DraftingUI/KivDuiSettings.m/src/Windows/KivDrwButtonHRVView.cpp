@@ -1,11 +1,7 @@
 #include "Windows/KivDrwButtonHRVView.h"
 
 #include "Base/KivTextCatalogue.h"
-#include "Viewer/Kiv2DArrowRep.h"
-#include "Viewer/Kiv2DLineRep.h"
-#include "Viewer/Kiv2DPointRep.h"
-#include "Viewer/Kiv2DPolylineRep.h"
-#include "Viewer/Kiv2DTextRep.h"
+#include "Viewer/Kiv2DReps.h"
 
 #include <algorithm>
 #include <string>

@@ -1,6 +1,6 @@
 #include "Windows/KivDrwButtonRasterView.h"
 
-#include "Dialog/KivLineThickness.h"
+#include "Dialog/KivCombos.h"
 
 #include <iterator>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Dialog/KivComboSymbol.h"
-#include "Dialog/KivDlgRadioButton.h"
+#include "Dialog/KivCombos.h"
+#include "Dialog/KivDlgButtons.h"
 #include "Windows/KivDrwButtonDialog.h"
 
 // Chooses how generated fillets are represented in views.

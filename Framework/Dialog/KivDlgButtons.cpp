@@ -1,6 +1,20 @@
-#include "Dialog/KivDlgRadioButton.h"
+#include "Dialog/KivDlgButtons.h"
+
+#include "Base/KivTextCatalogue.h"
 
 #include <algorithm>
+
+KivUnicodeString KivDlgCheckButton::GetShownValue() const
+{
+    return KivTextCatalogue::FrameworkText(_state == KivDlgChecked ? "ValueOn" : "ValueOff");
+}
+
+void KivDlgCheckButton::SetState(unsigned long state, int notify)
+{
+    _state = state == KivDlgChecked ? KivDlgChecked : KivDlgUnchecked;
+    Changed();
+    if (notify) SendNotification(&_modified);
+}
 
 std::vector<KivDlgRadioButton*> KivDlgRadioButton::Choices() const
 {

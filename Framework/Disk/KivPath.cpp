@@ -1,7 +1,6 @@
-#include "Disk/KivNearPath.h"
+#include "Disk/KivPath.h"
 
 #include "Disk/KivFileHandle.h"
-#include "Disk/KivHiddenName.h"
 
 #include <cerrno>
 #include <cstdint>
