@@ -27,7 +27,7 @@ def wait(condition, what, seconds=PATIENCE):
         if answer:
             return answer
         if time.monotonic() > end:
-            raise Failure(f"waited {seconds:g} s in vain for {what}")
+            raise Failure(f"waited {seconds:g} s in vain for {what() if callable(what) else what}")
         time.sleep(0.02)
 
 
