@@ -27,6 +27,8 @@ KivFileHandle OpenItself(const KivUnicodeString& path)
 KivLinkTarget KivFollowLinks(const KivUnicodeString& path, KivLinkTrust trust)
 {
     KivLinkTarget target{path, {}};
+    struct stat found {};
+    if (lstat(path.ConvertToChar(), &found) == 0 && !S_ISLNK(found.st_mode)) return target; // as a rule
     for (int links = 0; links < kMostLinks; ++links) {
         const KivFileHandle handle = OpenItself(target.path);
         if (!handle.IsOpen()) {

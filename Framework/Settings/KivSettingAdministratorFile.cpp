@@ -26,16 +26,18 @@ bool CanLookInto(const KivUnicodeString& directory)
 
 KivFileContent KivReadAdministratorFile(const KivUnicodeString& path)
 {
-    KivLinkTarget target = KivFollowLinks(path, KivLinkTrust::CallerAndRoot);
-    KivFileContent content;
-    if (target.trouble.IsEmpty()) {
-        content = KivReadFile(target.path, KivLastLink::Refuse); // one that came since is nobody's we know
-    } else {
-        content.state = KivFileContent::State::Unreadable;
-        content.reason = std::move(target.trouble);
+    KivFileContent content = KivReadFile(path, KivLastLink::Refuse);
+    KivUnicodeString place = path;
+    if (content.state == KivFileContent::State::Unreadable) { // as a link is
+        KivLinkTarget target = KivFollowLinks(path, KivLinkTrust::CallerAndRoot);
+        place = std::move(target.path);
+        if (!target.trouble.IsEmpty())
+            content.reason = std::move(target.trouble);
+        else if (place != path)
+            content = KivReadFile(place, KivLastLink::Refuse); // one that came since is nobody's we know
     }
     content.isDirectoryAway =
-        content.state == KivFileContent::State::Absent && !CanLookInto(DirectoryAbove(target.path));
+        content.state == KivFileContent::State::Absent && !CanLookInto(DirectoryAbove(place));
     return content;
 }
 

@@ -15,11 +15,12 @@ public:
     };
 
     bool IsEmpty() const { return _records.empty(); }
+    bool Contains(std::size_t index) const { return index < _isIn.size() && _isIn[index]; }
 
     // Keeps what an attribute says, unless there is a record of it already.
     void Add(std::size_t index, const KivSettingEntry& before)
     {
-        if (index < _isIn.size() && _isIn[index]) return;
+        if (Contains(index)) return;
         if (index >= _isIn.size()) _isIn.resize(index + 1);
         _records.push_back({index, before});
         _isIn[index] = true;

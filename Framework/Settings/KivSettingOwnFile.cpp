@@ -41,6 +41,7 @@ bool KivSettingOwnFile::Look()
     KivSettingFile file(std::exchange(content.text, {}));
     _content = std::move(content);
     _file = std::move(file);
+    _written.reset();
     ++_version;
     if (IsProtected()) {
         KivReport({KivDiagnostic::Severity::Error,
@@ -51,6 +52,11 @@ bool KivSettingOwnFile::Look()
     }
     _file.Report(_path);
     return true;
+}
+
+void KivSettingOwnFile::RestoreValues()
+{
+    if (_file.IsTaken()) _file = KivSettingFile(std::string(_file.Text()));
 }
 
 void KivSettingOwnFile::ReportSeal() const
@@ -115,22 +121,23 @@ bool KivSettingOwnFile::SetAside(const KivFilePlace& place) const
     return true;
 }
 
-KivSettingOwnFile::Receipt KivSettingOwnFile::Write(const KivFileLock& lock, KivSettingFile next)
+KivSettingOwnFile::Receipt KivSettingOwnFile::Write(const KivFileLock& lock, KivSettingEdit next)
 {
     const auto refuse = [this](const KivUnicodeString& reason) {
         Refuse(reason);
         return Receipt::Refused;
     };
-    if (const KivUnicodeString trouble = KivSizeTrouble(next.Text()); !trouble.IsEmpty())
+    if (const KivUnicodeString trouble = KivSizeTrouble(*next.text); !trouble.IsEmpty())
         return refuse(trouble);
+    _file.Prepare(next);
     KivAtomicFile file(lock.Place());
-    if (!file.Write(next.Text(), _isAdministrators ? 0644 : 0600)) return refuse(file.Reason());
+    if (!file.Write(*next.text, _isAdministrators ? 0644 : 0600)) return refuse(file.Reason());
     if (!lock.IsHeld()) return refuse(lock.Reason());
     if (!file.Rename()) return refuse(file.Reason());
     _content = {};
     _content.state = KivFileContent::State::Read;
     _content.stamp = file.Stamp();
-    _file = std::move(next);
+    _written = _file.Become(std::move(next));
     ++_version;
     const bool isDurable = file.FlushDirectory();
     _owed = isDurable ? nullptr : lock.SharedPlace();
@@ -199,7 +206,7 @@ KivSettingOwnFile::Receipt KivSettingOwnFile::Save(const Merge& merge)
         const Changes changes = merge();
         if (changes.empty()) return FlushOwed() ? Receipt::Nothing : Receipt::Visible;
         if (!SetAside(lock.Place())) return Receipt::Refused;
-        return Write(lock, KivSettingFile(_file.With(changes)));
+        return Write(lock, _file.With(changes));
     });
 }
 
@@ -212,7 +219,7 @@ KivSettingOwnFile::Receipt KivSettingOwnFile::Seal()
             : _file.Text().empty() ? "the file is empty; the line \"# kivsettings 1\" alone withdraws a layer"
             : _file.IsDamaged()    ? "the file has damaged lines, which are to be mended first"
                                    : nullptr;
-        if (!trouble) return Write(lock, KivSettingFile(_file.With({})));
+        if (!trouble) return Write(lock, _file.With({}));
         Refuse(trouble);
         return Receipt::Refused;
     });

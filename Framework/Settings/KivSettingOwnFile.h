@@ -25,8 +25,17 @@ public:
 
     const KivUnicodeString& Path() const { return _path; }
     const KivSettingFile& File() const { return _file; }
+    KivSettingValue TakeValue(std::size_t line) { return _file.TakeValue(line); }
+    // Has the values of the lines once more, after they were taken.
+    void RestoreValues();
     // Another one whenever the file has been read or written.
     unsigned Version() const { return _version; }
+    // The lines, without values, by which the file differs from the one of that version; null when more may
+    // have changed.
+    const std::vector<KivSettingLine>* WrittenSince(unsigned version) const
+    {
+        return _written && version + 1 == _version ? &*_written : nullptr;
+    }
 
     // The file is there but cannot be read.
     bool IsProtected() const { return _content.state == KivFileContent::State::Unreadable; }
@@ -59,13 +68,14 @@ private:
     KivUnicodeString DirectoryTrouble() const;
     bool Refuse(const KivUnicodeString& reason) const;
     bool SetAside(const KivFilePlace& place) const;
-    Receipt Write(const KivFileLock& lock, KivSettingFile next);
+    Receipt Write(const KivFileLock& lock, KivSettingEdit next);
 
     KivUnicodeString _path;
     bool _isAdministrators;
     unsigned _version = 0;
     KivFileContent _content; // without its text, which is the file's
     KivSettingFile _file;
+    std::optional<std::vector<KivSettingLine>> _written; // of the last version
     std::weak_ptr<KivFileLock> _turn;
     std::shared_ptr<const KivFilePlace> _owed; // where the last save could not flush the directory
 };

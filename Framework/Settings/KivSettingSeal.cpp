@@ -54,11 +54,15 @@ std::string KivSettingHead::Line()
     return std::string(kMark).append(kVersion).append(kSealed);
 }
 
+std::size_t KivSettingSeal::BeginOf(std::string_view text)
+{
+    const std::size_t before = KivWithoutLineEnd(text).find_last_of("\r\n");
+    return before == std::string_view::npos ? 0 : before + 1;
+}
+
 KivSettingSeal::State KivSettingSeal::StateOf(std::string_view text)
 {
-    // Where the last line would begin, were it a seal.
-    const std::size_t before = KivWithoutLineEnd(text).find_last_of("\r\n");
-    const std::size_t begin = before == std::string_view::npos ? 0 : before + 1;
+    const std::size_t begin = BeginOf(text);
     const std::string_view last = text.substr(begin);
     const KivSettingHead head(text);
     if (head.isSealed) return last == SealOf(text.substr(0, begin)) ? State::Fits : State::Broken;

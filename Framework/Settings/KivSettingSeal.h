@@ -36,6 +36,9 @@ public:
 
     static State StateOf(std::string_view text);
 
+    // Where the last line begins, which a seal is.
+    static std::size_t BeginOf(std::string_view text);
+
     // The text with its seal. A first line that names no version gets one before it, behind a byte-order
     // mark; a last line without an end gets one. Seals that stand anywhere in it are taken out, every other
     // line stays byte for byte.

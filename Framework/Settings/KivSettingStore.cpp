@@ -8,16 +8,20 @@
 
 namespace {
 
+constexpr auto kNoIndex = static_cast<std::uint32_t>(-1);
+
 // Empty where there is no place for it.
 KivUnicodeString OwnPath(const KivUnicodeString& directory, std::string_view name)
 {
     return directory.IsEmpty() ? directory : KivSettingLayers::FileIn(directory, name);
 }
 
-void TakeLine(const KivSettingLine& line, bool isAdministrators, KivSettingEntry& entry)
+// value: the line's, or none.
+void TakeLine(const KivSettingLine& line, KivSettingValue value, bool isAdministrators,
+              KivSettingEntry& entry)
 {
-    if (KivHasValue(line.value)) {
-        entry.value = line.value;
+    if (KivHasValue(value)) {
+        entry.value = std::move(value);
         entry.line = line.number;
         entry.initial = line.initial && !isAdministrators;
     }
@@ -162,7 +166,7 @@ void KivSettingStore::ReadLayers()
         for (const KivSettingLine& line : layers[static_cast<std::size_t>(layer)].file.Lines()) {
             if (line.isPattern)
                 prefixLocks.Add(line.key, layer, line.number);
-            else if (!line.key.empty() && (line.lock || KivHasValue(line.value))) // else damaged
+            else if (line.HasStatement())
                 statements.push_back({&line, layer, FindOrAdd(line.key, line.hash)});
         }
     }
@@ -191,29 +195,61 @@ void KivSettingStore::ReadLayers()
     ResolveAll();
 }
 
+// Takes where the lines stand now that a save wrote. False when more than those may have changed.
+bool KivSettingStore::TakeWrittenLines()
+{
+    const std::vector<KivSettingLine>* const written = _own.WrittenSince(_takenVersion);
+    const auto isPattern = [](const KivSettingLine& line) { return line.isPattern; };
+    if (!written || std::any_of(written->begin(), written->end(), isPattern)) return false;
+    for (const KivSettingLine& line : *written) {
+        KivSettingEntry& own = _table[_table.IndexOf(line.key, line.hash)].own;
+        own.line = KivHasValue(own.value) ? line.number : 0;
+        own.lockLine = own.lock ? line.number : 0;
+    }
+    _takenVersion = _own.Version();
+    return true;
+}
+
 // Takes what the own file says, unless it is taken already.
 void KivSettingStore::TakeOwnFile()
 {
-    if (_takenVersion == _own.Version()) return;
+    if (_takenVersion == _own.Version() || TakeWrittenLines()) return;
+    _own.RestoreValues();
     const std::vector<KivSettingLine>& lines = _own.File().Lines();
     Reserve(lines.size());
-    std::vector<KivSettingEntry> entries(_table.Size()); // by attribute
+    std::vector<std::uint32_t> indices; // of the lines' attributes
+    indices.reserve(lines.size());
+    KivSettingMerge::Entries onDisk; // of those that it takes more than moving the value
+    const auto begin = [&](const KivSettingJournal& journal) {
+        for (const auto& [index, before] : journal) onDisk.try_emplace(index);
+    };
+    begin(_unsaved);
+    begin(_uncommitted);
     for (const KivSettingLine& line : lines) {
-        if (line.key.empty() || (!line.lock && !KivHasValue(line.value))) continue;
-        if (line.isPattern && !_isAdministrator) continue; // nobody is inside of the user's file
-        const std::size_t index = FindOrAdd(line.key, line.hash);
-        if (index >= entries.size()) entries.resize(index + 1);
-        TakeLine(line, _isAdministrator, entries[index]);
+        // Nobody is inside of the user's file.
+        const bool isTaken = line.HasStatement() && (_isAdministrator || !line.isPattern);
+        indices.push_back(isTaken ? static_cast<std::uint32_t>(FindOrAdd(line.key, line.hash)) : kNoIndex);
+        if (!isTaken) continue;
+        if (line.isPattern) onDisk.try_emplace(indices.back());
+        if (onDisk.empty()) continue;
+        if (const auto entry = onDisk.find(indices.back()); entry != onDisk.end())
+            TakeLine(line, line.value, _isAdministrator, entry->second);
     }
-    entries.resize(_table.Size());
-
-    KivSettingMerge merge(_table, _unsaved, _uncommitted, std::move(entries));
-    KivSettingPrefixLocks locks =
-        OwnPrefixLocks([&](std::size_t index) -> const KivSettingEntry& { return merge.entries[index]; });
+    KivSettingMerge merge(_table, _unsaved, _uncommitted, std::move(onDisk));
+    KivSettingPrefixLocks locks = OwnPrefixLocks([&](std::size_t index) -> const KivSettingEntry& {
+        static const auto& nothing = *new KivSettingEntry;
+        const auto entry = merge.entries.find(index);
+        return entry == merge.entries.end() ? nothing : entry->second;
+    });
 
     // From here on nothing fails.
-    for (std::size_t index = 0; index < merge.entries.size(); ++index)
-        std::swap(_table[index].own, merge.entries[index]);
+    if (_takenVersion != 0)
+        for (KivSettingAttribute& attribute : _table) attribute.own = {};
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (indices[i] != kNoIndex)
+            TakeLine(lines[i], _own.TakeValue(i), _isAdministrator, _table[indices[i]].own);
+    }
+    for (auto& [index, entry] : merge.entries) std::swap(_table[index].own, entry);
     std::swap(_unsaved, merge.unsaved);
     std::swap(_uncommitted, merge.uncommitted);
     UseOwnPrefixLocks(std::move(locks));
@@ -297,14 +333,20 @@ bool KivSettingStore::Concerns(std::size_t index, Only only) const
     return only.empty() || std::any_of(only.begin(), only.end(), isIt);
 }
 
-// What was shown before the changes that have not been committed.
-KivSettingSnapshot KivSettingStore::SnapshotOfCommit(Only only) const
+// The keys that show another value or lock than at the last commit.
+KivSettingStore::Keys KivSettingStore::ChangedSinceCommit(Only only) const
 {
-    KivSettingSnapshot snapshot(_table);
+    std::vector<std::size_t> changed;
     for (const auto& [index, before] : _uncommitted) {
-        if (Concerns(index, only)) snapshot.Replace(index, before);
+        const KivSettingAttribute& now = _table[index];
+        if (Concerns(index, only) && (!KivSameValue(now.ShownWith(before), now.Shown()) ||
+                                      now.LockWith(before) != now.LockWith(now.own)))
+            changed.push_back(index);
     }
-    return snapshot;
+    std::sort(changed.begin(), changed.end());
+    Keys keys;
+    for (const std::size_t index : changed) keys.emplace_back(_table[index].key);
+    return keys;
 }
 
 void KivSettingStore::Drop(KivSettingJournal& journal, Only only)
@@ -315,7 +357,7 @@ void KivSettingStore::Drop(KivSettingJournal& journal, Only only)
 KivSettingStore::Keys KivSettingStore::Commit(Only only)
 {
     if (_uncommitted.IsEmpty()) return {};
-    Keys changed = SnapshotOfCommit(only).Changed();
+    Keys changed = ChangedSinceCommit(only);
     Drop(_uncommitted, only);
     return changed;
 }
@@ -374,21 +416,27 @@ KivSettingStore::Keys KivSettingStore::Save(Receipt& result, Only only)
         result = _own.FlushOwed() ? Receipt::Nothing : Receipt::Visible;
         return Commit(only);
     }
-    const KivSettingSnapshot committed = SnapshotOfCommit(only);
-    KivSettingSnapshot working(_table);
-    const unsigned version = _takenVersion;
+    // What another program has saved meanwhile may change every key; else it is those of the journal.
+    std::optional<KivSettingSnapshot> committed, working;
     result = _own.Save([&] {
-        TakeOwnFile();
+        if (_takenVersion != _own.Version()) {
+            working.emplace(_table);
+            committed.emplace(_table);
+            for (const auto& [index, before] : _uncommitted)
+                if (Concerns(index, only)) committed->Replace(index, before);
+            TakeOwnFile();
+        }
         return Unsaved(only);
     });
     if (result == Receipt::Refused) {
         // No point to return to: whoever is told that his changes are not safe may still take them back.
-        Keys changed = working.Changed();
-        if (_takenVersion != version && !_untold) _untold.emplace(std::move(working));
+        if (!working) return {};
+        Keys changed = working->Changed();
+        if (!_untold) _untold.emplace(std::move(*working));
         return changed;
     }
+    Keys changed = committed ? committed->Changed() : ChangedSinceCommit(only);
     TakeOwnFile();
-    Keys changed = committed.Changed();
     Drop(_unsaved, only);
     Drop(_uncommitted, only);
     return changed;

@@ -88,6 +88,7 @@ private:
     void SwapOwn(std::size_t index, KivSettingEntry& entry);
     void ReadFiles();
     void ReadLayers();
+    bool TakeWrittenLines();
     void TakeOwnFile();
     std::vector<KivSettingChange> Unsaved(Only only) const;
     bool Concerns(std::size_t index, Only only) const;
@@ -96,7 +97,7 @@ private:
     {
         return !_table[saved.index].own.Equals(saved.before);
     }
-    KivSettingSnapshot SnapshotOfCommit(Only only) const;
+    Keys ChangedSinceCommit(Only only) const;
     void Drop(KivSettingJournal& journal, Only only);
 
     KivString _name;

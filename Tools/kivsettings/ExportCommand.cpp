@@ -20,7 +20,7 @@ ExitCode Run(const Arguments& arguments, Console& console)
         if (!KivHasValue(setting.value) || (!arguments.Has("all") && !setting.IsChanged())) continue;
         lines.push_back({KivString(key.c_str()), {.value = setting.value}});
     }
-    console.Print(KivSettingFile().With(lines));
+    console.Print(*KivSettingFile().With(lines).text);
     return settings.AfterReading();
 }
 

@@ -32,9 +32,9 @@ inline const char* BrokenProperty(std::string_view bytes)
 
     // Saving without a change adds a seal that fits and nothing else, and every value that was read is
     // written so that it reads the same.
-    const KivSettingFile sealed(file.With({}));
+    KivSettingFile sealed(*file.With({}).text);
     if (sealed.SealState() != KivSettingSeal::State::Fits) return "what is written is sealed";
-    if (sealed.With({}) != sealed.Text()) return "no change, no other byte";
+    if (*sealed.With({}).text != sealed.Text()) return "no change, no other byte";
     if (!std::equal(file.Lines().begin(), file.Lines().end(), sealed.Lines().begin(), sealed.Lines().end(),
                     [&](const KivSettingLine& was, const KivSettingLine& is) {
                         return KivWithoutLineEnd(file.Text().substr(was.begin, was.end - was.begin)) ==
@@ -45,7 +45,7 @@ inline const char* BrokenProperty(std::string_view bytes)
     for (const auto& [key, line] : last)
         changes.push_back(
             {KivString(key), {.value = line->value, .initial = line->initial, .lock = line->lock}});
-    const KivSettingFile saved(file.With(changes));
+    const KivSettingFile saved(*file.With(changes).text);
     std::map<std::string, int> count;
     for (const KivSettingLine& line : saved.Lines()) {
         const auto was = last.find(std::string(line.key));
@@ -58,11 +58,26 @@ inline const char* BrokenProperty(std::string_view bytes)
         const bool saysNothing = !line->lock && !KivHasValue(line->value);
         if (count[key] != (saysNothing ? 0 : 1)) return "a changed key stands there once";
     }
-    if (saved.With(changes) != saved.Text()) return "saving twice is saving once";
+    if (*saved.With(changes).text != saved.Text()) return "saving twice is saving once";
+
+    // A file that became another one by a save knows what it would read.
+    changes.push_back({"KivAddedAtTheEnd", {.value = 1}});
+    KivSettingEdit edit = sealed.With(changes);
+    sealed.Prepare(edit);
+    sealed.Become(std::move(edit));
+    const KivSettingFile readAnew{std::string(sealed.Text())};
+    if (!std::equal(sealed.Lines().begin(), sealed.Lines().end(), readAnew.Lines().begin(),
+                    readAnew.Lines().end(), [](const KivSettingLine& is, const KivSettingLine& read) {
+                        return is.key == read.key && is.hash == read.hash && is.kind == read.kind &&
+                               is.lock == read.lock && is.begin == read.begin && is.end == read.end &&
+                               is.number == read.number;
+                    }))
+        return "what was saved is what is read";
+    changes.pop_back();
 
     // Withdrawing all of it leaves the other lines as they were.
     for (KivSettingChange& change : changes) change.entry = {};
-    const KivSettingFile bare(file.With(changes));
+    const KivSettingFile bare(*file.With(changes).text);
     for (const KivSettingLine& line : bare.Lines())
         if (!line.reason) return "what was withdrawn is gone";
     return nullptr;

@@ -16,7 +16,7 @@ TEST(Seals, EveryMixtureOfLineEndsKeepsEveryValue)
         for (const std::string& changed : keys) {
             std::string saved = text;
             for (const int value : {7, 8})
-                saved = KivSettingFile(saved).With({{KivString(changed.c_str()), {.value = value}}});
+                saved = *KivSettingFile(saved).With({{KivString(changed.c_str()), {.value = value}}}).text;
             std::string read;
             const KivSettingFile file(saved);
             for (const KivSettingLine& line : file.Lines())
