@@ -2,6 +2,8 @@
 
 #include <charconv>
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 
 namespace {
 
@@ -28,6 +30,14 @@ int Followers(unsigned char first)
 bool KivIsUtf8(std::string_view text)
 {
     for (std::size_t at = 0; at < text.size();) {
+        std::uint64_t eight = 0;
+        if (text.size() - at >= sizeof eight) {
+            std::memcpy(&eight, text.data() + at, sizeof eight);
+            if ((eight & 0x8080808080808080U) == 0) {
+                at += sizeof eight;
+                continue;
+            }
+        }
         const auto first = static_cast<unsigned char>(text[at]);
         const int followers = Followers(first);
         if (followers < 0 || text.size() - at <= static_cast<std::size_t>(followers)) return false;
@@ -72,6 +82,10 @@ bool KivUnquote(std::string_view quoted, std::string& text)
     if (quoted.size() < 2 || quoted.front() != '"' || quoted.back() != '"') return false;
     const std::string_view inner = quoted.substr(1, quoted.size() - 2);
     if (!KivIsUtf8(inner)) return false;
+    if (inner.find('\\') == inner.npos && inner.find('"') == inner.npos) { // as a rule
+        text = inner;
+        return true;
+    }
     text.clear();
     text.reserve(inner.size());
     for (std::size_t at = 0; at < inner.size(); ++at) {

@@ -84,6 +84,10 @@ public:
     // The index of a key, which is added when it is not there.
     std::size_t FindOrAdd(std::string_view key, std::size_t hash);
 
+    // Begins to fetch what a look-up of this hash, some look-ups later, will meet: in a large table each
+    // meets memory that is in no cache.
+    void Prefetch(std::size_t hash) const { __builtin_prefetch(&_slots[hash & (_slots.size() - 1)]); }
+
     // Makes room for this many attributes more.
     void Reserve(std::size_t more);
 
