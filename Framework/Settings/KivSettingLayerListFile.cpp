@@ -41,6 +41,13 @@ bool TakeOptional(std::string_view& line)
     return true;
 }
 
+KivUnicodeString SealCommand()
+{
+    const KivUnicodeString command("kivsettings seal --list");
+    if (KivSettingLayers::IsUsualSystemFile()) return command;
+    return command + " --system-layers " + KivSettingLayers::SystemFile();
+}
+
 } // namespace
 
 KivSettingLayerListFile::KivSettingLayerListFile(std::string_view text)
@@ -85,9 +92,9 @@ void KivSettingLayerListFile::Judge(std::string_view text)
     _doubt = _trouble;
     if (!_doubt.IsEmpty()) return;
     if (KivSettingSeal::StateOf(text) == KivSettingSeal::State::Broken)
-        _doubt =
-            "the list of layers was edited by hand, or is damaged: its seal does not fit; \"kivsettings seal "
-            "--list\" accepts it as it stands";
+        _doubt = KivUnicodeString(
+                     "the list of layers was edited by hand, or is damaged: its seal does not fit; ") +
+                 "\"" + SealCommand() + "\" accepts it as it stands";
     else if (!KivIsLastLineEnded(text))
         _doubt = "the list of layers ends within a line, as if half written";
 }

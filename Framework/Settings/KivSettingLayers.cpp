@@ -46,7 +46,7 @@ KivUnicodeString KivSettingLayers::User()
 
 KivUnicodeString KivSettingLayers::Cache(bool isEnforced)
 {
-    if (isEnforced && SystemFile() == kSystemFile) {
+    if (isEnforced && IsUsualSystemFile()) {
         if (geteuid() == 0) return "/var/cache/kiv";
         static const auto& home = *new KivUnicodeString(KivAccountHome());
         return home.IsEmpty() ? home : KivUnicodeString(home).Append("/.cache/kiv");
@@ -75,6 +75,11 @@ KivUnicodeString KivSettingLayers::Absolute(std::string_view path)
 KivUnicodeString KivSettingLayers::SystemFile()
 {
     return ChosenSystemFile();
+}
+
+bool KivSettingLayers::IsUsualSystemFile()
+{
+    return SystemFile() == kSystemFile;
 }
 
 KivUnicodeString KivSettingLayers::SetSystemFile(const KivUnicodeString& path)

@@ -27,6 +27,8 @@ public:
 
     // The file that lists the administrator's layers.
     static KivUnicodeString SystemFile();
+    // It is this machine's.
+    static bool IsUsualSystemFile();
 
     // For tests and for tools that are told to examine another machine's file, instead of /etc/kiv/layers;
     // empty: there is no list. Copies of what it names follow the environment. Not an environment variable:
