@@ -1,8 +1,10 @@
 #pragma once
 
 #include "Settings/KivSettingEntry.h"
+#include "Settings/KivSettingTable.h"
 
 #include <cstddef>
+#include <unordered_map>
 #include <vector>
 
 // What attributes said before they changed, in the order in which each first did: since the last save, or
@@ -42,4 +44,20 @@ public:
 private:
     std::vector<Record> _records;
     std::vector<bool> _isIn; // by index
+};
+
+// What the written layer comes to say once its file has been read: what has not been saved stays on top of
+// what the file says, but for values of a first start: nobody chose them, so that one gives way to what the
+// file has come to say since.
+struct KivSettingMerge {
+    // What the file says of some attributes, by their index.
+    using Entries = std::unordered_map<std::size_t, KivSettingEntry>;
+
+    // onDisk: of all attributes that stand in a journal, at least.
+    KivSettingMerge(const KivSettingTable& table, const KivSettingJournal& unsavedNow,
+                    const KivSettingJournal& uncommittedNow, Entries onDisk);
+
+    Entries entries;
+    KivSettingJournal unsaved;
+    KivSettingJournal uncommitted;
 };

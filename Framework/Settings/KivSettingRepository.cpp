@@ -2,12 +2,12 @@
 
 #include "Base/KivDiagnostic.h"
 #include "Base/KivGuarded.h"
-#include "Settings/KivSettingEnumeration.h"
 #include "Settings/KivSettingLayerCopy.h"
 #include "Settings/KivSettingLayers.h"
 #include "Settings/KivSettingListeners.h"
 #include "Settings/KivSettingRegistry.h"
 #include "Settings/KivSettingStore.h"
+#include "Settings/KivSettingTable.h"
 
 #include <cstdio>
 

@@ -4,7 +4,6 @@
 #include "Base/KivResult.h"
 #include "Base/KivUnicodeString.h"
 #include "Settings/KivSettingInfo.h"
-#include "Settings/KivSettingProvenance.h"
 #include "Settings/KivSettingValue.h"
 
 #include <functional>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Settings/KivSettingInfo.h"
 #include "Settings/KivSettingLayer.h"
-#include "Settings/KivSettingProvenance.h"
 
 #include <set>
 #include <string_view>

@@ -1,8 +1,8 @@
 #include "Settings/KivSettingStore.h"
 
 #include "Base/KivUndo.h"
+#include "Settings/KivSettingJournal.h"
 #include "Settings/KivSettingLayers.h"
-#include "Settings/KivSettingMerge.h"
 
 #include <algorithm>
 

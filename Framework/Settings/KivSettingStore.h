@@ -5,7 +5,6 @@
 #include "Settings/KivSettingOwnFile.h"
 #include "Settings/KivSettingPrefixLocks.h"
 #include "Settings/KivSettingRepository.h"
-#include "Settings/KivSettingSnapshot.h"
 #include "Settings/KivSettingSources.h"
 #include "Settings/KivSettingTable.h"
 

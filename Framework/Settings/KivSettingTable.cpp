@@ -1,6 +1,7 @@
 #include "Settings/KivSettingTable.h"
 
 #include <algorithm>
+#include <utility>
 
 std::size_t KivSettingTable::FindOrAdd(std::string_view key, std::size_t hash)
 {
@@ -47,4 +48,42 @@ std::string_view KivSettingTable::Keep(std::string_view key)
     std::copy(key.begin(), key.end(), place);
     _freeInChunk -= key.size();
     return {place, key.size()};
+}
+
+std::optional<KivSettingEnumeration::Item> KivSettingEnumeration::Next(const KivSettingTable& table,
+                                                                       bool isProtected)
+{
+    while (_next < table.Size()) {
+        const KivSettingAttribute& attribute = table[_next++];
+        if (!KivHasValue(attribute.Shown())) continue;
+        _hasAnswered = true;
+        return Item{attribute.key, KivSettingTypeName(attribute.Shown())};
+    }
+    if (!isProtected || std::exchange(_hasAnswered, true)) return std::nullopt;
+    return Item{"", ""};
+}
+
+KivSettingSnapshot::KivSettingSnapshot(const KivSettingTable& table) : _table(table)
+{
+    _shown.reserve(table.Size());
+    for (const KivSettingAttribute& attribute : table)
+        _shown.push_back({attribute.Shown(), attribute.LockWith(attribute.own)});
+}
+
+void KivSettingSnapshot::Replace(std::size_t index, const KivSettingEntry& entry)
+{
+    _shown[index] = {_table[index].ShownWith(entry), _table[index].LockWith(entry)};
+}
+
+std::vector<KivString> KivSettingSnapshot::Changed() const
+{
+    const Shown nothing; // of an attribute that was not there yet
+    std::vector<KivString> changed;
+    for (std::size_t i = 0; i < _table.Size(); ++i) {
+        const Shown& before = i < _shown.size() ? _shown[i] : nothing;
+        const KivSettingAttribute& now = _table[i];
+        if (!KivSameValue(before.value, now.Shown()) || before.lock != now.LockWith(now.own))
+            changed.emplace_back(now.key);
+    }
+    return changed;
 }

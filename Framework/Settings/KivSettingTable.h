@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Base/KivString.h"
 #include "Base/KivTextHash.h"
 #include "Settings/KivSettingEntry.h"
 #include "Settings/KivSettingInfo.h"
@@ -7,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -125,4 +127,43 @@ private:
 
     std::vector<std::unique_ptr<char[]>> _keyChunks;
     std::size_t _freeInChunk = 0;
+};
+
+// Goes through the attributes of a repository that have a value.
+class KivSettingEnumeration {
+public:
+    struct Item {
+        std::string_view name;
+        const char* type;
+    };
+
+    // The next one; none at the end. Where there is none at all because the file cannot be read, one without
+    // name and type stands in for them, so that the repository does not pass for an empty one.
+    std::optional<Item> Next(const KivSettingTable& table, bool isProtected);
+
+private:
+    std::size_t _next = 0; // attribute
+    bool _hasAnswered = false;
+};
+
+// The value and the lock of every attribute at one moment: what listeners compare.
+class KivSettingSnapshot {
+public:
+    // The table is to outlive it.
+    explicit KivSettingSnapshot(const KivSettingTable& table);
+
+    // As if an attribute had said this.
+    void Replace(std::size_t index, const KivSettingEntry& entry);
+
+    // The keys that show another value or lock now.
+    std::vector<KivString> Changed() const;
+
+private:
+    struct Shown {
+        KivSettingValue value;
+        KivSettingAttribute::Lock lock = KivSettingAttribute::Lock::Open;
+    };
+
+    const KivSettingTable& _table;
+    std::vector<Shown> _shown; // by the attribute's index
 };

@@ -1,4 +1,4 @@
-#include "Settings/KivSettingMerge.h"
+#include "Settings/KivSettingJournal.h"
 
 #include <utility>
 
