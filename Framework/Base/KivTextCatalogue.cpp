@@ -70,7 +70,12 @@ std::optional<std::string> Unquoted(std::string_view quoted)
 // Some values are names and numbers for programs.
 bool IsForPeople(std::string_view key)
 {
-    return !key.ends_with(".Icon") && !key.ends_with(".Position");
+    return !key.ends_with(".Icon") && !key.ends_with(".Position") && !key.ends_with(".Direction");
+}
+
+bool IsPseudo(const KivString& language)
+{
+    return language == KivTextCatalogue::kPseudoLanguage || language == KivTextCatalogue::kMirroredLanguage;
 }
 
 KivUnicodeString Lengthened(const KivUnicodeString& text)
@@ -92,7 +97,7 @@ const KivTextCatalogue& KivTextCatalogue::Open(const KivString& name)
         // The user's language first: what it says, English does not replace.
         entry->second.Load(catalogues.language, name);
         if (catalogues.language != kEnglish) entry->second.Load(kEnglish, name);
-        if (catalogues.language == kPseudoLanguage) {
+        if (IsPseudo(catalogues.language)) {
             for (auto& [key, text] : entry->second._texts) {
                 if (IsForPeople(key)) text = Lengthened(text);
             }
@@ -132,6 +137,12 @@ KivUnicodeString KivTextCatalogue::FrameworkText(const char* key,
     return bare;
 }
 
+bool KivTextCatalogue::IsRightToLeft()
+{
+    return AllCatalogues().language == kMirroredLanguage ||
+           Open(kFramework).Find("Language.Direction") == "RightToLeft";
+}
+
 void KivTextCatalogue::SetLanguage(const KivString& language)
 {
     AllCatalogues().language = language;
@@ -139,7 +150,7 @@ void KivTextCatalogue::SetLanguage(const KivString& language)
 
 std::set<std::string> KivTextCatalogue::KnownLanguages()
 {
-    std::set<std::string> languages{kPseudoLanguage};
+    std::set<std::string> languages{kPseudoLanguage, kMirroredLanguage};
     for (const fs::path& module : Modules()) {
         std::error_code failed;
         for (fs::directory_iterator entry(module / "texts", failed), end; !failed && entry != end;

@@ -33,6 +33,12 @@ public:
     // them. Shows at a glance what is cut off and what no catalogue holds.
     static constexpr const char* kPseudoLanguage = "Pseudo";
 
+    // Not a language either: the same, laid out from right to left.
+    static constexpr const char* kMirroredLanguage = "Mirrored";
+    // Whether the user's language is written from right to left: its framework texts say so
+    // ("Language.Direction" is "RightToLeft").
+    static bool IsRightToLeft();
+
     // The user's language, a directory name such as "English"; catalogues opened before it is set keep
     // theirs.
     static void SetLanguage(const KivString& language);

@@ -34,3 +34,11 @@ std::vector<KivFileContent> KivReadInTime(const std::vector<KivUnicodeString>& p
     }
     return contents;
 }
+
+bool KivAnswersInTime(const KivUnicodeString& path, std::chrono::milliseconds limit)
+{
+    if (KivIsNearPath(path)) return true;
+    const auto read = [](const KivUnicodeString& file) { return KivReadFile(file).state; };
+    static auto& calls = *new KivTimedCalls<KivFileContent::State>;
+    return calls.Make({path}, read, limit)[0].has_value();
+}

@@ -13,3 +13,7 @@
 std::vector<KivFileContent> KivReadInTime(const std::vector<KivUnicodeString>& paths,
                                           std::chrono::milliseconds limit,
                                           const std::function<KivFileContent(const KivUnicodeString&)>& read);
+
+// Whether a file could be read in time, or told to be unreadable: then whoever reads it in this thread is not
+// held up by its file system. To be used like the above.
+bool KivAnswersInTime(const KivUnicodeString& path, std::chrono::milliseconds limit);

@@ -208,3 +208,24 @@ std::optional<std::vector<KivSettingLine>> KivSettingFile::Become(KivSettingEdit
     _isTaken = true;
     return std::move(edit.written);
 }
+
+KivSettingEdit KivSettingFile::WithoutDamage() const
+{
+    const std::string_view text = Text();
+    std::string result;
+    result.reserve(text.size() + 96);
+    std::size_t copied = 0;
+    for (const KivSettingLine& line : _lines) {
+        if (line.kind != KivSettingLine::Kind::Damaged) continue;
+        result += text.substr(copied, line.begin - copied);
+        copied = line.end;
+        if (!line.lock || line.key.empty()) continue;
+        KivAppendSettingLine(result, {KivString(line.key), {.value = {}, .lock = true}});
+        const std::string_view old = text.substr(line.begin, line.end - line.begin);
+        result += old.substr(KivWithoutLineEnd(old).size());
+    }
+    result += text.substr(copied);
+    KivSettingEdit edit{std::make_unique<const std::string>(KivSettingSeal::Put(std::move(result))), {}, {}};
+    edit.whole.emplace(*edit.text);
+    return edit;
+}

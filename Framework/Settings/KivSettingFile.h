@@ -36,6 +36,7 @@ public:
 
     // A damaged line, or a version that this one does not know.
     bool IsDamaged() const { return _damaged; }
+    bool IsOfAnotherVersion() const { return _newer; }
 
     // False when the last line has no end: whoever wrote the file may have been cut off.
     bool IsTerminated() const { return KivIsLastLineEnded(*_text); }
@@ -54,6 +55,9 @@ public:
     // other lines were taken out or may have moved.
     void Prepare(const KivSettingEdit& edit);
     std::optional<std::vector<KivSettingLine>> Become(KivSettingEdit edit);
+
+    // The file without its damaged lines, sealed; a lock that can be read in one stays.
+    KivSettingEdit WithoutDamage() const;
 
 private:
     struct Match {

@@ -3,6 +3,7 @@
 #include "Base/KivDiagnosticScope.h"
 #include "Disk/KivExposure.h"
 #include "Disk/KivTimedCalls.h"
+#include "Disk/KivTimedReading.h"
 #include "Settings/KivSettingLayer.h"
 #include "Settings/KivSettingLayers.h"
 #include "Settings/KivSettingOwnFile.h"
@@ -49,17 +50,15 @@ public:
     }
 
 private:
-    struct Place {
-        const Layer* layer = nullptr;
-        int line = 0;
-    };
+    using Source = KivSettingPrefixLocks::Source;
 
     // "layer "site" (file, line 3)"
-    static KivUnicodeString Description(const Place& place)
+    KivUnicodeString Description(const Source& source) const
     {
+        const Layer& layer = *_outside[static_cast<std::size_t>(source.layer)];
         KivUnicodeString words("layer \"");
-        words.Append(place.layer->name).Append("\" (").Append(place.layer->path);
-        if (place.line > 0) words.Append(", line " + std::to_string(place.line));
+        words.Append(layer.name).Append("\" (").Append(layer.path);
+        if (source.line > 0) words.Append(", line " + std::to_string(source.line));
         return words.Append(")");
     }
 
@@ -70,6 +69,8 @@ private:
                 {Kind::NoEffect, layer.name, layer.path, line.number, KivString(line.key), text});
         };
         const bool isSet = KivHasValue(line.value);
+        // What a first start has written yields to every administrator: nobody has anything to do.
+        if (isSet && line.initial && !line.lock && IsKnown(line)) return;
         if (line.lock && layer.isUsers) {
             say(isSet ? "a lock in the user's own file binds nobody; its value counts"
                       : "a lock in the user's own file binds nobody");
@@ -79,7 +80,7 @@ private:
                        : line.lock    ? "the lock has no effect: there is no setting of this name"
                                       : "the value is not used: there is no setting of this name");
         }
-        if (const Place outer = LockedBy(line.key); outer.layer) {
+        if (const Source outer = LockedBy(line.key); outer.layer >= 0) {
             const bool locks = line.lock && !layer.isUsers;
             if (!locks && !isSet) return;
             return say(KivUnicodeString(locks && isSet ? "neither lock nor value have an effect: "
@@ -87,8 +88,6 @@ private:
                                                        : "the value is not used: ") +
                        Description(outer) + " locks it already");
         }
-        if (const auto given = _given.find(line.key); line.initial && isSet && given != _given.end())
-            say("the value of the first start yields to the one of " + Description(given->second));
     }
 
     bool IsKnown(const KivSettingLine& line) const
@@ -99,15 +98,12 @@ private:
     }
 
     // The lock of a layer further out on a key, or on all keys of a pattern.
-    Place LockedBy(std::string_view key) const
+    Source LockedBy(std::string_view key) const
     {
-        Place found;
-        if (const auto own = _locks.find(key); own != _locks.end()) found = own->second;
-        const KivSettingPrefixLocks::Source prefix = _prefixes.Find(key);
-        if (prefix.layer >= 0 &&
-            (!found.layer || _outside[static_cast<std::size_t>(prefix.layer)] < found.layer))
-            found = {_outside[static_cast<std::size_t>(prefix.layer)], prefix.line};
-        return found;
+        const auto own = _locks.find(key);
+        const Source prefix = _prefixes.Find(key);
+        if (own == _locks.end()) return prefix;
+        return prefix.layer >= 0 && prefix.layer < own->second.layer ? prefix : own->second;
     }
 
     void TakeLocks(const Layer& layer)
@@ -120,28 +116,19 @@ private:
             if (line.isPattern) {
                 _prefixes.Add(line.key, number, line.number);
             } else if (line.lock && !line.key.empty()) {
-                _locks.try_emplace(line.key, Place{&layer, line.number});
+                _locks.try_emplace(line.key, Source{number, line.number});
             }
-            if (KivHasValue(line.value)) _given[line.key] = {&layer, line.number};
         }
     }
 
     std::vector<std::string_view> _known; // sorted
     std::vector<const Layer*> _outside;
-    std::map<std::string_view, Place> _locks;
-    std::map<std::string_view, Place> _given;
+    std::map<std::string_view, Source> _locks;
     KivSettingPrefixLocks _prefixes;
     std::vector<KivSettingFinding> _findings;
 };
 
 constexpr std::chrono::seconds kPatience{1};
-
-// Whether a file can be read at once, or told to be unreadable.
-bool Answers(const KivUnicodeString& path)
-{
-    const auto read = [](const KivUnicodeString& file) { return KivReadFile(file).state; };
-    return KivTimedCalls<KivFileContent::State>().Make({path}, read, kPatience)[0].has_value();
-}
 
 // Whoever may change a layer's file, or the list, changes its locks. Each place is told of once. Where one
 // does not answer in time nothing is found: that it does not is said when the file is read.
@@ -201,7 +188,7 @@ std::vector<KivSettingFinding> KivCheckSettings(std::string_view name, std::span
         const KivDiagnosticScope scope(said);
         list = KivSettingLayerList::Read().Outside(editedLayer);
         outside = KivReadAdministratorLayers(list, fileName.View());
-        if (Answers(own.Path()))
+        if (KivAnswersInTime(own.Path(), kPatience))
             own.Read();
         else
             KivReport({.text = "the file system does not answer in time", .file = own.Path()});

@@ -28,7 +28,7 @@ void KivSettingInfo::ReadAs(const char* readerType)
 {
     if (origin == Origin::None || type == readerType) return;
     origin = Origin::None;
-    initial = false;
+    initial = setHere = false;
     value = layer = file = {};
     type = {};
     line = 0;
@@ -66,6 +66,7 @@ KivUnicodeString KivSettingInfo::Message(const KivUnicodeString& shown) const
     case Origin::Administrator:
         break;
     }
+    if (setHere) return Text("SettingHere", {});
     return Text("SettingByAdministrator", {Place(layer, file, line)});
 }
 
@@ -101,6 +102,7 @@ void KivSettingProvenance::Fill(KivSettingInfo& info) const
 {
     info.origin = origin;
     info.initial = initial;
+    info.setHere = setHere;
     if (layer) info.layer = *layer;
     if (file) info.file = *file;
     info.line = line;

@@ -15,6 +15,7 @@ struct KivSettingInfo {
 
     Origin origin = Origin::None; // who gave the value that is shown; None: only the reader's default is left
     bool initial = false;         // the user's value was written by the first start, not by the user
+    bool setHere = false;         // the layer being edited gives the value
     KivUnicodeString value;       // the value as text, empty when there is none
     KivString type;               // the type that it is stored in, or empty
     KivUnicodeString layer;       // name of the layer that gave the value, or empty
@@ -65,6 +66,7 @@ private:
 struct KivSettingProvenance {
     KivSettingInfo::Origin origin = KivSettingInfo::Origin::None;
     bool initial = false;
+    bool setHere = false;
     const KivUnicodeString* layer = nullptr; // null when there is no value
     const KivUnicodeString* file = nullptr;
     int line = 0;

@@ -105,11 +105,16 @@ KivUnicodeString KivSettingOwnFile::DirectoryTrouble() const
 
 // What no program of ours wrote as it stands, and does not mean what it says or is to mean, is kept byte for
 // byte. Damaged lines stay in the file as well; under a seal that fits they were kept by the save before.
-bool KivSettingOwnFile::SetAside(const KivFilePlace& place) const
+bool KivSettingOwnFile::SetAsideUnlessKept(const KivFilePlace& place) const
 {
     using State = KivSettingSeal::State;
     const State seal = _file.SealState();
-    if (seal != State::Broken && (seal == State::Fits || !_file.IsDamaged())) return true;
+    const bool isKept = seal != State::Broken && (seal == State::Fits || !_file.IsDamaged());
+    return isKept || SetAside(place);
+}
+
+bool KivSettingOwnFile::SetAside(const KivFilePlace& place) const
+{
     KivUnicodeString where;
     const int error = KivSetAside(place, _file.Text(), where);
     if (error != 0) return Refuse(KivErrorMessage("the file as it was cannot be set aside", error));
@@ -205,8 +210,21 @@ KivSettingOwnFile::Receipt KivSettingOwnFile::Save(const Merge& merge)
         }
         const Changes changes = merge();
         if (changes.empty()) return FlushOwed() ? Receipt::Nothing : Receipt::Visible;
-        if (!SetAside(lock.Place())) return Receipt::Refused;
+        if (!SetAsideUnlessKept(lock.Place())) return Receipt::Refused;
         return Write(lock, _file.With(changes));
+    });
+}
+
+KivSettingOwnFile::Receipt KivSettingOwnFile::Mend()
+{
+    return UnderLock([&](const KivFileLock& lock) {
+        if (!_file.IsDamaged()) return FlushOwed() ? Receipt::Nothing : Receipt::Visible;
+        if (_file.IsOfAnotherVersion()) {
+            Refuse("the file is of another version; a newer program may be able to read it");
+            return Receipt::Refused;
+        }
+        if (!SetAside(lock.Place())) return Receipt::Refused;
+        return Write(lock, _file.WithoutDamage());
     });
 }
 

@@ -50,6 +50,11 @@ public:
     // that is damaged or empty.
     Receipt Seal();
 
+    // Writes the file without its damaged lines, after the bytes as they were have been set aside; Nothing
+    // when no line is damaged. A layer's file is sealed with it. A file of another version is refused: who
+    // wrote it may understand what this one does not.
+    Receipt Mend();
+
     // Asks for the lock without waiting. As long as the answer is kept, every save uses it. Null, and why,
     // when there is nowhere to save to.
     std::shared_ptr<KivFileLock> AskTurn(KivUnicodeString& trouble);
@@ -68,6 +73,7 @@ private:
     KivUnicodeString DirectoryTrouble() const;
     bool Refuse(const KivUnicodeString& reason) const;
     bool SetAside(const KivFilePlace& place) const;
+    bool SetAsideUnlessKept(const KivFilePlace& place) const;
     Receipt Write(const KivFileLock& lock, KivSettingEdit next);
 
     KivUnicodeString _path;

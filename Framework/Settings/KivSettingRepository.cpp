@@ -361,6 +361,29 @@ bool KivSettingRepository::IsProtected() const
     return KivGuarded([&] { return Store().IsProtected(); }, true);
 }
 
+bool KivSettingRepository::IsDamaged() const
+{
+    return KivGuarded([&] { return Store().IsDamaged(); }, false);
+}
+
+std::vector<KivSettingRepository*> KivSettingRepository::Damaged()
+{
+    std::vector<KivSettingRepository*> damaged;
+    const KivSettingRegistry& registry = KivSettingRegistry::Instance();
+    for (const auto& [name, repository] : registry.repositories) {
+        if (repository && repository->_editedLayer == registry.editedLayer && repository->IsDamaged())
+            damaged.push_back(repository.get());
+    }
+    return damaged;
+}
+
+HRESULT KivSettingRepository::Mend()
+{
+    const Receipt receipt = KivGuarded([&] { return Store().Mend(); }, Receipt::Refused);
+    Refresh(); // the lines have other numbers
+    return receipt == Receipt::Refused ? E_FAIL : S_OK;
+}
+
 KivSettingRepository::Keys KivSettingRepository::Refresh()
 {
     Keys answer;

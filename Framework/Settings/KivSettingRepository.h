@@ -121,8 +121,9 @@ public:
     HRESULT SaveKeys(const char* const* keys, int count);
     HRESULT RollbackKeys(const char* const* keys, int count);
 
-    // Drops the user's value of each key, so that the administrator's shows, else the reader's default. Part
-    // of the working state. Keys that are not there are passed over.
+    // Drops the user's value of each key, so that the administrator's shows, else the reader's default; in
+    // administrator mode what the edited layer says of each, value and lock. Part of the working state. Keys
+    // that are not there are passed over.
     HRESULT ResetToAdminValues(const char* const* keys, int count);
 
     // Told after a commit, rollback, save or refresh which keys show another value or have got another
@@ -133,6 +134,14 @@ public:
     // True when the user's file is there but cannot be read: administrator values and defaults are served,
     // saves are refused and say so.
     bool IsProtected() const;
+
+    // True when lines of the file that is written are damaged: they say nothing, and every save keeps them.
+    bool IsDamaged() const;
+    // Those of which that is true, among all that were asked for on the layer that is edited.
+    static std::vector<KivSettingRepository*> Damaged();
+    // Drops those lines from the file, which is set aside as it was. Values and uncommitted changes stay.
+    // E_FAIL when the file could not be written; nothing is lost then.
+    HRESULT Mend();
 
     // Takes what other processes and administrators have saved since; uncommitted changes of this one stay on
     // top. Answers what listeners are told: the keys with another value or lock.

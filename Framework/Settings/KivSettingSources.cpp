@@ -27,6 +27,7 @@ void KivSettingSources::FillValue(const KivSettingAttribute& attribute,
         provenance.layer = &_ownName;
         provenance.file = &_ownPath;
         provenance.line = attribute.own.line;
+        provenance.setHere = _isAdministrator;
         if (_isAdministrator) provenance.origin = Origin::Administrator; // who writes a layer is its own one
     } else if (attribute.origin == Origin::Administrator) {
         const KivSettingLayer& layer = _layers[static_cast<std::size_t>(attribute.givenLayer)];

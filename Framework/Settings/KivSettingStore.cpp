@@ -321,10 +321,13 @@ void KivSettingStore::DropOwn(std::span<const char* const> keys)
     });
     for (const char* const key : keys) {
         const std::size_t index = key ? _table.IndexOf(key) : KivSettingTable::None;
-        if (index == KivSettingTable::None || !KivHasValue(_table[index].own.value)) continue;
+        if (index == KivSettingTable::None) continue;
         const KivSettingEntry& own = _table[index].own;
+        // A layer lets go of the lock too: one at its value would become one at the default.
+        const bool lock = own.lock && !_isAdministrator;
+        if (!KivHasValue(own.value) && own.lock == lock) continue;
         KivSettingEntry copy = own;
-        Change(index, {.value = {}, .lock = own.lock, .lockLine = own.lockLine});
+        Change(index, {.value = {}, .lock = lock, .lockLine = lock ? own.lockLine : 0});
         before.emplace_back(index, std::move(copy));
     }
     undo.Done();

@@ -67,6 +67,9 @@ public:
 
     bool IsAdministrator() const { return _isAdministrator; }
     bool IsProtected() const { return _own.IsProtected(); }
+    bool IsDamaged() const { return _own.File().IsDamaged() && !_own.File().IsOfAnotherVersion(); }
+    // See KivSettingOwnFile; what is in force stays so.
+    Receipt Mend() { return _own.Mend(); }
 
 private:
     const KivSettingAttribute* AddIfLocked(std::string_view key);

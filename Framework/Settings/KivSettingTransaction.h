@@ -21,7 +21,7 @@ public:
 
     // Puts a change down; of several for one key the last one counts. Nothing changes before Save.
     // No value drops the one that is there, so that the one of the layers outside shows, else the reader's
-    // default.
+    // default; in administrator mode the lock with it.
     void Set(const KivString& key, KivSettingValue value);
 
     // Makes the changes and saves them. Refusals do not keep the others from being stored; Refused means that

@@ -32,7 +32,8 @@ constexpr Command kResetCommand{
     .most = kAnyNumber,
     .summary = "drop the own values of whole options pages",
     .description = "Drops the user's value of everything that an options page shows, so that the\n"
-                   "administrator's values apply, else the defaults. The pages are General, Layout, View,\n"
+                   "administrator's values apply, else the defaults; with --layer the layer's values and\n"
+                   "locks. The pages are General, Layout, View,\n"
                    "Generation, Geometry, Dimension, Manipulators, Annotation, Compatibility and\n"
                    "Administration.",
     .examples = kExamples,

@@ -19,7 +19,7 @@ constexpr Option kOptions[] = {kForceOption};
 constexpr Example kExamples[] = {
     {"kivsettings unset Ruler", "the administrator's value applies again, else the default"},
     {"kivsettings unset 'Dim*'", "the same for every key that begins so"},
-    {"kivsettings unset --layer /etc/kiv/site Ruler", "withdraws the site's value; a lock stays"},
+    {"kivsettings unset --layer /etc/kiv/site Ruler", "withdraws what the site says: value and lock"},
 };
 
 } // namespace
@@ -30,8 +30,10 @@ constexpr Command kUnsetCommand{
     .fewest = 1,
     .most = kAnyNumber,
     .summary = "drop the own value of each key",
-    .description = "Drops the user's value (with --layer, the layer's) of each key or pattern, so that the\n"
-                   "administrator's applies, else the default. Keys without one are passed over.",
+    .description =
+        "Drops the user's value of each key or pattern, so that the administrator's applies, else the\n"
+        "default. With --layer it drops the layer's value and lock: a lock alone would close the\n"
+        "setting at another value. Keys without one are passed over.",
     .options = kOptions,
     .examples = kExamples,
     .run = &Run,

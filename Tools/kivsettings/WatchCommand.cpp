@@ -6,9 +6,12 @@
 #include "SettingListing.h"
 #include "ValueText.h"
 
+#include "Disk/KivTimedReading.h"
 #include "Settings/KivSettingLayers.h"
 
 namespace {
+
+constexpr std::chrono::seconds kPatience{1};
 
 // With the list of layers, by which others may come to count.
 std::vector<KivUnicodeString> Files(const Settings& settings)
@@ -41,7 +44,9 @@ ExitCode Run(const Arguments& arguments, Console& console)
     // What was saved between reading and watching.
     for (FileWatch::Event event = FileWatch::Event::Changed;; event = watch.Wait()) {
         if (event != FileWatch::Event::Changed) return ExitCode::Done;
-        settings.Repository().Refresh();
+        // The layer of --layer may lie on a share that is away: what is known of it stays.
+        if (KivAnswersInTime(settings.Repository().Files().back(), kPatience))
+            settings.Repository().Refresh();
         if (!console.Flush()) return ExitCode::Done;
     }
 }
