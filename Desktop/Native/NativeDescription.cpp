@@ -41,9 +41,21 @@ QString NativeDescription::LongHelp() const
     return ToQt(help.IsEmpty() ? speaker.GetHelp() : help);
 }
 
+QString NativeDescription::Facts() const
+{
+    return ToQt(Speaker(_node).GetFacts());
+}
+
+QString NativeDescription::Command() const
+{
+    return ToQt(Speaker(_node).GetCommand());
+}
+
+// A screen reader, which reads every description, is spared the facts.
 void NativeDescription::ShowOn(QWidget& widget) const
 {
-    widget.setToolTip(Wrapped(Speaker(_node).GetTip()));
+    const KivUnicodeString tip = Speaker(_node).GetTip(), facts = Speaker(_node).GetFacts();
+    widget.setToolTip(Wrapped(facts.IsEmpty() || tip.IsEmpty() ? tip : (tip + "\n").Append(facts)));
     widget.setWhatsThis(LongHelp());
     widget.setAccessibleName(Name());
     widget.setAccessibleDescription(Tip());

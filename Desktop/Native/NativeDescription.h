@@ -15,6 +15,9 @@ public:
     // A label speaks for its control.
     QString Tip() const;
     QString LongHelp() const;
+    // The setting behind it, for whoever wants to change it elsewhere; empty without one.
+    QString Facts() const;
+    QString Command() const;
 
     // Puts all of it on the widget.
     void ShowOn(QWidget& widget) const;

@@ -5,7 +5,6 @@
 
 #include <QBoxLayout>
 #include <QEvent>
-#include <QTextDocumentFragment>
 
 NativeDirectoryButton::NativeDirectoryButton(QWidget& field, QWidget* parent)
     : QToolButton(parent), _field(field)
@@ -43,8 +42,7 @@ void NativeDirectoryButton::Follow()
     setEnabled(_field.isEnabled());
     // A gray one has the reason of its field.
     setToolTip(isEnabled() ? accessibleName() : _field.toolTip());
-    setAccessibleDescription(isEnabled() ? QString()
-                                         : QTextDocumentFragment::fromHtml(_field.toolTip()).toPlainText());
+    setAccessibleDescription(isEnabled() ? QString() : _field.accessibleDescription());
 }
 
 NativeDirectoryRow::NativeDirectoryRow(KivDialog& node, QWidget* parent)

@@ -52,6 +52,14 @@ void DrawPadlock(QPainter& painter, Look look, QColor ink)
     painter.drawPath(plate.subtracted(keyhole));
 }
 
+// A dot beside the shackle: the layer that is edited gives the value.
+void DrawSetHere(QPainter& painter, const QColor& ink)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ink);
+    painter.drawEllipse(QPointF(2.2, 3.0), 2.0, 2.0);
+}
+
 } // namespace
 
 NativePadlock::NativePadlock(KivDialog& node, QWidget* parent)
@@ -95,6 +103,8 @@ void NativePadlock::paintEvent(QPaintEvent*)
     }
     const Look look = IsClosed() ? Look::Closed : IsPartlyClosed() ? Look::Partly : Look::Open;
     DrawPadlock(painter, look, palette().color(QPalette::Active, QPalette::WindowText));
+    if (TreeNode() && TreeNode()->IsSetHere())
+        DrawSetHere(painter, palette().color(QPalette::Active, QPalette::WindowText));
     painter.restore();
     if (GovernsRows()) DrawBar(painter);
     if (!hasFocus()) return;
@@ -133,6 +143,7 @@ void NativePadlock::Pressed()
     if (IsSwitch()) {
         KivUserHand::Press(*TreeNode());
     } else if (IsClosed() || IsPartlyClosed()) {
-        NativePanel::Open(*this, accessibleName(), ToQt(TreeNode()->GetReport()), NativePanel::Copy::Offered);
+        NativePanel::Open(*this, accessibleName(), ToQt(TreeNode()->GetReport()),
+                          ToQt(TreeNode()->GetCommand()));
     }
 }

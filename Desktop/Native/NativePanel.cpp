@@ -1,6 +1,8 @@
 #include "Native/NativePanel.h"
 
 #include "Common/NativeText.h"
+#include "Native/NativeDescription.h"
+#include "Native/NativePiece.h"
 
 #include <QAccessible>
 #include <QAccessibleEvent>
@@ -19,9 +21,10 @@ constexpr int kWidthInLetters = 48;
 
 } // namespace
 
-NativePanel* NativePanel::Open(QWidget& beside, const QString& name, const QString& text, Copy copy)
+NativePanel* NativePanel::Open(QWidget& beside, const QString& name, const QString& text,
+                               const QString& command)
 {
-    auto* panel = new NativePanel(beside, name, text, copy);
+    auto* panel = new NativePanel(beside, name, text, command);
     panel->PutBeside(beside);
     panel->show();
     QAccessibleEvent alert(panel, QAccessible::Alert);
@@ -33,10 +36,18 @@ void NativePanel::OpenLongHelp(const QWidget& window)
 {
     QWidget* field = window.focusWidget();
     while (field && field != &window && field->whatsThis().isEmpty()) field = field->parentWidget();
-    if (field && field != &window) Open(*field, WindowText("Help"), field->whatsThis(), Copy::NotOffered);
+    if (!field || field == &window) return;
+    const auto* piece = dynamic_cast<NativePiece*>(field);
+    QString text = field->whatsThis(), command;
+    if (piece && piece->Node()) {
+        const NativeDescription description(*piece->Node());
+        if (const QString facts = description.Facts(); !facts.isEmpty()) text += "\n\n" + facts;
+        command = description.Command();
+    }
+    Open(*field, WindowText("Help"), text, command);
 }
 
-NativePanel::NativePanel(QWidget& beside, const QString& name, const QString& text, Copy copy)
+NativePanel::NativePanel(QWidget& beside, const QString& name, const QString& text, const QString& command)
     : QFrame(&beside, Qt::Popup)
 {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -57,16 +68,26 @@ NativePanel::NativePanel(QWidget& beside, const QString& name, const QString& te
     auto* layout = new QVBoxLayout(this);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(label);
-    if (copy == Copy::NotOffered) return;
-    auto* button = new QPushButton(WindowText("Copy"), this);
-    button->setAccessibleDescription(WindowText("CopyHelp"));
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    if (!command.isEmpty()) buttons->addWidget(MakeCopyButton("CopyCommand", "CopyCommandHelp", command));
+    QPushButton* copy = MakeCopyButton("Copy", "CopyHelp", text);
+    buttons->addWidget(copy);
+    layout->addLayout(buttons);
+    copy->setFocus();
+}
+
+QPushButton* NativePanel::MakeCopyButton(const char* title, const char* help, const QString& words)
+{
+    auto* button = new QPushButton(WindowText(title), this);
+    button->setToolTip(WindowText(help));
+    button->setAccessibleDescription(WindowText(help));
     button->setAutoDefault(true);
-    connect(button, &QPushButton::clicked, this, [this, text] {
-        QGuiApplication::clipboard()->setText(text);
+    connect(button, &QPushButton::clicked, this, [this, words] {
+        QGuiApplication::clipboard()->setText(words);
         close();
     });
-    layout->addWidget(button, 0, Qt::AlignRight);
-    button->setFocus();
+    return button;
 }
 
 void NativePanel::PutBeside(const QWidget& widget)

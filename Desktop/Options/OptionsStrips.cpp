@@ -5,8 +5,11 @@
 #include <QAccessible>
 #include <QAccessibleEvent>
 #include <QHBoxLayout>
+#include <QPushButton>
 #include <QStyle>
 #include <QToolButton>
+
+#include <utility>
 
 namespace {
 
@@ -30,7 +33,8 @@ OptionsLayerStrip::OptionsLayerStrip(const QString& layer, QWidget* parent) : QL
     setText(WindowText("EditsLayer").arg(path.replace(u'/', QStringLiteral("/\u200b"))));
 }
 
-OptionsMessageStrip::OptionsMessageStrip(QWidget* parent) : QFrame(parent), _text(new QLabel(this))
+OptionsMessageStrip::OptionsMessageStrip(QWidget* parent)
+    : QFrame(parent), _text(new QLabel(this)), _button(new QPushButton(this))
 {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
@@ -46,7 +50,7 @@ OptionsMessageStrip::OptionsMessageStrip(QWidget* parent) : QFrame(parent), _tex
     _text->setWordWrap(true);
     _text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* dismiss = new QToolButton(this);
-    dismiss->setIcon(style()->standardIcon(QStyle::SP_DialogCloseButton, nullptr, this));
+    dismiss->setText(QStringLiteral("\u00d7")); // an icon of the style is black in the dark as well
     dismiss->setAutoRaise(true);
     dismiss->setToolTip(WindowText("DismissMessages"));
     dismiss->setAccessibleName(WindowText("DismissMessages"));
@@ -55,7 +59,11 @@ OptionsMessageStrip::OptionsMessageStrip(QWidget* parent) : QFrame(parent), _tex
     auto* layout = new QHBoxLayout(this);
     layout->addWidget(icon, 0, Qt::AlignTop);
     layout->addWidget(_text, 1);
+    layout->addWidget(_button, 0, Qt::AlignTop);
     layout->addWidget(dismiss, 0, Qt::AlignTop);
+    _button->setAutoDefault(false);
+    _button->hide();
+    connect(_button, &QPushButton::clicked, this, [this] { std::exchange(_mend, {})(); });
     hide();
 }
 
@@ -67,9 +75,21 @@ void OptionsMessageStrip::Add(const QString& message)
     Show();
 }
 
+void OptionsMessageStrip::Offer(const QString& message, const QString& button, const QString& help,
+                                std::function<void()> mend)
+{
+    _mend = std::move(mend);
+    _button->setText(button);
+    _button->setToolTip(help);
+    _button->setAccessibleDescription(help);
+    _button->show();
+    Add(message);
+}
+
 void OptionsMessageStrip::Clear()
 {
     _messages.clear();
+    _button->hide();
     hide();
 }
 

@@ -4,6 +4,10 @@
 #include <QLabel>
 #include <QStringList>
 
+#include <functional>
+
+class QPushButton;
+
 // Says at the head of the window whose layer is edited: an administrator's changes are no settings of his
 // own.
 class OptionsLayerStrip : public QLabel {
@@ -21,6 +25,9 @@ public:
 
     // The same message again is not repeated.
     void Add(const QString& message);
+    // A message with a button that mends what it tells of.
+    void Offer(const QString& message, const QString& button, const QString& help,
+               std::function<void()> mend);
     void Clear();
     const QStringList& Messages() const { return _messages; }
 
@@ -29,4 +36,6 @@ private:
 
     QStringList _messages;
     QLabel* _text;
+    QPushButton* _button;
+    std::function<void()> _mend;
 };

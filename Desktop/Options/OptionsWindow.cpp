@@ -76,6 +76,10 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
     _turnAwaited.setInterval(kFrame);
     connect(&_turnAwaited, &QTimer::timeout, this, [this] { LookForTurn(); });
 
+    if (!KivSettingRepository::Damaged().empty()) {
+        _messages->Offer(WindowText("Damaged"), WindowText("DropDamaged"), WindowText("DropDamagedHelp"),
+                         [this] { Mend(); });
+    }
     if (!ShowPage(KivUnicodeString(_memory.Page()))) _list->setCurrentRow(0);
     BringForward(_list->currentRow()); // the session has just filled it
     connect(_list, &QListWidget::currentRowChanged, this, [this](int row) { PageChosen(row); });
@@ -104,7 +108,7 @@ QWidget* OptionsWindow::MakeButtons()
     auto* box = new QDialogButtonBox(this);
     _ok = box->addButton(WindowText("OK"), QDialogButtonBox::AcceptRole);
     _cancel = box->addButton(WindowText("Cancel"), QDialogButtonBox::RejectRole);
-    _reset = box->addButton(WindowText("Reset"), QDialogButtonBox::ResetRole);
+    _reset = box->addButton(WindowText(_layer ? "RemoveFromLayer" : "Reset"), QDialogButtonBox::ResetRole);
     _ok->setDefault(true);
     // A click keeps the focus in the field whose text it enters, so that a refused one is not lost.
     for (QPushButton* button : {_ok, _reset}) button->setFocusPolicy(Qt::TabFocus);
@@ -165,7 +169,7 @@ void OptionsWindow::BringForward(int page)
     _stack->setCurrentIndex(page);
     const QString title = ToQt(_session->Pages()[static_cast<std::size_t>(page)].title);
     PageView(page).setAccessibleName(title);
-    _reset->setToolTip(WindowText("ResetHelp").arg(title));
+    _reset->setToolTip(WindowText(_layer ? "RemoveFromLayerHelp" : "ResetHelp").arg(title));
     _reset->setAccessibleDescription(_reset->toolTip());
     OrderTab();
 }
@@ -297,6 +301,17 @@ void OptionsWindow::showEvent(QShowEvent* event)
     const QSize frame = frameGeometry().size() - size();
     resize(size().boundedTo(FreeSize() - frame));
     QDialog::showEvent(event);
+}
+
+void OptionsWindow::Mend()
+{
+    _messages->Clear();
+    // What else was a note tells here where the file as it was has gone.
+    const KivDiagnosticScope scope([this](const KivDiagnostic& said) {
+        _messages->Add(ToQt(said.Message()));
+        return true;
+    });
+    for (KivSettingRepository* repository : KivSettingRepository::Damaged()) repository->Mend();
 }
 
 QSize OptionsWindow::sizeHint() const

@@ -62,6 +62,7 @@ private:
     bool CommitFields();
     NativeField* Field() const;
     void Reset();
+    void Mend();
     void TidyUp();
     void LookForTurn();
     QSize FreeSize() const;

@@ -45,8 +45,12 @@ void Take(CommandLine& line, std::string_view name, const std::string& value)
     } else if (name == "scale") {
         if (!ReadScale(value, line.scale)) wrong("WrongScale", value);
     } else if (name == "scheme") {
-        if (value == "light" || value == "dark")
-            line.scheme = value == "dark" ? DraftingScheme::Dark : DraftingScheme::Light;
+        if (value == "light")
+            line.scheme = DraftingScheme::Light;
+        else if (value == "dark")
+            line.scheme = DraftingScheme::Dark;
+        else if (value == "contrast")
+            line.scheme = DraftingScheme::Contrast;
         else
             wrong("WrongScheme", value);
     } else if (name == "language") {

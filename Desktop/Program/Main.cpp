@@ -1,3 +1,4 @@
+#include "Base/KivTextCatalogue.h"
 #include "Common/NativeText.h"
 #include "Common/SettingsWatch.h"
 #include "KivDrwSettingAccess.h"
@@ -74,6 +75,7 @@ int main(int argc, char** argv)
     const QApplication application(names, argv);
     QApplication::setApplicationName("kivdrafting");
     QApplication::setDesktopFileName("kivdrafting");
+    QApplication::setLayoutDirection(KivTextCatalogue::IsRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     ApplyScheme(line.scheme == DraftingScheme::System && line.screenshots ? DraftingScheme::Light
                                                                           : line.scheme);
 

@@ -162,6 +162,18 @@ KivUnicodeString KivDialog::GetTip() const
     return tip.Append(lock->GetReason());
 }
 
+KivUnicodeString KivDialog::GetFacts() const
+{
+    const KivDlgLock* lock = GetLock();
+    return lock ? lock->GetFacts() : KivUnicodeString();
+}
+
+KivUnicodeString KivDialog::GetCommand() const
+{
+    const KivDlgLock* lock = GetLock();
+    return lock ? lock->GetCommand() : KivUnicodeString();
+}
+
 KivDlgLock* KivDialog::GetLock() const
 {
     return static_cast<KivDlgLock*>(_lock.Get());

@@ -87,6 +87,10 @@ public:
     // What there is to say of it: why it cannot be used while that is so, never empty then; else its help,
     // and which part of its value is locked.
     virtual KivUnicodeString GetTip() const;
+    // Key, default, range and unit of the setting behind it, a line each, and the command line that gives
+    // what is in force; empty without a setting.
+    virtual KivUnicodeString GetFacts() const;
+    virtual KivUnicodeString GetCommand() const;
 
     // The padlock that governs this object, and the label that names it; null without one.
     KivDlgLock* GetLock() const;

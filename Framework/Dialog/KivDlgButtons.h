@@ -54,9 +54,15 @@ public:
     static constexpr const char* Name = "KivDlgPushButton";
     using KivClass::KivClass;
 
+    // From now on it can be pressed whatever its page asks for: it opens settings whose locks an
+    // administrator turns also while the page has no use for them.
+    void LeadToLocks() { _leadsToLocks = true; }
+    bool IsEnabled() const override { return _leadsToLocks || KivClass::IsEnabled(); }
+
     // The button was pressed.
     KivNotification* GetPushBActivateNotification() const { return &_activated; }
 
 private:
+    bool _leadsToLocks = false;
     mutable KivNotification _activated{"KivDlgPushBActivateNotification"};
 };

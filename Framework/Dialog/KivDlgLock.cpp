@@ -54,6 +54,12 @@ bool KivDlgLock::Opens() const
                        [](const KivSettingInfo& companion) { return companion.lockedHere; });
 }
 
+bool KivDlgLock::IsSetHere() const
+{
+    return _info.setHere || std::any_of(_info.companions.begin(), _info.companions.end(),
+                                        [](const KivSettingInfo& companion) { return companion.setHere; });
+}
+
 bool KivDlgLock::Toggle()
 {
     KivSettingRepository* repository = KivSettingRepository::GetRepository(_info.repository.ConvertToChar());
@@ -82,7 +88,11 @@ KivUnicodeString KivDlgLock::SettingName() const
 
 KivUnicodeString KivDlgLock::GetSpokenName() const
 {
-    if (IsSwitch()) return Say(IsPartlyClosed() ? "PadlockSwitchPartly" : "PadlockSwitch", {SettingName()});
+    if (IsSwitch()) {
+        const KivUnicodeString name =
+            Say(IsPartlyClosed() ? "PadlockSwitchPartly" : "PadlockSwitch", {SettingName()});
+        return IsSetHere() ? Say("PadlockSwitchSet", {name}) : name;
+    }
     if (IsPartlyClosed()) return Say("PadlockPartly", {SettingName()});
     return Say(IsClosed() ? "PadlockClosed" : "PadlockOpen", {SettingName()});
 }
@@ -103,12 +113,24 @@ KivUnicodeString KivDlgLock::GetTip() const
 
 KivUnicodeString KivDlgLock::GetReport() const
 {
-    if (_info.companions.empty())
-        return Say("PadlockReport", {SettingName(), GetReason(), KivUnicodeString(_info.key)});
-    KivUnicodeString keys(_info.key);
-    for (const KivSettingInfo& companion : _info.companions)
-        keys.Append(", ").Append(KivUnicodeString(companion.key));
-    return Say("PadlockReportKeys", {SettingName(), GetReason(), keys});
+    return Say("PadlockReport", {SettingName(), GetReason(), GetFacts()});
+}
+
+KivUnicodeString KivDlgLock::GetFacts() const
+{
+    KivUnicodeString facts;
+    const auto add = [&](const KivSettingInfo& part) {
+        if (!facts.IsEmpty()) facts.Append("\n");
+        facts.Append(_describer ? _describer->facts(part) : KivUnicodeString(part.key));
+    };
+    add(_info);
+    for (const KivSettingInfo& companion : _info.companions) add(companion);
+    return facts;
+}
+
+KivUnicodeString KivDlgLock::GetCommand() const
+{
+    return _describer ? _describer->command(_info) : KivUnicodeString();
 }
 
 void KivDlgLock::AddAssociatedDialog(KivDialog* dialog)

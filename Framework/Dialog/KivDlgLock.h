@@ -5,6 +5,12 @@
 
 #include <vector>
 
+// What the library that a setting belongs to says of it to whoever wants to change it elsewhere.
+struct KivSettingDescriber {
+    KivUnicodeString (*facts)(const KivSettingInfo& info);   // key, default, range and unit: one line
+    KivUnicodeString (*command)(const KivSettingInfo& info); // the command line that gives what is in force
+};
+
 // A padlock: shows who governs a setting, and keeps the controls bound to it disabled while it is locked.
 class KivDlgLock : public KivClass<KivDlgLock, KivDialog> {
 public:
@@ -24,6 +30,8 @@ public:
     bool IsPartlyClosed() const { return !IsLocked() && _info.IsPartlyClosed(); }
     // An administrator's, who locks and unlocks the setting for the users of the layer that he edits.
     bool IsSwitch() const { return _info.canLock; }
+    // Whether the layer that the administrator edits gives the value, or a part of it.
+    bool IsSetHere() const;
     // Whether pressing the switch opens it: as soon as the edited layer locks some part.
     bool Opens() const;
     // Turns the switch over in the repository's working state, the companions of the setting along with it.
@@ -36,8 +44,12 @@ public:
     KivUnicodeString GetReason() const;
     // The setting, the reason and, for a switch, what pressing it does.
     KivUnicodeString GetTip() const override;
-    // The setting, the reason and the keys, for a person to pass on.
+    // The setting, the reason and the facts, for a person to pass on.
     KivUnicodeString GetReport() const;
+    // A describer outlives the padlock; without one the facts are the keys, and there is no command.
+    void SetDescriber(const KivSettingDescriber& describer) { _describer = &describer; }
+    KivUnicodeString GetFacts() const override;
+    KivUnicodeString GetCommand() const override;
     // Whether its words change with what the control shows.
     bool SpeaksOfValue() const { return IsClosed() || IsPartlyClosed(); }
 
@@ -52,5 +64,6 @@ private:
     KivUnicodeString SettingName() const;
 
     KivSettingInfo _info;
+    const KivSettingDescriber* _describer = nullptr;
     std::vector<KivWeakPtr<KivDialog>> _associated;
 };

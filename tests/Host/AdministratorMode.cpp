@@ -86,6 +86,55 @@ TEST_F(AdministratorMode, CancelTakesLocksBackAndPadlocksShowIt)
     EXPECT_EQ(box.Saved(file), bytes + "lock BackgroundColorRedDitto\nlock BackgroundColorBlueDitto\n");
 }
 
+// A lock alone would go on binding users, at another value than the one that was locked.
+TEST_F(AdministratorMode, ResetRemovesFromTheLayerWhatItSaysOfThePage)
+{
+    box.Write(file, "# ours\nlock double RotSnapAngle = 45\nlock Drw_settings_GridSnapPt\nlock View*\n"
+                    "lock int DrwAnnotSnapMod = 1\n");
+    Edit("site");
+    EXPECT_TRUE(Lock("spinnerRotSnapAngle").IsSetHere());
+    EXPECT_TRUE(Lock("spinnerRotSnapAngle").GetReason().View().starts_with("Locked at 45° for the users"));
+    EXPECT_EQ(Lock("spinnerRotSnapAngle").GetSpokenName(),
+              "Lock “Rotation snap angle” for users, set in this layer");
+    session->Reset(Page("General"));
+    for (const char* row : {"spinnerRotSnapAngle", "checkSnap"})
+        EXPECT_FALSE(Lock(row).IsClosed() || Lock(row).IsSetHere()) << row;
+    ASSERT_TRUE(session->Commit().empty());
+    EXPECT_EQ(box.Saved(file), "# ours\nlock View*\nlock int DrwAnnotSnapMod = 1\n");
+}
+
+// What a page has no use for at the moment may still have to be locked.
+TEST_F(AdministratorMode, EveryWindowOpensForLocking)
+{
+    const char* const buttons[] = {"pushGenFil", "project3DPtsPushButton", "linetypePushButton"};
+    box.Write(file, "int DrwPreventGVS = 0\n");
+    Open();
+    for (const char* button : buttons) EXPECT_FALSE(Press(button)) << button;
+    Edit("site");
+    for (const char* button : buttons) EXPECT_TRUE(Press(button)) << button;
+    ASSERT_TRUE(KivUserHand::Press(Lock("frameRadioGenFil")));
+    ASSERT_TRUE(session->Commit().empty());
+    EXPECT_NE(box.Saved(file).find("lock DrwGenFilConfigure\n"), std::string::npos) << box.Saved(file);
+}
+
+// As the command line takes it, whatever the row calls it and in which unit.
+TEST_F(AdministratorMode, RowsTellTheirKeysAndTheCommandThatSetsThem)
+{
+    box.Write(file, "string DrwFrameAndTitleBlockPath = \"/a b/it's\"\n");
+    Open();
+    EXPECT_EQ(Control("editorGridSpacing").GetFacts(),
+              "Key Drw_settings_GridPrimarySpacing, default 100, 0 to 1e+15 (length in millimeters)");
+    EXPECT_EQ(Control("editorGridSpacing").GetCommand(),
+              "kivsettings set Drw_settings_GridPrimarySpacing=100");
+    EXPECT_EQ(Control("editorTitleBlockPath").GetCommand(),
+              "kivsettings set 'DrwFrameAndTitleBlockPath=/a b/it'\\''s'");
+    EXPECT_EQ(Control("comboBackgroundColorDD").GetCommand(),
+              "kivsettings set BackgroundColorRedDitto=1 BackgroundColorGreenDitto=1 "
+              "BackgroundColorBlueDitto=1");
+    Edit("site");
+    EXPECT_TRUE(Control("checkGrid").GetCommand().View().starts_with("kivsettings set --layer "));
+}
+
 // Each with the setting's title and the value that the row shows, by which it is in force.
 TEST_F(AdministratorMode, PadlocksNameTheirSettingAndTheValueInForce)
 {
@@ -109,7 +158,8 @@ TEST_F(AdministratorMode, PadlocksNameTheirSettingAndTheValueInForce)
     starts(Lock("comboBackgroundColor").GetReason(), by + "Cyan in ");
     starts(Lock("editorTitleBlockPath").GetReason(), by + "an empty text in ");
     EXPECT_EQ(Lock("spinnerRotSnapAngle").GetReport(),
-              "Rotation snap angle: " + Lock("spinnerRotSnapAngle").GetReason() + "\nKey: RotSnapAngle");
+              "Rotation snap angle: " + Lock("spinnerRotSnapAngle").GetReason() +
+                  "\nKey RotSnapAngle, default 15, 1 to 355 (angle in degrees)");
     EXPECT_EQ(Control("editorGridSpacing").GetTip(), Lock("editorGridSpacing").GetReason());
     ASSERT_TRUE(Press("pushAnnotActiveSnap"));
     EXPECT_EQ(Node<KivDialog>("frameRadioAnnotActivSnaplocked").GetShownValue(),

@@ -1,8 +1,12 @@
 #include "Form/KivControlBinding.h"
 
+#include "Settings/KivDrwSettingDescriber.h"
+
 KivControlBinding::KivControlBinding(KivDrwLockDialog* control, KivProperty& property, Rule rule)
     : _control(control), _property(property), _rule(std::move(rule))
-{}
+{
+    if (control) control->SetDescriber(KivDrwSettingDescriber);
+}
 
 void KivControlBinding::ShowLock()
 {

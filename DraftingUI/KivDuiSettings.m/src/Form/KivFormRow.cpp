@@ -4,6 +4,7 @@
 #include "Form/KivControlBindings.h"
 #include "Form/KivPageForm.h"
 #include "KivDrwControlServices.h"
+#include "Settings/KivSettingRepository.h"
 
 #include <utility>
 
@@ -87,6 +88,7 @@ KivDrwLockLabel* KivFormRow::Spacer(const KivString& name)
 KivDlgPushButton* KivFormRow::Push(const KivString& name)
 {
     auto* button = new KivDlgPushButton(&_frame, name, 0UL);
+    if (!KivSettingRepository::EditedLayer().IsEmpty()) button->LeadToLocks();
     Put(*button);
     return button;
 }

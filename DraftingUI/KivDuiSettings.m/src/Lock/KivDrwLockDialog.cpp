@@ -58,6 +58,11 @@ void KivDrwLockDialog::SetInfo(const KivSettingInfo& info)
     if (_lock) _lock->SetInfo(info);
 }
 
+void KivDrwLockDialog::SetDescriber(const KivSettingDescriber& describer)
+{
+    if (_lock) _lock->SetDescriber(describer);
+}
+
 void KivDrwLockDialog::SetSensitivity(unsigned long sensitivity)
 {
     if (!_dialog || !_lock) return;

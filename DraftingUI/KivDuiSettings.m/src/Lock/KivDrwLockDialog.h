@@ -23,6 +23,8 @@ public:
 
     // Another record of the same setting, after its lock or value may have changed.
     void SetInfo(const KivSettingInfo& info);
+    // See KivDlgLock.
+    void SetDescriber(const KivSettingDescriber& describer);
 
     void SetSensitivity(unsigned long sensitivity);
     // KivDlgDisabled without a padlock or a control, and while locked.
