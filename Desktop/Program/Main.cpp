@@ -3,6 +3,7 @@
 #include "Common/SettingsWatch.h"
 #include "KivDrwSettingAccess.h"
 #include "KivDrwWorkbench.h"
+#include "Parameter/KivNumberFormat.h"
 #include "Program/DraftingMessages.h"
 #include "Program/DraftingPictures.h"
 #include "Program/DraftingSignals.h"
@@ -12,6 +13,7 @@
 #include "Sheet/SheetSettings.h"
 
 #include <QApplication>
+#include <QLocale>
 
 #include <cstdio>
 #include <iostream>
@@ -61,6 +63,7 @@ int main(int argc, char** argv)
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     CommandLine line = CommandLine::Parse(arguments);
     DraftingDiagnostics diagnostics(true);
+    KivSetDecimalMark(QLocale::system().decimalPoint() == "," ? ',' : '.');
     if (const auto code = DraftingStart::Prepare(line, std::cout, std::cerr)) return *code;
 
     if (!line.screenshots && !HasScreen()) {

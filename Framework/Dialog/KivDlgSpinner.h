@@ -24,6 +24,10 @@ public:
     void SetRange(float minimum, float maximum, float step, int reserved);
     void GetRange(float& minimum, float& maximum, float& step) const;
 
+    // A person may type whole numbers only. Pages are not held to it, as with the range.
+    void SetWholeNumbers(bool wholeNumbers) { _wholeNumbers = wholeNumbers; }
+    bool HasWholeNumbers() const { return _wholeNumbers; }
+
     // How a number without a unit is printed, in the manner of "%g"; null or empty: by the precision.
     void SetFormat(const char* format);
     const char* GetFormat() const { return _format.ConvertToChar(); }
@@ -45,6 +49,7 @@ private:
     double _minimum = 0.0;
     double _maximum = 100.0;
     double _step = 1.0;
+    bool _wholeNumbers = false;
     KivString _format;
     int _textWidth = 0;
     mutable KivNotification _modified{"KivDlgSpinnerModifyNotification"};

@@ -8,6 +8,7 @@
 #include "Dialog/KivDlgLock.h"
 #include "Dialog/KivDlgSpinner.h"
 #include "Dialog/KivHandReach.h"
+#include "Parameter/KivMeasure.h"
 
 #include <algorithm>
 #include <cmath>
@@ -119,6 +120,11 @@ KivHandAnswer KivUserHand::Type(KivDlgSpinner& spinner, const KivUnicodeString& 
     double value = 0.0;
     if (!spinner.Read(text, value))
         return Refused(KivTextCatalogue::FrameworkText("HandMeansNothing", {text}));
+    if (const auto doubt = KivMeasure::DoubtOf(text))
+        return Refused(
+            KivTextCatalogue::FrameworkText("HandInDoubt", {text, doubt->decimal, doubt->thousands}));
+    if (spinner.HasWholeNumbers() && value != std::trunc(value))
+        return Refused(KivTextCatalogue::FrameworkText("HandNotWhole", {text}));
     double minimum = 0.0, maximum = 0.0, step = 0.0;
     spinner.GetMinMaxStep(minimum, maximum, step);
     if (value < minimum && IsMeantAs(minimum, value, spinner)) value = minimum;

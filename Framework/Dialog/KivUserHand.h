@@ -38,7 +38,8 @@ KivHandAnswer Press(KivDlgLock& lock);
 KivHandAnswer Choose(KivDlgCombo& combo, int line);
 KivHandAnswer ChooseColor(KivComboColor& combo, unsigned int red, unsigned int green, unsigned int blue);
 KivHandAnswer Type(KivDlgEditor& editor, const KivUnicodeString& text);
-// Text typed into a spinner and committed.
+// Text typed into a spinner and committed. Refused is also what could be meant in two ways (see
+// KivMeasure::DoubtOf), and a fraction where whole numbers are asked for.
 KivHandAnswer Type(KivDlgSpinner& spinner, const KivUnicodeString& text);
 // The arrows of a spinner: so many steps up, or down if negative; ends at the limits of its range.
 KivHandAnswer Turn(KivDlgSpinner& spinner, int steps);

@@ -67,6 +67,26 @@ KivUnicodeString KivMeasure::Print(double stored, KivDlgUnit number, int precisi
     return KivUnicodeString(shown < 0.0 && text != "0\"" ? "-" + text : text);
 }
 
+std::optional<KivMeasure::Doubt> KivMeasure::DoubtOf(const KivUnicodeString& typed)
+{
+    constexpr std::string_view digits = "0123456789";
+    const std::string_view text = typed.View();
+    const std::size_t mark = text.find(KivDecimalMark() == ',' ? '.' : ',');
+    if (mark == std::string_view::npos || mark == 0) return {};
+    const std::size_t before = text.find_last_not_of(digits, mark - 1) + 1; // 0 where all are digits
+    const std::size_t end = std::min(text.find_first_not_of(digits, mark + 1), text.size());
+    const std::string_view whole = text.substr(before, mark - before);
+    if (whole.empty() || whole.size() > 3 || whole.front() == '0' || end - mark != 4) return {};
+
+    std::string_view decimals = text.substr(mark + 1, 3);
+    decimals = decimals.substr(0, decimals.find_last_not_of('0') + 1);
+    const auto with = [&](const std::string& rest) {
+        return KivUnicodeString(std::string(text.substr(0, mark)) + rest + std::string(text.substr(end)));
+    };
+    return Doubt{with(decimals.empty() ? "" : KivDecimalMark() + std::string(decimals)),
+                 with(std::string(text.substr(mark + 1, 3)))};
+}
+
 bool KivMeasure::Read(const KivUnicodeString& text, KivDlgUnit current, double& stored)
 {
     if (text.View().size() > kLongestText) return false;

@@ -3,8 +3,10 @@
 #include "Base/KivUnicodeString.h"
 #include "Parameter/KivDlgUnit.h"
 
+#include <optional>
+
 // Lengths, angles and plain numbers as a person reads and types them. Stored values are meters, radians and
-// seconds. The locale of the process has no influence.
+// seconds. Nothing but KivDecimalMark tells how a locale writes them.
 class KivMeasure {
 public:
     // A stored value in a unit, with its suffix: "20 mm", "0.787 in", "15°", "2' 3 1/2\"".
@@ -22,4 +24,12 @@ public:
     // more than one decimal mark, digits in groups, a division by zero, a unit of another magnitude, text
     // left over, a number beyond the range of doubles, more than 256 bytes.
     static bool Read(const KivUnicodeString& text, KivDlgUnit current, double& stored);
+
+    // Whether a mark in a text that is read as a decimal one may have been meant to group thousands: "1,000",
+    // where a point is the decimal mark. The two texts that say it without doubt, "1" and "1000"; else none.
+    struct Doubt {
+        KivUnicodeString decimal;
+        KivUnicodeString thousands;
+    };
+    static std::optional<Doubt> DoubtOf(const KivUnicodeString& text);
 };

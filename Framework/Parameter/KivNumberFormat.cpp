@@ -9,6 +9,8 @@
 
 namespace {
 
+char decimalMark = '.'; // set once, by the thread that shows
+
 struct Conversion {
     std::string_view flags;
     std::size_t width = 0;
@@ -90,6 +92,7 @@ std::string Digits(double value, char letter, int precision)
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, form, precision);
     std::string digits(buffer.data(), result.ptr);
     if (upper) std::replace(digits.begin(), digits.end(), 'e', 'E');
+    std::replace(digits.begin(), digits.end(), '.', decimalMark);
     return digits;
 }
 
@@ -113,6 +116,16 @@ constexpr double kFirstWithExponent = 1.0e16; // a double has no decimals from h
 constexpr int kMostDecimals = 17;
 
 } // namespace
+
+void KivSetDecimalMark(char mark)
+{
+    if (mark == '.' || mark == ',') decimalMark = mark;
+}
+
+char KivDecimalMark()
+{
+    return decimalMark;
+}
 
 KivUnicodeString KivPrintNumber(double value, const char* format, int precision)
 {
@@ -139,17 +152,16 @@ std::string KivPrintDecimal(double value, int precision)
     const bool withExponent = std::abs(value) >= kFirstWithExponent;
     const auto format = withExponent ? std::chars_format::scientific : std::chars_format::fixed;
     char* end = std::to_chars(begin, limit, value, format).ptr;
-    if (withExponent) return {begin, end};
-
     const char* point = std::find(begin, end, '.');
-    if (end - point > precision + 1) {
+    if (!withExponent && end - point > precision + 1) {
         end = std::to_chars(begin, limit, value, format, precision).ptr;
         point = std::find(begin, end, '.');
     }
-    if (point != end) {
+    if (!withExponent && point != end) {
         while (end[-1] == '0') --end;
         if (end[-1] == '.') --end;
     }
-    const std::string text(begin, end);
+    std::string text(begin, end);
+    std::replace(text.begin(), text.end(), '.', decimalMark);
     return text == "-0" ? "0" : text;
 }

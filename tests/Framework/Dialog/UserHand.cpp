@@ -82,6 +82,17 @@ TEST_F(UserHand, TurnsAndTypesWithinTheRange)
     EXPECT_FALSE(KivUserHand::Type(*spinner, "305 mm"));
     for (const char* limit : {"1 ft", "12 in", "30,48 cm", "0"})
         EXPECT_TRUE(KivUserHand::Type(*spinner, limit)) << limit;
+
+    // What a person types is not cut, nor guessed at; what a page puts there is its own affair.
+    spinner->SetUnit(KivDlgUnitNone);
+    spinner->SetMinMaxStep(1.0, 2000.0, 1.0, 1);
+    EXPECT_EQ(KivUserHand::Type(*spinner, "1,500").why,
+              "“1,500” can mean 1.5 or 1500: please type 1.5 or 1500.");
+    EXPECT_TRUE(KivUserHand::Type(*spinner, "10.5"));
+    spinner->SetWholeNumbers(true);
+    EXPECT_EQ(KivUserHand::Type(*spinner, "11.5").why, "“11.5” is not a whole number.");
+    EXPECT_EQ(spinner->GetValue(), 10.5);
+    EXPECT_TRUE(KivUserHand::Type(*spinner, "11,0"));
 }
 
 TEST_F(UserHand, ChoosesAnyColorAndNamesIt)

@@ -83,6 +83,16 @@ TEST(ShownMeasures, NumbersInTheFormatOfASpinner)
                                "%-", "%.-1f", "plain", "%hg", "%1$g"})
         EXPECT_EQ(KivPrintNumber(2.12345, format, 3).View(), "2.123") << format;
     EXPECT_EQ(KivPrintNumber(2.0, nullptr, 3).View(), "2");
+
+    // Another program's locale: everything that a person reads follows.
+    KivSetDecimalMark(',');
+    EXPECT_EQ(KivPrintNumber(2.5, "%g mm", 3).View(), "2,5 mm");
+    EXPECT_EQ(KivPrintNumber(2.5, nullptr, 3).View(), "2,5");
+    EXPECT_EQ(KivMeasure::Print(0.0205, KivDlgUnitMillimeter, 3).View(), "20,5 mm");
+    EXPECT_EQ(KivMeasure::Print(1.25e20, KivDlgUnitMeter, 3).View(), "1,25e+20 m");
+    KivSetDecimalMark(' ');
+    EXPECT_EQ(KivMeasure::Print(27.5 * kInch, KivDlgUnitFeetDecimalInch, 3).View(), "2' 3,5\"");
+    KivSetDecimalMark('.');
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "Parameter/KivControlUnit.h"
 #include "Parameter/KivMeasure.h"
+#include "Parameter/KivNumberFormat.h"
 
 #include <gtest/gtest.h>
 
@@ -92,6 +93,44 @@ TEST(TypedMeasures, NothingElseIsTakenAndTheValueStays)
     EXPECT_EQ(stored, kUntouched);
 }
 
+// A mark before three digits that is not the locale's is no decimal mark for sure.
+TEST(TypedMeasures, WhatMayGroupThousandsIsInDoubt)
+{
+    struct Case {
+        char mark;
+        const char* text;
+        const char* decimal;
+        const char* thousands;
+    };
+    const Case doubtful[] = {
+        {'.', "1,000", "1", "1000"},
+        {'.', "-12,340 mm", "-12.34 mm", "-12340 mm"},
+        {'.', "2' 1,005\"", "2' 1.005\"", "2' 1005\""},
+        {',', "1.000", "1", "1000"},
+        {',', "999.001in", "999,001in", "999001in"},
+    };
+    for (const Case& c : doubtful) {
+        KivSetDecimalMark(c.mark);
+        const auto doubt = KivMeasure::DoubtOf(c.text);
+        ASSERT_TRUE(doubt) << c.text;
+        EXPECT_EQ(doubt->decimal, c.decimal);
+        EXPECT_EQ(doubt->thousands, c.thousands);
+        for (const KivUnicodeString& text : {doubt->decimal, doubt->thousands})
+            EXPECT_FALSE(KivMeasure::DoubtOf(text)) << text.View();
+    }
+    for (const auto& [mark, text] : {std::pair('.', "1.000"),
+                                     {'.', "1,0000"},
+                                     {'.', "1,00"},
+                                     {'.', "0,125"},
+                                     {'.', ",125"},
+                                     {'.', "1000,000"},
+                                     {',', "1,000"}}) {
+        KivSetDecimalMark(mark);
+        EXPECT_FALSE(KivMeasure::DoubtOf(text)) << text;
+    }
+    KivSetDecimalMark('.');
+}
+
 // Settings hold millimeters, taken as 1000.0 times the meters of a spinner.
 TEST(TypedMeasures, MillimetersComeBackExactly)
 {
@@ -122,8 +161,16 @@ TEST(TypedMeasures, Angles)
     EXPECT_EQ(Typed("200 gon", KivDlgUnitDegree), std::numbers::pi);
 }
 
-// What is shown and taken again as it stands moves the value by no more than the rounding of the text.
-TEST(TypedMeasures, WhatIsShownIsUnderstood)
+// What is shown and taken again as it stands moves the value by no more than the rounding of the text, and is
+// never in doubt.
+class ShownInALocale : public testing::TestWithParam<char> {
+protected:
+    void SetUp() override { KivSetDecimalMark(GetParam()); }
+    void TearDown() override { KivSetDecimalMark('.'); }
+};
+INSTANTIATE_TEST_SUITE_P(TypedMeasures, ShownInALocale, testing::Values('.', ','));
+
+TEST_P(ShownInALocale, IsUnderstood)
 {
     const double values[] = {0.0,        0.02,      0.0254,     0.3048,     0.304799999, 1.0 / 3, 1.0,
                              12.3456789, 0.9999999, 1e-7,       1e-12,      1e-300,      5e-324,  1234567.891,
@@ -137,6 +184,7 @@ TEST(TypedMeasures, WhatIsShownIsUnderstood)
                     const int decimals =
                         unit.notation == KivNotation::FeetInchFraction ? 0 : std::clamp(precision, 0, 17);
                     const double step = unit.denominator ? 1.0 / unit.denominator : std::pow(10.0, -decimals);
+                    ASSERT_FALSE(KivMeasure::DoubtOf(text)) << text.View();
                     double read = kUntouched;
                     ASSERT_TRUE(KivMeasure::Read(text, unit.number, read)) << text.View();
                     ASSERT_NEAR(read, stored, unit.ToStored(step) * 0.500001 + value * 1e-15) << text.View();

@@ -39,7 +39,7 @@ void KivWholeNumberBinding::ShowValue(KivDrwLockSpinner& spinner, const int& val
 std::optional<int> KivWholeNumberBinding::Reading(KivDrwLockSpinner& spinner)
 {
     const int whole = WholeOf(spinner.GetValue());
-    // What is typed is shown as it counts.
+    // It is shown as it counts.
     if (spinner.GetValue() != static_cast<double>(whole)) ShowValue(spinner, whole);
     return whole;
 }

@@ -59,7 +59,7 @@ private:
     std::optional<double> Reading(KivDrwLockSpinner& spinner) override;
 };
 
-// A whole number that is typed as a real one: what is typed is cut towards zero and shown so.
+// A whole number in a field of real ones: what a page puts there is cut towards zero and shown so.
 class KivWholeNumberBinding final : public KivTypedBinding<KivDrwLockSpinner, int> {
 public:
     using KivTypedBinding::KivTypedBinding;
