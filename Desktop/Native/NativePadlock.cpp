@@ -86,6 +86,7 @@ void NativePadlock::ShowNode()
     setCheckable(isSwitch);
     setChecked(isSwitch && IsClosed());
     setWhatsThis(WindowText(isSwitch ? "PadlockSwitchHelp" : "PadlockHelp"));
+    if (_panel) _panel->Say(accessibleName(), ToQt(TreeNode()->GetReport()), ToQt(TreeNode()->GetCommand()));
     update();
 }
 
@@ -143,7 +144,7 @@ void NativePadlock::Pressed()
     if (IsSwitch()) {
         KivUserHand::Press(*TreeNode());
     } else if (IsClosed() || IsPartlyClosed()) {
-        NativePanel::Open(*this, accessibleName(), ToQt(TreeNode()->GetReport()),
-                          ToQt(TreeNode()->GetCommand()));
+        _panel = NativePanel::Open(*this, accessibleName(), ToQt(TreeNode()->GetReport()),
+                                   ToQt(TreeNode()->GetCommand()));
     }
 }

@@ -4,6 +4,9 @@
 #include "Native/NativePiece.h"
 
 #include <QAbstractButton>
+#include <QPointer>
+
+class NativePanel;
 
 // A padlock. Closed, also in part, it is a control that Tab reaches and that opens the reason as a small
 // panel; open, it is pale and only answers to the pointer that rests on it. An administrator's is a switch,
@@ -31,4 +34,6 @@ private:
     bool GovernsRows() const;
     void Pressed();
     void DrawBar(QPainter& painter) const;
+
+    QPointer<NativePanel> _panel; // while it is open
 };

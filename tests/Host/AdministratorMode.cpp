@@ -1,3 +1,4 @@
+#include "Dialog/KivDlgView.h"
 #include "OptionsPages.h"
 
 namespace {
@@ -195,6 +196,42 @@ TEST_F(AdministratorMode, APartlyLockedColorSaysWhichPartAndIsOpenedAtOnce)
     EXPECT_EQ(box.Bytes(file).find("lock"), std::string::npos) << box.Bytes(file);
     EXPECT_TRUE(KivUserHand::Press(Lock("comboBackgroundColor")));
     EXPECT_TRUE(Lock("comboBackgroundColor").IsClosed());
+}
+
+// What a padlock said when its view was last told to look.
+class Heard : public KivDlgView {
+public:
+    explicit Heard(KivDlgLock& lock) : _lock(lock), said(lock.GetReason()) { lock.SetView(this); }
+    ~Heard() { _lock.SetView(nullptr); }
+    void NodeChanged(KivDialog&) override { said = _lock.GetReason(); }
+    void NodeDestroyed(KivDialog&) override {}
+
+private:
+    KivDlgLock& _lock;
+
+public:
+    KivUnicodeString said;
+};
+
+// Also in a window, which stores what was chosen only when it is closed.
+TEST_F(AdministratorMode, APadlockFollowsEveryChangeAtOnce)
+{
+    box.Write(box.File("user"), "initial int Drw_settings_GridDisplay = 0\nint DrwGenerationModeVal = 3\n"
+                                "initial int KivDrwHRVLOD = 4\n");
+    Open();
+    ASSERT_TRUE(Press("pushRasterOptions"));
+    for (const char* row : {"checkGrid", "spinHRVLOD"}) {
+        const Heard heard(Lock(row));
+        EXPECT_EQ(heard.said, "As it was at the first start.") << row;
+        ASSERT_TRUE(Drive(Control(row))) << row;
+        EXPECT_EQ(heard.said, "Set by you.") << row;
+    }
+    box.Write(file, "lock double Drw_settings_GridPrimarySpacing = 50\n");
+    Edit("site");
+    const Heard heard(Lock("editorGridSpacing"));
+    EXPECT_EQ(heard.said.View().substr(0, 16), "Locked at 50 mm ");
+    ASSERT_TRUE(KivUserHand::Type(Spinner("editorGridSpacing"), "60"));
+    EXPECT_EQ(heard.said.View().substr(0, 16), "Locked at 60 mm ");
 }
 
 } // namespace

@@ -28,7 +28,13 @@ bool KivControlBinding::IsSender(const KivCommand* from) const
 bool KivControlBinding::ReadIfSender(const KivCommand* from)
 {
     if (!IsSender(from)) return false;
-    Read();
+    if (Read() && _control) {
+        // The padlock must not say that the value is as somebody else has left it.
+        KivSettingInfo chosen = _property.Info();
+        chosen.origin = KivSettingInfo::Origin::User;
+        chosen.initial = false;
+        _control->SetInfo(chosen);
+    }
     if (_rule) _rule();
     return true;
 }
