@@ -66,7 +66,7 @@ protected:
     QPushButton* Button(const char* text)
     {
         for (QPushButton* button : window->findChildren<QPushButton*>())
-            if (button->text() == text) return button;
+            if (button->text().remove('&') == text) return button;
         return nullptr;
     }
 
