@@ -3,7 +3,11 @@
 #include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QAccessibleEvent>
+#include <QAction>
+#include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -26,6 +30,16 @@ constexpr int kWidthInLetters = 44;
 
 } // namespace
 
+void NativeMark::Say(const QString& why)
+{
+    if (!_sign && why.isEmpty()) return;
+    if (!_sign)
+        _sign = _line.addAction(_line.style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, &_line),
+                                QLineEdit::TrailingPosition);
+    _sign->setVisible(!why.isEmpty());
+    _sign->setToolTip("<qt>" + why.toHtmlEscaped() + "</qt>"); // what was typed may look like markup
+}
+
 NativeBubble::NativeBubble(QWidget& field) : QFrame(SurfaceOf(field)), _field(field), _label(new QLabel(this))
 {
     setObjectName("NativeBubble");
@@ -41,6 +55,9 @@ NativeBubble::NativeBubble(QWidget& field) : QFrame(SurfaceOf(field)), _field(fi
     layout->setContentsMargins(gap, gap / 2, gap, gap / 2);
     layout->addWidget(_label);
     hide();
+    connect(qApp, &QApplication::focusChanged, this, [this] {
+        if (isVisible()) Place();
+    });
 }
 
 void NativeBubble::Say(const QString& text)
@@ -52,18 +69,28 @@ void NativeBubble::Say(const QString& text)
     setAccessibleName(text);
     adjustSize();
 
-    // Within what is seen of the surface.
-    const QRect seen = parentWidget()->visibleRegion().boundingRect();
-    const QRect field(_field.mapTo(parentWidget(), QPoint()), _field.size());
-    QPoint corner(isRightToLeft() ? field.right() - width() : field.left(), field.bottom() + 1);
-    if (corner.y() + height() > seen.bottom() && field.top() - height() >= seen.top())
-        corner.setY(field.top() - height());
-    corner.setX(std::max(seen.left(), std::min(corner.x(), seen.right() - width())));
-    move(corner);
+    for (QWidget* other : parentWidget()->findChildren<QWidget*>(objectName(), Qt::FindDirectChildrenOnly))
+        if (other != this) other->hide();
+    Place();
     raise();
     show();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+// Below the field or above it: within what is seen of the surface, and not over what the user goes on to.
+void NativeBubble::Place()
+{
+    const QRect seen = parentWidget()->visibleRegion().boundingRect();
+    const QRect field(_field.mapTo(parentWidget(), QPoint()), _field.size());
+    QRect place(QPoint(isRightToLeft() ? field.right() - width() : field.left(), field.bottom() + 1), size());
+    place.moveLeft(std::max(seen.left(), std::min(place.left(), seen.right() - width())));
+    const QWidget* const next = QApplication::focusWidget();
+    const bool isOver = next && next != &_field && parentWidget()->isAncestorOf(next) &&
+                        place.intersects(QRect(next->mapTo(parentWidget(), QPoint()), next->size()));
+    if ((isOver || place.bottom() > seen.bottom()) && field.top() - height() >= seen.top())
+        place.moveBottom(field.top() - 1);
+    move(place.topLeft());
 }
 
 QString NativeBubble::Text() const

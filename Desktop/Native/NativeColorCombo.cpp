@@ -105,7 +105,8 @@ QColorDialog* NativeColorCombo::OpenMixer()
         if (TreeNode())
             KivUserHand::ChooseColor(*Combo(), Part(chosen.red()), Part(chosen.green()), Part(chosen.blue()));
     });
-    mixer->open();
+    // The popup of the combo has the keyboard until the event is over that chose the entry.
+    QMetaObject::invokeMethod(mixer, &QDialog::open, Qt::QueuedConnection);
     return mixer;
 }
 

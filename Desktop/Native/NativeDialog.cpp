@@ -5,14 +5,15 @@
 #include "Native/NativeBuilder.h"
 #include "Native/NativePanel.h"
 #include "Native/NativePiece.h"
+#include "Native/NativeScrollArea.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
-#include <QDialogButtonBox>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollArea>
 #include <QStyle>
 
 #include <algorithm>
@@ -27,33 +28,26 @@ constexpr int kLinesHigh = 7;
 
 NativeDialog::NativeDialog(KivDialog& node, const OptionsMemory& memory, QWidget* owner)
     : QDialog(owner), NativePieceFor(node, this), _memory(memory),
-      _memoryName(QString(node.IsA()) + "." + objectName()), _area(new QScrollArea(this)),
-      _buttons(new QDialogButtonBox(this))
+      _memoryName(QString(node.IsA()) + "." + objectName()), _area(new NativeScrollArea(this)),
+      _foot(new QHBoxLayout), _close(new QPushButton(WindowText("Close")))
 {
     setSizeGripEnabled(true);
-    _area->setFrameShape(QFrame::NoFrame);
-    _area->setWidgetResizable(true);
-    _area->setFocusPolicy(Qt::NoFocus); // its fields have it
     auto* surface = new QWidget;
     NativeBuilder::Fill(node, *surface);
     _area->setWidget(surface);
 
-    // After the content, as Tab goes.
-    _close = _buttons->addButton(WindowText("Close"), QDialogButtonBox::RejectRole);
+    auto* const note = new QLabel(WindowText("CloseKeeps"));
+    note->setWordWrap(true);
+    _foot->addWidget(note, 1);
+    _foot->addWidget(_close);
     _close->setAutoDefault(false);
-    // A click keeps the focus in the field whose text it enters, so that a refused one is not lost.
-    _close->setFocusPolicy(Qt::TabFocus);
+    _close->setAccessibleDescription(note->text());
     connect(_close, &QPushButton::clicked, this, [this] { Close(Way::ByButton); });
 
     auto* all = new QVBoxLayout(this);
     all->addWidget(_area, 1);
-    all->addWidget(_buttons);
+    all->addLayout(_foot);
     TakeGeometry();
-}
-
-NativeField* NativeDialog::Field() const
-{
-    return dynamic_cast<NativeField*>(focusWidget());
 }
 
 void NativeDialog::ShowNode()
@@ -65,9 +59,10 @@ void NativeDialog::ShowNode()
 
 QSize NativeDialog::SizeFor(const QSize& leastContent) const
 {
-    const QSize content = _area->widget() ? _area->widget()->sizeHint() : QSize();
-    const QSize buttons(0, _buttons->sizeHint().height() + std::max(layout()->spacing(), 0));
-    return (content.expandedTo(leastContent) + buttons).grownBy(layout()->contentsMargins());
+    const QSize needed = _area->widget() ? _area->widget()->sizeHint() : QSize();
+    const QSize content = needed.expandedTo(leastContent);
+    const QSize foot(0, _foot->heightForWidth(content.width()) + std::max(layout()->spacing(), 0));
+    return (content + foot).grownBy(layout()->contentsMargins());
 }
 
 QSize NativeDialog::sizeHint() const
@@ -79,7 +74,10 @@ QSize NativeDialog::sizeHint() const
 
 void NativeDialog::Close(Way way)
 {
-    if (NativeField* field = Field(); field && !field->CommitText()) return;
+    const QPointer<QWidget> self(this);
+    QWidget* const refused = NativeField::CommitAll(*this);
+    if (!self) return;
+    if (refused) return refused->setFocus();
     if (!TreeNode()) return;
     way == Way::ByButton ? KivUserHand::Close(*TreeNode()) : KivUserHand::CloseWindow(*TreeNode());
 }
@@ -109,30 +107,43 @@ void NativeDialog::keyPressEvent(QKeyEvent* event)
 }
 
 // Where it was the last time, if a screen still shows that, else beside its owner; large enough for what it
-// has to show by now. Another window of the name
-// that stands there is not covered.
+// has to show by now. Another window of the name that stands there is not covered: each is a title bar away.
 void NativeDialog::TakeGeometry()
 {
     const QRect remembered = _memory.Window(_memoryName);
     const QScreen* there = remembered.isValid() ? screen()->virtualSiblingAt(remembered.center()) : nullptr;
-    QRect wanted = there ? remembered : GeometryBeside(*parentWidget());
-    const int step = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
-    const auto others = parentWidget()->findChildren<QDialog*>(objectName(), Qt::FindDirectChildrenOnly);
-    const auto covers = [&](const QDialog* other) {
-        // Near is enough: the desktop makes room for a frame at the edge of the screen.
-        return other != this && other->isVisible() &&
-               (other->geometry().topLeft() - wanted.topLeft()).manhattanLength() < step;
-    };
     const QRect free = (there ? there : parentWidget()->screen())->availableGeometry();
-    wanted.setSize(wanted.size().expandedTo(SizeFor(QSize(0, 0))).boundedTo(free.size()));
-    wanted.moveLeft(std::max(free.left(), std::min(wanted.left(), free.right() - wanted.width() + 1)));
-    wanted.moveTop(std::max(free.top(), std::min(wanted.top(), free.bottom() - wanted.height() + 1)));
-    // One that stands at the edge of the screen is passed from the corner.
+    // The desktop frames it as it has framed its owner, and lets no part of the frame leave the screen: asked
+    // for without it, different places at an edge would become one.
+    const QWidget& owner = *parentWidget();
+    const QMargins margins(owner.geometry().left() - owner.frameGeometry().left(),
+                           owner.geometry().top() - owner.frameGeometry().top(),
+                           owner.frameGeometry().right() - owner.geometry().right(),
+                           owner.frameGeometry().bottom() - owner.geometry().bottom());
+    QRect wanted = there ? remembered : GeometryBeside(owner);
+    wanted.setSize(wanted.size().expandedTo(SizeFor(QSize(0, 0))));
+    QRect frame = wanted.marginsAdded(margins);
+    frame.setSize(frame.size().boundedTo(free.size()));
+    frame.moveLeft(std::max(free.left(), std::min(frame.left(), free.right() - frame.width() + 1)));
+    frame.moveTop(std::max(free.top(), std::min(frame.top(), free.bottom() - frame.height() + 1)));
+
+    const int step = std::max(style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this), margins.top());
+    const auto others = owner.findChildren<QDialog*>(objectName(), Qt::FindDirectChildrenOnly);
+    const auto isNear = [step](const QPoint& one, const QPoint& another) {
+        return (one - another).manhattanLength() < step;
+    };
+    // One that was just opened has no frame yet.
+    const auto covers = [&](const QDialog* other) {
+        return other != this && other->isVisible() &&
+               (isNear(other->frameGeometry().topLeft(), frame.topLeft()) ||
+                isNear(other->geometry().topLeft(), frame.marginsRemoved(margins).topLeft()));
+    };
     for (qsizetype i = 0; i < others.size() && std::any_of(others.begin(), others.end(), covers); ++i) {
-        wanted.translate(step, step);
-        if (!free.contains(wanted)) wanted.moveTopLeft(free.topLeft());
+        const bool hasRoom = frame.right() + step <= free.right();
+        frame.translate(hasRoom ? step : -step, step);
+        if (!free.contains(frame)) frame.moveTopLeft(free.topLeft());
     }
-    setGeometry(wanted);
+    setGeometry(frame.marginsRemoved(margins));
 }
 
 QRect NativeDialog::GeometryBeside(const QWidget& owner) const

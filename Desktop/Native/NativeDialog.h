@@ -6,10 +6,9 @@
 
 #include <QDialog>
 
-class NativeField;
-class QDialogButtonBox;
+class NativeScrollArea;
+class QHBoxLayout;
 class QPushButton;
-class QScrollArea;
 
 // A window of its own within the options. Its user can only ask for its end: it disappears when its node is
 // hidden or destroyed. It remembers its geometry under the node's class and name: different windows may bear
@@ -18,9 +17,6 @@ class NativeDialog : public QDialog, public NativePieceFor<KivDlgDialog> {
 public:
     // Built, but not shown yet.
     NativeDialog(KivDialog& node, const OptionsMemory& memory, QWidget* owner);
-
-    // The field that has the focus in it, or null.
-    NativeField* Field() const;
 
     // Enter enters the text of a field; it closes nothing.
     void accept() override {}
@@ -45,7 +41,7 @@ private:
 
     OptionsMemory _memory;
     QString _memoryName; // the node may be gone when it is needed
-    QScrollArea* _area;
-    QDialogButtonBox* _buttons;
-    QPushButton* _close = nullptr;
+    NativeScrollArea* _area;
+    QHBoxLayout* _foot; // what closing does, and the button
+    QPushButton* _close;
 };

@@ -5,12 +5,10 @@
 #include "Dialog/KivUserHand.h"
 #include "Native/NativeDescription.h"
 
-#include <QAction>
 #include <QFileDialog>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPointer>
-#include <QStyle>
 
 #include <algorithm>
 
@@ -21,18 +19,16 @@ constexpr int kMostLetters = 80;
 
 } // namespace
 
-NativeEditor::NativeEditor(KivDialog& node, QWidget* parent)
-    : QLineEdit(parent), NativePieceFor(node, this),
-      _mark(new QAction(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this), QString(), this))
+NativeEditor::NativeEditor(KivDialog& node, QWidget* parent) : QLineEdit(parent), NativePieceFor(node, this)
 {
-    addAction(_mark, TrailingPosition);
-    _mark->setVisible(false);
-    connect(this, &QLineEdit::textEdited, this, [this] { Complain({}); });
+    connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
+        if (text != _shown) Complain({});
+    });
 }
 
 void NativeEditor::ShowNode()
 {
-    if (!isModified() || ToQt(TreeNode()->GetText()) != _shown) ShowText();
+    if (!IsTyping() || ToQt(TreeNode()->GetText()) != _shown) ShowText();
     Describe();
 }
 
@@ -41,13 +37,13 @@ void NativeEditor::ShowText()
     if (!TreeNode()) return;
     _shown = ToQt(TreeNode()->GetText());
     if (text() != _shown) setText(_shown);
-    setModified(false);
+    _untouched = text();
     ShowDirectory();
 }
 
 bool NativeEditor::CommitText()
 {
-    if (isModified()) Enter(text());
+    if (IsTyping()) Enter(text());
     return true;
 }
 
@@ -67,13 +63,13 @@ QFileDialog* NativeEditor::OpenChooser()
     chooser->setFileMode(QFileDialog::Directory);
     chooser->setOption(QFileDialog::ShowDirsOnly);
     connect(chooser, &QFileDialog::fileSelected, this, &NativeEditor::Enter);
-    chooser->open();
+    QMetaObject::invokeMethod(chooser, &QDialog::open, Qt::QueuedConnection); // as in NativeColorCombo
     return chooser;
 }
 
 void NativeEditor::ShowDirectory()
 {
-    if (!TreeNode() || isModified()) return; // what is being typed is looked for when it is entered
+    if (!TreeNode() || IsTyping()) return; // what is being typed is looked for when it is entered
     switch (TreeNode()->GetDirectoryState()) {
     case KivDirectoryState::There:
         return Complain({});
@@ -88,8 +84,7 @@ void NativeEditor::Complain(const QString& complaint)
 {
     if (complaint == _complaint) return;
     _complaint = complaint;
-    _mark->setVisible(!complaint.isEmpty());
-    _mark->setToolTip("<qt>" + complaint.toHtmlEscaped() + "</qt>"); // a path may look like markup
+    _mark.Say(complaint);
     Describe();
 }
 
@@ -99,7 +94,7 @@ void NativeEditor::Describe()
     if (!TreeNode()) return;
     NativeDescription(*TreeNode()).ShowOn(*this);
     if (_complaint.isEmpty() || !isEnabled()) return;
-    setToolTip(_mark->toolTip());
+    setToolTip("<qt>" + _complaint.toHtmlEscaped() + "</qt>"); // a path may look like markup
     setAccessibleDescription(_complaint);
 }
 
@@ -119,8 +114,8 @@ void NativeEditor::keyPressEvent(QKeyEvent* event)
         event->ignore(); // the key is the dialog's
         return;
     case Qt::Key_Escape:
-        event->setAccepted(isModified());
-        if (isModified()) ShowText();
+        event->setAccepted(IsTyping());
+        if (IsTyping()) DropText();
         return;
     default:
         QLineEdit::keyPressEvent(event);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Dialog/KivDlgEditor.h"
+#include "Native/NativeBubble.h"
 #include "Native/NativePiece.h"
 
 #include <QLineEdit>
@@ -14,12 +15,12 @@ public:
     NativeEditor(KivDialog& node, QWidget* parent);
 
     bool CommitText() override;
-    bool IsTyping() const override { return isModified(); }
+    void DropText() override { ShowText(); }
+    bool IsTyping() const override { return text() != _untouched; }
     QSize sizeHint() const override;
 
     // Non-modal for the tree: the directory is entered when the dialog is accepted.
     QFileDialog* OpenChooser();
-    // What is wrong with the path that is shown, else empty.
 
 protected:
     void ShowNode() override;
@@ -34,7 +35,8 @@ private:
     void Complain(const QString& complaint);
     void Describe();
 
-    QString _shown; // as in NativeSpinner
+    QString _shown;     // as in NativeSpinner
+    QString _untouched; // the same as far as a line can show it
     QString _complaint;
-    QAction* _mark; // beside a path that leads nowhere, as far as is known
+    NativeMark _mark{*this}; // beside a path that leads nowhere, as far as is known
 };

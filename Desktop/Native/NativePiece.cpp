@@ -2,7 +2,37 @@
 
 #include "Native/NativeDescription.h"
 
+#include <QPointer>
 #include <QWidget>
+
+namespace {
+
+// Guarded: entering the text of one may end others.
+QList<QPointer<QWidget>> FieldsIn(const QWidget& surface)
+{
+    QList<QPointer<QWidget>> fields;
+    for (QWidget* widget : surface.findChildren<QWidget*>())
+        if (dynamic_cast<NativeField*>(widget)) fields << widget;
+    return fields;
+}
+
+} // namespace
+
+QWidget* NativeField::CommitAll(const QWidget& surface)
+{
+    QPointer<QWidget> refused;
+    for (const QPointer<QWidget>& widget : FieldsIn(surface)) {
+        auto* const field = dynamic_cast<NativeField*>(widget.data());
+        if (field && !field->CommitText() && !refused) refused = widget;
+    }
+    return refused;
+}
+
+void NativeField::DropAll(const QWidget& surface)
+{
+    for (const QPointer<QWidget>& widget : FieldsIn(surface))
+        if (auto* const field = dynamic_cast<NativeField*>(widget.data())) field->DropText();
+}
 
 NativePiece::NativePiece(KivDialog& node, QWidget* widget) : _node(&node), _widget(widget)
 {

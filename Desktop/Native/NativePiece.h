@@ -50,11 +50,19 @@ protected:
     Tree* TreeNode() const { return static_cast<Tree*>(Node()); }
 };
 
-// A field in which a text may stand that its node has not got yet.
+// A field in which a text may stand that its node has not got yet, however it came there: typed, pasted,
+// dropped, or set by an aid for those who cannot type.
 class NativeField {
 public:
-    // Enters it. False when it was refused: it stands there still, with the reason beside it.
+    // Enters it. False when it was refused: it stands there still, with the reason beside it, until it is
+    // mended or dropped.
     virtual bool CommitText() = 0;
+    // Shows the value in force instead.
+    virtual void DropText() = 0;
+
+    // The same for every field in a widget. The first field that has refused its text, or null.
+    static QWidget* CommitAll(const QWidget& surface);
+    static void DropAll(const QWidget& surface);
 
 protected:
     ~NativeField() = default;

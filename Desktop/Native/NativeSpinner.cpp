@@ -5,7 +5,6 @@
 #include "Native/NativeDescription.h"
 #include "Parameter/KivControlUnit.h"
 
-#include <QAction>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -23,14 +22,11 @@ constexpr int kMostLetters = 60;
 } // namespace
 
 NativeSpinner::NativeSpinner(KivDialog& node, QWidget* parent)
-    : QAbstractSpinBox(parent), NativePieceFor(node, this),
-      _mark(new QAction(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this), QString(), this))
+    : QAbstractSpinBox(parent), NativePieceFor(node, this), _mark(*lineEdit())
 {
     setFocusPolicy(Qt::StrongFocus); // not by the wheel
     setKeyboardTracking(false);
-    lineEdit()->addAction(_mark, QLineEdit::TrailingPosition);
-    _mark->setVisible(false);
-    connect(lineEdit(), &QLineEdit::textEdited, this, [this] { ForgetRefusal(); });
+    connect(lineEdit(), &QLineEdit::textChanged, this, [this] { ForgetRefusal(); });
 }
 
 NativeSpinner::~NativeSpinner()
@@ -38,15 +34,16 @@ NativeSpinner::~NativeSpinner()
     delete _bubble;
 }
 
-bool NativeSpinner::IsTyping() const
+bool NativeSpinner::IsWaiting() const
 {
-    return lineEdit()->isModified();
+    return lineEdit()->text() != _shown;
 }
 
 void NativeSpinner::ShowNode()
 {
     const QString printed = ToQt(TreeNode()->Print(TreeNode()->GetValue()));
-    if (!IsTyping() || printed != _shown) ShowValue();
+    const bool isTaken = _refusal.isEmpty() && (!IsWaiting() || printed != _shown);
+    if (isTaken || !TreeNode()->IsEnabled()) ShowValue();
     Describe();
     updateGeometry();
     update(); // the arrows end at the limits
@@ -58,7 +55,6 @@ void NativeSpinner::ShowValue()
     if (!TreeNode()) return;
     _shown = ToQt(TreeNode()->Print(TreeNode()->GetValue()));
     if (lineEdit()->text() != _shown) lineEdit()->setText(_shown);
-    lineEdit()->setModified(false);
 }
 
 // A screen reader is told how to use it where the page says nothing, and why a text was refused.
@@ -68,7 +64,7 @@ void NativeSpinner::Describe()
     const NativeDescription description(*TreeNode());
     description.ShowOn(*this);
     if (!_refusal.isEmpty()) {
-        setToolTip(_refusal);
+        setToolTip("<qt>" + _refusal.toHtmlEscaped() + "</qt>"); // what was typed may look like markup
         setAccessibleDescription(_refusal);
     } else if (accessibleDescription().isEmpty()) {
         double minimum = 0.0, maximum = 0.0, step = 0.0;
@@ -81,7 +77,11 @@ void NativeSpinner::Describe()
 
 bool NativeSpinner::CommitText()
 {
-    if (!TreeNode() || !IsTyping()) return true;
+    if (!TreeNode() || !IsWaiting()) return true;
+    if (!TreeNode()->IsEnabled() || !TreeNode()->IsShown()) { // nobody could mend it
+        DropText();
+        return true;
+    }
     const QPointer<QWidget> self(this);
     const KivHandAnswer answer = KivUserHand::Type(*TreeNode(), FromQt(lineEdit()->text()));
     if (!self) return true;
@@ -107,26 +107,25 @@ QAbstractSpinBox::StepEnabled NativeSpinner::stepEnabled() const
     double minimum = 0.0, maximum = 0.0, step = 0.0;
     TreeNode()->GetMinMaxStep(minimum, maximum, step);
     StepEnabled enabled = StepNone;
-    if (IsTyping() || TreeNode()->GetValue() < maximum) enabled |= StepUpEnabled;
-    if (IsTyping() || TreeNode()->GetValue() > minimum) enabled |= StepDownEnabled;
+    if (IsWaiting() || TreeNode()->GetValue() < maximum) enabled |= StepUpEnabled;
+    if (IsWaiting() || TreeNode()->GetValue() > minimum) enabled |= StepDownEnabled;
     return enabled;
 }
 
 void NativeSpinner::Refuse(const QString& why)
 {
     _refusal = why;
-    _mark->setVisible(true);
-    _mark->setToolTip(why);
+    _mark.Say(why);
     Say(why);
     Describe();
 }
 
 void NativeSpinner::ForgetRefusal()
 {
-    _mark->setVisible(false);
-    if (_bubble) _bubble->hide();
     if (_refusal.isEmpty()) return;
     _refusal.clear();
+    _mark.Say({});
+    if (_bubble) _bubble->hide();
     Describe();
 }
 
@@ -145,9 +144,9 @@ void NativeSpinner::keyPressEvent(QKeyEvent* event)
         event->setAccepted(!CommitText());
         return;
     case Qt::Key_Escape:
-        event->setAccepted(IsTyping());
-        if (IsTyping()) {
-            ShowValue();
+        event->setAccepted(IsWaiting());
+        if (IsWaiting()) {
+            DropText();
             lineEdit()->selectAll();
         }
         return;
@@ -156,13 +155,19 @@ void NativeSpinner::keyPressEvent(QKeyEvent* event)
     }
 }
 
+void NativeSpinner::focusInEvent(QFocusEvent* event)
+{
+    QAbstractSpinBox::focusInEvent(event);
+    if (!_refusal.isEmpty()) Say(_refusal);
+}
+
 void NativeSpinner::focusOutEvent(QFocusEvent* event)
 {
     const Qt::FocusReason reason = event->reason();
     const bool comesBack = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
                            reason == Qt::MenuBarFocusReason;
     const QPointer<QWidget> self(this);
-    if (!comesBack && !CommitText()) ShowValue();
+    if (!comesBack) CommitText();
     if (self) QAbstractSpinBox::focusOutEvent(event);
 }
 

@@ -15,7 +15,9 @@ public:
     ~NativeSpinner() override;
 
     bool CommitText() override;
-    bool IsTyping() const override;
+    void DropText() override { ShowValue(); }
+    // A refused text stays whatever the node does: nothing has to wait for it.
+    bool IsTyping() const override { return IsWaiting() && _refusal.isEmpty(); }
     // The reason while a refused text stands in the field, else empty.
     const QString& Refusal() const { return _refusal; }
 
@@ -27,10 +29,13 @@ protected:
     void ShowNode() override;
     StepEnabled stepEnabled() const override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    // Whether the text is not what the tree has printed.
+    bool IsWaiting() const;
     void ShowValue();
     void Describe();
     void Refuse(const QString& why);
@@ -39,6 +44,6 @@ private:
 
     QString _shown; // what the tree had printed last, to see whether it has moved under what is being typed
     QString _refusal;
-    QAction* _mark; // beside a refused text
+    NativeMark _mark;
     QPointer<NativeBubble> _bubble;
 };

@@ -4,12 +4,8 @@
 #include "Native/NativeDirectoryRow.h"
 #include "Native/NativePiece.h"
 
-OptionsPageView::OptionsPageView(KivEditorPage* page, QWidget* parent) : QScrollArea(parent), _page(page)
-{
-    setFrameShape(QFrame::NoFrame);
-    setWidgetResizable(true);
-    setFocusPolicy(Qt::NoFocus); // its fields have it
-}
+OptionsPageView::OptionsPageView(KivEditorPage* page, QWidget* parent) : NativeScrollArea(parent), _page(page)
+{}
 
 void OptionsPageView::Build()
 {

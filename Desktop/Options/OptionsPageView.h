@@ -1,12 +1,11 @@
 #pragma once
 
 #include "Dialog/KivDialog.h"
+#include "Native/NativeScrollArea.h"
 #include "Options/KivEditorPage.h"
 
-#include <QScrollArea>
-
 // A page of the options window with its scroll bars. Its widgets are built when it is first shown.
-class OptionsPageView : public QScrollArea {
+class OptionsPageView : public NativeScrollArea {
 public:
     OptionsPageView(KivEditorPage* page, QWidget* parent);
 

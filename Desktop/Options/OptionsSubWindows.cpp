@@ -3,8 +3,6 @@
 #include "Native/NativeDialog.h"
 #include "Native/NativePiece.h"
 
-#include <algorithm>
-
 OptionsSubWindows::OptionsSubWindows(KivDialog& root, const OptionsMemory& memory, QWidget& owner)
     : _root(&root), _memory(memory), _owner(owner)
 {
@@ -23,15 +21,14 @@ void OptionsSubWindows::WindowShown(KivDlgDialog& window)
     _windows.back()->Refresh();
 }
 
-bool OptionsSubWindows::CommitFields()
+QWidget* OptionsSubWindows::CommitFields()
 {
     // Entering a text may open or close windows.
     const std::vector<QPointer<NativeDialog>> windows = _windows;
-    return std::all_of(windows.begin(), windows.end(), [](const QPointer<NativeDialog>& window) {
-        NativeField* field = window ? window->Field() : nullptr;
-        if (!field || field->CommitText()) return true;
-        window->raise();
-        window->activateWindow();
-        return false;
-    });
+    QPointer<QWidget> first;
+    for (const QPointer<NativeDialog>& window : windows) {
+        QWidget* const refused = window ? NativeField::CommitAll(*window) : nullptr;
+        if (!first) first = refused;
+    }
+    return first;
 }

@@ -20,8 +20,8 @@ public:
     OptionsSubWindows(const OptionsSubWindows&) = delete;
     OptionsSubWindows& operator=(const OptionsSubWindows&) = delete;
 
-    // Enters what is being typed in them; false when one has refused it, which is brought to the front.
-    bool CommitFields();
+    // Enters the texts that wait in their fields. The first field that has refused its own, or null.
+    QWidget* CommitFields();
 
     void NodeChanged(KivDialog&) override {}
     void NodeDestroyed(KivDialog&) override {}

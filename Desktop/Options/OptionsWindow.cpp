@@ -14,7 +14,6 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QBoxLayout>
-#include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QPointer>
@@ -63,7 +62,7 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
     if (!layer.isEmpty()) all->addWidget(_layer = new OptionsLayerStrip(layer, this));
     all->addLayout(middle, 1);
     all->addWidget(_messages);
-    all->addWidget(MakeButtons());
+    all->addLayout(MakeButtons());
 
     AddPages();
     ListenToKeys();
@@ -103,19 +102,24 @@ void OptionsWindow::AddPages()
     _list->setFixedWidth(_list->sizeHintForColumn(0) + bar + 2 * _list->frameWidth());
 }
 
-QWidget* OptionsWindow::MakeButtons()
+// A box for buttons would take part in the ring of Tab itself, and lead it back to the first of them.
+QLayout* OptionsWindow::MakeButtons()
 {
-    auto* box = new QDialogButtonBox(this);
-    _ok = box->addButton(WindowText("OK"), QDialogButtonBox::AcceptRole);
-    _cancel = box->addButton(WindowText("Cancel"), QDialogButtonBox::RejectRole);
-    _reset = box->addButton(WindowText(_layer ? "RemoveFromLayer" : "Reset"), QDialogButtonBox::ResetRole);
+    const auto button = [this](const char* text, void (OptionsWindow::*action)()) {
+        auto* const made = new QPushButton(WindowText(text), this);
+        connect(made, &QPushButton::clicked, this, action);
+        return made;
+    };
+    _reset = button(_layer ? "RemoveFromLayer" : "Reset", &OptionsWindow::Reset);
+    _ok = button("OK", &OptionsWindow::accept);
+    _cancel = button("Cancel", &OptionsWindow::reject);
     _ok->setDefault(true);
-    // A click keeps the focus in the field whose text it enters, so that a refused one is not lost.
-    for (QPushButton* button : {_ok, _reset}) button->setFocusPolicy(Qt::TabFocus);
-    connect(_ok, &QPushButton::clicked, this, [this] { accept(); });
-    connect(_cancel, &QPushButton::clicked, this, [this] { reject(); });
-    connect(_reset, &QPushButton::clicked, this, [this] { Reset(); });
-    return box;
+    auto* const row = new QHBoxLayout;
+    row->addWidget(_reset);
+    row->addStretch(1);
+    row->addWidget(_ok);
+    row->addWidget(_cancel);
+    return row;
 }
 
 void OptionsWindow::ListenToKeys()
@@ -125,6 +129,8 @@ void OptionsWindow::ListenToKeys()
     };
     onKey(Qt::CTRL | Qt::Key_PageUp, -1);
     onKey(Qt::CTRL | Qt::Key_PageDown, 1);
+    onKey(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, -1);
+    onKey(Qt::CTRL | Qt::Key_Tab, 1);
 }
 
 void OptionsWindow::Go(int pages)
@@ -195,20 +201,28 @@ void OptionsWindow::OrderTab()
     last->setFocusPolicy(lastPolicy);
 }
 
-// Enters what is being typed, here and in the windows of the pages; a refused text keeps all of them open.
-// False too when somebody who was told of it has ended the options.
+// Enters the texts that wait, here and in the windows of the pages; a refused one keeps all of them open, and
+// the user is led to the first. False too when somebody who was told of it has ended the options.
 bool OptionsWindow::CommitFields()
 {
     const QPointer<QWidget> self(this);
-    NativeField* field = Field();
-    if (field && !field->CommitText()) return false;
-    return self && _windows && _windows->CommitFields() && self && _session;
+    QPointer<QWidget> refused = NativeField::CommitAll(*_stack);
+    if (!self || !_windows) return false;
+    QWidget* const refusedInWindow = _windows->CommitFields();
+    if (!self || !_session) return false;
+    if (!refused) refused = refusedInWindow;
+    if (refused) GoTo(*refused);
+    return !refused;
 }
 
-// The field that has the focus, or null.
-NativeField* OptionsWindow::Field() const
+// The field says why itself.
+void OptionsWindow::GoTo(QWidget& refused)
 {
-    return dynamic_cast<NativeField*>(focusWidget());
+    for (int page = 0; page < PageCount(); ++page)
+        if (PageView(page).isAncestorOf(&refused)) _list->setCurrentRow(page);
+    refused.window()->raise();
+    refused.activateWindow();
+    refused.setFocus();
 }
 
 void OptionsWindow::Refill()
@@ -283,6 +297,7 @@ void OptionsWindow::done(int result)
 void OptionsWindow::Reset()
 {
     if (!_session || CurrentPage() < 0) return;
+    NativeField::DropAll(PageView(CurrentPage()));
     _session->Reset(_session->Pages()[static_cast<std::size_t>(CurrentPage())]);
 }
 

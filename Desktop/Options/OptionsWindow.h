@@ -9,7 +9,6 @@
 
 #include <memory>
 
-class NativeField;
 class OptionsLayerStrip;
 class OptionsMessageStrip;
 class OptionsPageView;
@@ -53,14 +52,14 @@ protected:
 
 private:
     void AddPages();
-    QWidget* MakeButtons();
+    QLayout* MakeButtons();
     void ListenToKeys();
     void Go(int pages);
     void PageChosen(int page);
     void BringForward(int page);
     void OrderTab();
     bool CommitFields();
-    NativeField* Field() const;
+    void GoTo(QWidget& refused);
     void Reset();
     void Mend();
     void TidyUp();

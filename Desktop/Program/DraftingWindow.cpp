@@ -145,7 +145,8 @@ void DraftingWindow::OpenAbout()
     auto* const about = new QMessageBox(QMessageBox::NoIcon, DraftingText("AboutTitle"),
                                         DraftingText("AboutText").arg(KIV_VERSION), QMessageBox::Close, this);
     about->setAttribute(Qt::WA_DeleteOnClose);
-    about->open();
+    QMetaObject::invokeMethod(about, &QDialog::open,
+                              Qt::QueuedConnection); // once the menu has let go of the keyboard
 }
 
 void DraftingWindow::closeEvent(QCloseEvent* event)

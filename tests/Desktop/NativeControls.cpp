@@ -1,9 +1,9 @@
 #include "Dialog/KivCombos.h"
 #include "Dialog/KivDlgLabel.h"
-#include "Native/NativeBubble.h"
 #include "Native/NativeColorCombo.h"
 #include "OptionsFixture.h"
 
+#include <QAbstractItemView>
 #include <QClipboard>
 #include <QColorDialog>
 #include <QLineEdit>
@@ -107,79 +107,6 @@ TEST_F(NativeControls, NeitherLockedNorDependentOnesCanBeChanged)
     EXPECT_TRUE(WidgetOf(Lock("comboBackgroundColorDD"))->isEnabled()) << "the padlock has to explain";
 }
 
-TEST_F(NativeControls, SpinnerTakesWhatTheTreeUnderstands)
-{
-    KivDlgSpinner& spacing = Spinner("editorGridSpacing");
-    Listener entered(spacing, spacing.GetSpinnerModifyNotification());
-    QWidget* const field = WidgetOf("editorGridSpacing");
-    for (const auto& [text, shown] : {std::pair{"20,5", "20.5 mm"}, {"2'", "609.6 mm"}}) {
-        TestHand::TypeOver(field, text);
-        WidgetOf("checkGrid")->setFocus();
-        EXPECT_EQ(Text(field), shown) << "leaving the field enters the text";
-    }
-    EXPECT_EQ(entered.heard, 2);
-
-    // Walking through with Tab changes nothing, although fewer digits are shown than kept.
-    spacing.SetValue(0.02000049, 0);
-    field->setFocus();
-    QTest::keyClick(field, Qt::Key_Tab);
-    EXPECT_EQ(spacing.GetValue(), 0.02000049);
-    EXPECT_EQ(entered.heard, 2);
-
-    spacing.SetValue(0.01, 0);
-    QTest::keyClick(field, Qt::Key_Up);
-    EXPECT_EQ(entered.heard, 3);
-    EXPECT_EQ(Text(field), "15 mm");
-    QStyleOptionSpinBox option;
-    option.initFrom(field);
-    option.subControls = QStyle::SC_All;
-    const QRect down =
-        field->style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxDown, field);
-    QTest::mouseClick(field, Qt::LeftButton, {}, down.center());
-    EXPECT_EQ(entered.heard, 4);
-    EXPECT_EQ(Text(field), "10 mm");
-    EXPECT_DOUBLE_EQ(Stored("Drw_settings_GridPrimarySpacing", 0.0), 10.0);
-    spacing.SetVisibleTextWidth(2);
-    spacing.SetValue(0.009, 0);
-    const int width = field->sizeHint().width();
-    spacing.SetValue(0.01, 0);
-    EXPECT_EQ(field->sizeHint().width(), width) << "it grows with its value";
-}
-
-TEST_F(NativeControls, ARefusedTextStaysWithItsReasonUntilItIsLeft)
-{
-    auto* const field = WidgetOf<NativeSpinner>("editorGridSpacing");
-    TestHand::TypeOver(field, "wide");
-    const QImage typed = field->grab().toImage();
-    QTest::keyClick(field, Qt::Key_Return);
-    EXPECT_NE(field->grab().toImage(), typed) << "it looks different";
-    EXPECT_EQ(Text(field), "wide");
-    EXPECT_EQ(Spinner("editorGridSpacing").GetValue(), 0.1);
-    EXPECT_TRUE(field->Refusal().contains("wide"));
-    EXPECT_EQ(field->accessibleDescription(), field->Refusal());
-    EXPECT_EQ(field->toolTip(), field->Refusal());
-    const auto* bubble = static_cast<NativeBubble*>(window->findChild<QWidget*>("NativeBubble"));
-    ASSERT_TRUE(bubble && bubble->isVisible());
-    EXPECT_EQ(bubble->Text(), field->Refusal());
-
-    // The tree speaks up meanwhile, of something else: what is typed stays.
-    Spinner("editorGridSpacing").SetHelp("Other help");
-    EXPECT_EQ(Text(field), "wide");
-    QTest::keyClick(field, Qt::Key_Escape);
-    EXPECT_EQ(Text(field), "100 mm");
-    EXPECT_FALSE(bubble->isVisible());
-    EXPECT_TRUE(field->Refusal().isEmpty());
-
-    TestHand::TypeOver(field, "-5");
-    QTest::keyClick(field, Qt::Key_Return);
-    EXPECT_FALSE(field->Refusal().isEmpty());
-    QTest::keyClicks(field, "0");
-    EXPECT_TRUE(field->Refusal().isEmpty()) << "who types on is not blamed";
-    QTest::keyClick(field, Qt::Key_Tab);
-    EXPECT_EQ(Text(field), "100 mm");
-    EXPECT_EQ(Spinner("editorGridSpacing").GetValue(), 0.1);
-}
-
 TEST_F(NativeControls, TheWheelScrollsThePageOverFieldsThatNobodyChose)
 {
     window->resize(window->width(), 250);
@@ -207,7 +134,13 @@ TEST_F(NativeControls, AnyColorCanBeMixedAndIsSpoken)
     };
     EXPECT_TRUE(combo->accessibleName().startsWith(name("")));
     EXPECT_EQ(combo->count(), color.GetLineCount() + 1);
-    QColorDialog* mixer = combo->OpenMixer();
+    QTest::keyClick(combo, Qt::Key_Down, Qt::AltModifier);
+    QTest::keyClick(combo->view(), Qt::Key_End);
+    QTest::keyClick(combo->view(), Qt::Key_Return);
+    auto* const mixer = combo->findChild<QColorDialog*>();
+    ASSERT_TRUE(mixer);
+    EXPECT_FALSE(mixer->isVisible()) << "the popup has the keyboard until its event is over";
+    ASSERT_TRUE(QTest::qWaitFor([mixer] { return mixer->isVisible(); }));
     mixer->setCurrentColor(QColor(1, 2, 3));
     mixer->accept();
     EXPECT_EQ(combo->accessibleName(), name("Custom (1, 2, 3)"));

@@ -85,6 +85,7 @@ TEST_F(NativeDirectories, TheChooserBeginsWhereTheTextLeadsAndEntersWhatIsChosen
     const QPointer<QFileDialog> chooser = field->findChild<QFileDialog*>();
     ASSERT_TRUE(chooser);
     EXPECT_EQ(chooser->directory().absolutePath(), root.path());
+    ASSERT_TRUE(QTest::qWaitFor([chooser] { return chooser->isVisible(); }));
     chooser->reject();
     EXPECT_EQ(typed.heard, 0);
 

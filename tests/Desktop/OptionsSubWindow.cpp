@@ -38,6 +38,14 @@ TEST_F(OptionsSubWindow, ShowsItsNodeBesideThePage)
     EXPECT_FALSE(native->isModal());
     EXPECT_FALSE(CloseButton()->isDefault() || CloseButton()->autoDefault());
     EXPECT_EQ(QApplication::focusWidget(), Level());
+    std::vector<QWidget*> ring;
+    for (int i = 0; i < 4; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        ring.push_back(QApplication::focusWidget());
+    }
+    EXPECT_EQ(ring[2], Level()) << "graph, Close, and round again";
+    EXPECT_EQ(ring[3], ring[0]);
+    Level()->setFocus();
     QTest::keyClick(Level(), Qt::Key_F1);
     EXPECT_TRUE(Level()->findChild<QWidget*>("NativePanel"));
     Window().SetVisibility(KivDlgHidden);
@@ -87,6 +95,8 @@ TEST_F(OptionsSubWindow, EveryWayOfClosingStoresWhatIsTypedAndNoneLosesARefusedT
     QTest::keyClick(CloseButton(), Qt::Key_Return);
     Settle();
     EXPECT_FALSE(native) << "where the button has the focus Enter presses it";
+    window->reject();
+    EXPECT_EQ(StoredLevel(), 4) << "Cancel takes back what every way of closing keeps";
 }
 
 TEST_F(OptionsSubWindow, TheEndOfTheOptionsEndsItToo)

@@ -7,6 +7,8 @@
 #include <QScreen>
 #include <QTemporaryDir>
 
+#include <algorithm>
+
 namespace {
 
 class OptionsWindows : public OptionsFixture {
@@ -28,6 +30,20 @@ TEST_F(OptionsWindows, PagesAreBuiltWhenFirstShownAndKeysWalkThem)
     EXPECT_EQ(window->CurrentPage(), last);
     QTest::keyClick(window.get(), Qt::Key_PageUp, Qt::ControlModifier);
     EXPECT_EQ(window->CurrentPage(), last - 1);
+    QTest::keyClick(window.get(), Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(window->CurrentPage(), last);
+    QTest::keyClick(window.get(), Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(window->CurrentPage(), last - 1);
+
+    // A letter leads to its field, and the field is seen.
+    window->ShowPage("General");
+    window->resize(window->width(), 250);
+    QTest::keyClick(window.get(), Qt::Key_F, Qt::AltModifier);
+    ASSERT_EQ(QApplication::focusWidget(), WidgetOf("spinnerViewAxisSize"));
+    const QRect seen(View().viewport()->mapTo(window.get(), QPoint()), View().viewport()->size());
+    EXPECT_TRUE(seen.contains(PositionOf(Control("spinnerViewAxisSize"))));
+    QTest::keyClick(window.get(), Qt::Key_N, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }));
 }
 
 TEST_F(OptionsWindows, TabGoesFromTheListThroughThePageToTheButtons)
@@ -63,6 +79,27 @@ TEST_F(OptionsWindows, TabGoesFromTheListThroughThePageToTheButtons)
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             ASSERT_EQ(QApplication::focusWidget(), Button(button)) << button;
         }
+    }
+
+    // On every page it is a ring, the same in both directions.
+    const auto ring = [this](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+        QList<QWidget*> seen{window->findChild<QListWidget*>()};
+        seen.front()->setFocus();
+        for (int i = 0; i < 200; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+            if (QApplication::focusWidget() == seen.front()) break;
+            seen << QApplication::focusWidget();
+        }
+        return seen;
+    };
+    for (int page = 0; page < window->PageCount(); ++page) {
+        window->findChild<QListWidget*>()->setCurrentRow(page);
+        const QList<QWidget*> on = ring(Qt::Key_Tab, {});
+        QList<QWidget*> back = ring(Qt::Key_Backtab, Qt::ShiftModifier);
+        std::reverse(back.begin() + 1, back.end());
+        EXPECT_EQ(on, back) << page;
+        EXPECT_LT(on.size(), 100) << page << ": it never comes back";
+        EXPECT_EQ(QSet<QWidget*>(on.begin(), on.end()).size(), on.size()) << page;
     }
 }
 
@@ -190,6 +227,7 @@ TEST_F(OptionsWindows, ResetFillsTheShownPageAndF1ShowsTheLongHelp)
     ASSERT_TRUE(panel && panel->isVisible());
     EXPECT_TRUE(panel->accessibleDescription().contains(check->whatsThis()));
     EXPECT_FALSE(check->whatsThis().isEmpty());
+    EXPECT_FALSE(panel->geometry().intersects(QRect(check->mapToGlobal(QPoint(0, 0)), check->size())));
     QTest::keyClick(panel, Qt::Key_Escape);
     EXPECT_FALSE(panel->isVisible());
     EXPECT_TRUE(window->isVisible());
