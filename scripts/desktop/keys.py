@@ -18,6 +18,7 @@ def a_custom_color_is_mixed_by_keys_alone(desk):
     desk.start("--page", "General")
     desk.window(OPTIONS)
     desk.activate(OPTIONS)
+    wait(lambda: desk.active().startswith("Options") and desk.focused(), "the options to have the keyboard")
     with desk.busy():
         for opening in range(5):
             desk.key("alt+h", "alt+Down", "End", "Return")
