@@ -16,8 +16,12 @@ inline constexpr KivSettingKind StrictSwitch{.name = "switch", .maximum = 1, .is
 
 // Numbers.
 // The divisions of the grid: the field takes decimals, prints as "%g" and cuts to a whole number.
-inline constexpr KivSettingKind Graduation{
-    .name = "number of parts", .minimum = 1, .maximum = 100000, .step = 1, .format = "%g"};
+inline constexpr KivSettingKind Graduation{.name = "number of parts",
+                                           .minimum = 1,
+                                           .maximum = 100000,
+                                           .step = 1,
+                                           .format = "%g",
+                                           .cutsFractions = true};
 inline constexpr KivSettingKind Resolution{
     .name = "resolution", .minimum = 1, .maximum = 1200, .step = 1, .decimals = 1, .initial = 5};
 inline constexpr KivSettingKind DetailLevel{
@@ -30,7 +34,8 @@ inline constexpr KivSettingKind TimeOut{.name = "time-out",
                                         .maximum = 300,
                                         .step = 1,
                                         .magnitude = KivDlgMagnitudeTime,
-                                        .decimals = 4};
+                                        .decimals = 4,
+                                        .cutsFractions = true};
 inline constexpr KivSettingKind LineType{.name = "line type", .maximum = 7};
 inline constexpr KivSettingKind Thickness{.name = "thickness index", .maximum = 6};
 

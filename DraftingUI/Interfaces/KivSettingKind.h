@@ -38,6 +38,7 @@ struct KivSettingKind {
     int decimals = 3;             // at most
     const char* format = nullptr; // of a number without a magnitude, as of printf, instead of the decimals
     double initial = 0.0;         // what the field keeps until it is filled
+    bool cutsFractions = false;   // of a whole number: a fraction that is typed is cut, not refused
 
     // What there is to choose from, in the order in which it is offered.
     const char* catalogue = nullptr; // of the names

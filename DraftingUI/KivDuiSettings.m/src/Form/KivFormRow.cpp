@@ -174,7 +174,8 @@ KivDrwLockSpinner* KivFormRow::Spinner(const KivString& name, KivPropertyOf<int>
     const auto record = RecordOf(property);
     if (!record) return nullptr;
     KivDrwLockSpinner* spinner = BareSpinner(name, *record, kind, look);
-    if (auto* field = static_cast<KivDlgSpinner*>(spinner->GetDialog())) field->SetWholeNumbers(true);
+    if (auto* field = static_cast<KivDlgSpinner*>(spinner->GetDialog()))
+        field->SetWholeNumbers(!kind.cutsFractions);
     _form.Add(std::make_unique<KivWholeNumberBinding>(spinner, property, std::move(rule)));
     return spinner;
 }
