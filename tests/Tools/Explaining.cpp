@@ -20,9 +20,9 @@ protected:
     // What completion offers for the last of some words.
     std::string Completed(const std::string& words) const
     {
-        return Shell(". '" KIV_TOOL_COMPLETION "'; COMP_WORDS=('" KIV_TOOL "' " + words +
-                     "); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); "
-                     "_kivsettings; echo \" ${COMPREPLY[*]} \"")
+        return Run(". '" KIV_TOOL_COMPLETION "'; COMP_WORDS=('" KIV_TOOL "' " + words +
+                   "); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); "
+                   "_kivsettings; echo \" ${COMPREPLY[*]} \"")
             .out;
     }
     // A command's part of the manual page, without the escapes of its dashes.
@@ -38,7 +38,7 @@ protected:
 
 TEST_F(Explained, HelpManualAndCompletionNameTheSameCommandsAndOptions)
 {
-    const std::string overview = Run("help").out;
+    const std::string overview = Run("kivsettings help").out;
     const auto commands = LeftColumn(overview, "Commands:");
     EXPECT_TRUE(commands.contains("set"));
     const auto common = LeftColumn(overview, "Options of every command:");
@@ -46,8 +46,8 @@ TEST_F(Explained, HelpManualAndCompletionNameTheSameCommandsAndOptions)
         EXPECT_NE(Manual(".SH OPTIONS", ".SH EXIT").find(option), std::string::npos) << option;
     for (const std::string& command : commands) {
         EXPECT_NE(Completed("''").find(" " + command + " "), std::string::npos) << command;
-        const ToolRun help = Run("help " + command);
-        EXPECT_EQ(help.out, Run(command + " --help").out);
+        const ToolRun help = Run("kivsettings help " + command);
+        EXPECT_EQ(help.out, Run("kivsettings " + command + " --help").out);
         EXPECT_NE(help.out.find("\nExamples:\n  kivsettings " + command), std::string::npos) << help.out;
         std::string manual = Manual(".SS " + command + "\n", "\n.S");
         if (manual.empty()) manual = Manual(".SS " + command + " ", "\n.S");
@@ -69,31 +69,8 @@ TEST_F(Explained, HelpManualAndCompletionNameTheSameCommandsAndOptions)
     EXPECT_EQ(Completed("set Rul"), " Ruler= \n");
     EXPECT_EQ(Completed("reset D"), " Dimension \n");
     EXPECT_EQ(Completed("list --page Ge"), " General Generation Geometry \n");
-    EXPECT_EQ(Run("list --page trel").out, Run("list --page Compatibility").out) << "its name before";
-}
-
-TEST_F(Explained, MisuseIsExplainedAndChangesNothing)
-{
-    const std::pair<const char*, const char*> lines[] = {
-        {"", "help"},
-        {"sett Ruler=1", "did you mean set"},
-        {"set", "arguments are missing: KEY=VALUE..."},
-        {"set --bogus Ruler=1", "no option \"--bogus\""},
-        {"set -x Ruler=1", "no option \"-x\""},
-        {"set --json Ruler=1", "has no option --json"},
-        {"set --force=1 Ruler=1", "takes no value"},
-        {"set Ruler=1 --layer", "needs a value: DIR"},
-        {"set Ruler=1 --layer=", "needs a value: DIR"},
-        {"check Ruler", "too many arguments"},
-        {"set -- --force Ruler=1", "write KEY=VALUE"},
-        {"help nothing", "no command"},
-        {"get ''", "there is no setting"},
-        {"watch Rulr", "did you mean Ruler"},
-    };
-    for (const auto& [line, words] : lines) Expect(line, 2, "", words);
-    EXPECT_TRUE(box.Names("user").empty());
-    Expect("--system-layers $root/none list", 3, "", "no such file");
-    EXPECT_EQ(Run("--version").out.substr(0, 12), "kivsettings ");
+    EXPECT_EQ(Run("kivsettings list --page trel").out, Run("kivsettings list --page Compatibility").out)
+        << "its name before";
 }
 
 } // namespace

@@ -98,26 +98,6 @@ TEST_F(Locks, ManyPrefixesAreResolvedInLinearTime)
     EXPECT_EQ(Locker("P31415xKey"), "site:31416");
 }
 
-TEST_F(Locks, TheFileOnDiskIsFoundWantingWhileItsCopyIsInForce)
-{
-    box.NameLayers({"site"});
-    box.Write(box.File("site"), "lock int Ruler = 1\n");
-    box.Reopen(); // keeps the copy
-    box.Write(box.File("site"), "rubbish\nlock Gone\n");
-    box.Write(box.File("user"), "int Ruler = 0\n");
-    const char* known[] = {"Ruler"};
-    const auto findings = KivCheckSettings("DraftingOptions", known);
-    const auto finds = [&](int line, const char* key, const char* words) {
-        return std::any_of(findings.begin(), findings.end(), [&](const KivSettingFinding& finding) {
-            return finding.line == line && finding.key == key &&
-                   finding.text.View().find(words) != std::string_view::npos;
-        });
-    };
-    EXPECT_TRUE(finds(1, "", "no attribute"));
-    EXPECT_TRUE(finds(2, "Gone", "no setting of this name"));
-    EXPECT_TRUE(finds(1, "Ruler", "locks it already")) << "the copy's lock holds";
-}
-
 TEST_F(Locks, ABatchStoresWhatItMayAndNamesTheRest)
 {
     box.NameLayers({"site"});

@@ -42,33 +42,6 @@ protected:
     const std::filesystem::path file = box.File("user");
 };
 
-TEST_F(Saving, EveryLineThatDidNotChangeSurvivesByteForByte)
-{
-    box.Write(file,
-              "\xef\xbb\xbf# kivsettings 1\r\n\r\n  # mine \t\r\n int  Ruler=0 \r\nbool New = true\r\n"
-              "int Twice = 1\r\nunsigned Color = 4294967295\r\nint Twice = 2\r\n\tstring Path = \"a\\\"b\"");
-    KivSettingRepository& repository = box.Reopen();
-    EXPECT_EQ(box.Read(repository, "Twice", 0), 2);
-    EXPECT_EQ(box.Read(repository, "Color", 0U), 4294967295U);
-    EXPECT_EQ(box.Read(repository, "Path", KivUnicodeString()), "a\"b");
-    EXPECT_EQ(box.Said("DraftingOptions.kivsettings:8: Twice: the key stands in line 6 too"), 1);
-    EXPECT_EQ(box.Said(":5: New: the type is unknown"), 1);
-    Put(repository, "Ruler", 1);
-    Put(repository, "Zebra", 1);
-    Put(repository, "Twice", 3);
-    Put(repository, "Ant", -2);
-    ASSERT_EQ(Save(repository), Receipt::Durable);
-    EXPECT_TRUE(box.Bytes(file).starts_with("\xef\xbb\xbf# kivsettings 1 sealed\r\n"));
-    EXPECT_EQ(box.Saved(file),
-              "\r\n  # mine \t\r\nint Ruler = 1\r\nbool New = true\r\n"
-              "unsigned Color = 4294967295\r\nint Twice = 3\r\n\tstring Path = \"a\\\"b\"\r\n"
-              "int Zebra = 1\r\nint Ant = -2\r\n");
-    EXPECT_EQ(box.Names("user"), std::vector<std::string>{"DraftingOptions.kivsettings"});
-    KivSettingInfo info;
-    repository.GetInfo("Ant", &info, 0);
-    EXPECT_EQ(info.line, 10);
-}
-
 TEST_F(Saving, ValuesRoundTripExactlyInEveryLocale)
 {
     // Streams follow the C++ locale, the C functions theirs; the latter where this machine has such a locale.
@@ -207,47 +180,6 @@ TEST_F(Saving, CommitRollbackAndSaveTellWhatShowsAnotherValue)
     EXPECT_EQ(box.Read(repository, "A", 0), 8);
 }
 
-TEST_F(Saving, LinksAreFollowedForTheFileAndNeverForTheTemporary)
-{
-    box.Write(box.root / "store/real", "int A = 1\n");
-    chmod((box.root / "store/real").c_str(), 0640);
-    const uid_t owner = geteuid() == 0 ? 65534 : geteuid(); // only the superuser could take it away
-    ASSERT_EQ(chown((box.root / "store/real").c_str(), owner, static_cast<gid_t>(-1)), 0);
-    std::filesystem::create_symlink("../store/real", file);
-    box.Write(box.root / "victim", "victim");
-    std::filesystem::create_symlink(box.root / "victim", box.root / "store/.real.tmp");
-    KivSettingRepository& repository = box.Reopen();
-    Put(repository, "A", 2);
-    ASSERT_EQ(Save(repository), Receipt::Durable);
-    EXPECT_TRUE(std::filesystem::is_symlink(file));
-    EXPECT_EQ(box.Saved(box.root / "store/real"), "int A = 2\n");
-    EXPECT_EQ(box.Bytes(box.root / "victim"), "victim");
-    EXPECT_EQ(box.Names("store"), std::vector<std::string>{"real"});
-    struct stat status {};
-    stat((box.root / "store/real").c_str(), &status);
-    EXPECT_EQ(status.st_mode & 0777, 0640U);
-    EXPECT_EQ(status.st_uid, owner);
-}
-
-// No file of this process may grow.
-class FullDisk {
-public:
-    FullDisk() { Allow(0); }
-    ~FullDisk() { Allow(RLIM_INFINITY); }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    static void Allow(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        rlimit limit{};
-        getrlimit(RLIMIT_FSIZE, &limit);
-        limit.rlim_cur = std::min(bytes, limit.rlim_max);
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-};
-
 TEST_F(Saving, ARefusedSaveKeepsEverythingForTheNextOne)
 {
     box.Write(file, "int A = 1\n");
@@ -258,26 +190,18 @@ TEST_F(Saving, ARefusedSaveKeepsEverythingForTheNextOne)
         for (const KivString& key : keys) told += key.View();
     });
 
-    // The disk is full; what another program stored before that is taken all the same.
+    // What another program stored before that is taken all the same.
     box.Write(file, "int A = 1\nint B = 1\n");
-    {
-        const FullDisk full;
-        EXPECT_EQ(Save(repository), Receipt::Refused);
-    }
-    EXPECT_EQ(box.Said("the settings were not saved: the file cannot be written"), 1);
-    EXPECT_EQ(box.Names("user").size(), 1U);
+    const auto obstacle = box.root / "user/.DraftingOptions.kivsettings.tmp";
+    std::filesystem::create_directory(obstacle);
+    EXPECT_EQ(Save(repository), Receipt::Refused);
+    EXPECT_EQ(box.Said("the settings were not saved: the temporary file cannot be made"), 1);
+    std::filesystem::remove(obstacle);
     EXPECT_EQ(box.Bytes(file), "int A = 1\nint B = 1\n");
     EXPECT_EQ(std::exchange(told, {}), "B");
     EXPECT_EQ(repository.Refresh().size(), 1U) << "who follows refreshes alone has not seen it yet";
     EXPECT_EQ(std::exchange(told, {}), "B");
     EXPECT_TRUE(repository.Refresh().empty());
-
-    // The directory is gone and something else stands there.
-    std::filesystem::rename(box.root / "user", box.root / "aside");
-    box.Write(box.root / "user", "no directory");
-    EXPECT_EQ(Save(repository), Receipt::Refused);
-    std::filesystem::remove(box.root / "user");
-    std::filesystem::rename(box.root / "aside", box.root / "user");
 
     EXPECT_EQ(box.Read(repository, "A", 0), 2);
     repository.Rollback(); // a refused save is no point to return to
@@ -297,29 +221,32 @@ TEST_F(Saving, ARefusedSaveKeepsEverythingForTheNextOne)
     EXPECT_EQ(Save(repository), Receipt::Durable);
 }
 
-TEST_F(Saving, WithoutAHomeEverythingWorksInMemory)
+// The values of the first start give way to a site default that is deployed later.
+TEST_F(Saving, TheFirstStartYieldsToTheAdministrator)
 {
-    for (const char* name : {"KivUserSettingsPath", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "HOME"}) {
-        box.SetVariable(name, {});
-    }
-    KivSettingRepository& homeless = box.Reopen();
-    EXPECT_FALSE(homeless.IsProtected());
-    Put(homeless, "A", 1);
-    EXPECT_EQ(Save(homeless), Receipt::Refused);
-    EXPECT_EQ(box.Said("there is no home directory"), 1);
-    EXPECT_EQ(box.Read(homeless, "A", 0), 1);
-
-    // The directory is made at the first save, for its user alone.
-    box.SetVariable("HOME", (box.root / "home").string());
     KivSettingRepository& first = box.Reopen();
-    Put(first, "A", 1);
-    EXPECT_FALSE(std::filesystem::exists(box.root / "home"));
-    EXPECT_EQ(Save(first), Receipt::Durable);
-    struct stat status {};
-    ASSERT_EQ(stat((box.root / "home/.config/kiv").c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777, 0700U);
-    ASSERT_EQ(stat((box.root / "home/.config/kiv/DraftingOptions.kivsettings").c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777, 0600U);
+    char name[256], type[256];
+    long count = 0;
+    EXPECT_NE(first.NextAttribute(name, type, &count, 1), 0);
+    const int value = 1, mine = 3;
+    ASSERT_EQ(first.WriteSetting("Mine", &mine, 1, 0), S_OK);
+    {
+        const KivSettingRepository::InitialScope scope(first);
+        ASSERT_EQ(first.WriteSetting("Ruler", &value, 1, 0), S_OK);
+        ASSERT_EQ(first.WriteSetting("Mine", &value, 1, 0), S_OK);
+    }
+    ASSERT_EQ(first.SaveRepository(nullptr), S_OK);
+    EXPECT_EQ(box.Saved(box.File("user")), "int Mine = 1\ninitial int Ruler = 1\n");
+    EXPECT_EQ(first.NextAttribute(name, type, &count, 1), 0);
+
+    box.NameLayers({"site"});
+    box.Write(box.File("site"), "int Ruler = 2\nint Mine = 2\n");
+    KivSettingRepository& later = box.Reopen();
+    EXPECT_EQ(box.Read(later, "Ruler", 0), 2);
+    EXPECT_EQ(box.Read(later, "Mine", 0), 1);
+    ASSERT_EQ(later.WriteSetting("Ruler", &value, 1, 0), S_OK); // the same value, now chosen
+    ASSERT_EQ(later.SaveRepository(nullptr), S_OK);
+    EXPECT_EQ(box.Read(box.Reopen(), "Ruler", 0), 1);
 }
 
 } // namespace
