@@ -91,15 +91,15 @@ private:
         for (const KivOptionsSession::Page& page : pages) DestroyAround(*page.frame->Children().front());
     }
 
-    KivDialog* Left(const char* name) { return session ? Find(name) : nullptr; }
-    void PressLeft(const char* name)
+    KivDialog* Left(const std::string& name) { return session ? Find(name) : nullptr; }
+    void PressLeft(const std::string& name)
     {
         if (KivDialog* button = Left(name)) KivUserHand::Press(*static_cast<KivDlgPushButton*>(button));
     }
     void DriveLeft(const std::vector<TableRow>& rows)
     {
         for (const TableRow& row : rows) {
-            KivDialog* control = Left((std::string(row.control) + "_dialog").c_str());
+            KivDialog* control = Left(row.control + "_dialog");
             if (!control) control = Left(row.control);
             // A row whose control was destroyed.
             if (control && control->IsAKindOf(KivDlgControl::Name)) Drive(*control);
@@ -108,18 +108,18 @@ private:
     }
     void VisitPage(const PageTable& table)
     {
-        for (const char* button : table.buttons) PressLeft(button);
+        for (const std::string& button : table.buttons) PressLeft(button);
         DriveLeft(table.rows);
         for (const WindowTable& window : table.windows) VisitWindow(window);
-        const KivOptionsSession::Page* page = session ? session->FindPage(table.page) : nullptr;
+        const KivOptionsSession::Page* page = session ? session->FindPage(table.page.c_str()) : nullptr;
         if (page) session->Reset(*page);
-        if (session && table.page == std::string("View")) session->Cancel();
+        if (session && table.page == "View") session->Cancel();
     }
     void VisitWindow(const WindowTable& window)
     {
         // The mode that the window needs; all but the pictures' are opened in the exact one.
-        const bool hrv = window.catalogue == std::string("KivDrwButtonHRVView");
-        const int line = window.button != std::string("pushRasterOptions") ? 0 : hrv ? 2 : 3;
+        const bool hrv = window.catalogue == "KivDrwButtonHRVView";
+        const int line = window.button != "pushRasterOptions" ? 0 : hrv ? 2 : 3;
         if (KivDialog* combo = Left("combViewMod_dialog"))
             KivUserHand::Choose(*static_cast<KivDlgCombo*>(combo), line);
         for (int time = 0; time < 2; ++time) PressLeft(window.button);
