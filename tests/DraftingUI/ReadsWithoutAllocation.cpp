@@ -1,6 +1,6 @@
-#include "CountedAllocations.h"
 #include "KivDrwSettingAccess.h"
 #include "Support/KivSettingsSandbox.h"
+#include "Support/KivWatchedMemory.h"
 
 #include <gtest/gtest.h>
 
@@ -24,7 +24,8 @@ TEST(Reads, AllocateNothing)
     EXPECT_EQ(repository.ReadSetting("Ruler", &real, 1), E_FAIL);
     EXPECT_EQ(KivDrwRead(&repository, KivDrwKeys::Drw_settings_GridPrimarySpacing), 100.0);
 
-    const long before = CountedAllocations();
+    static int made = 0;
+    KivIsMemoryGiven = [] { return ++made > 0; };
     const HRESULT results[] = {
         repository.ReadSetting("Ruler", &whole, 1),
         repository.ReadSetting("Ruler", &real, 1),
@@ -36,7 +37,7 @@ TEST(Reads, AllocateNothing)
     real = KivDrwRead(&repository, KivDrwKeys::RotSnapAngle) +
            KivDrwRead(&repository, KivDrwKeys::Drw_settings_GridPrimarySpacing);
     whole = KivDrwRead(&repository, KivDrwKeys::Ruler);
-    const long made = CountedAllocations() - before;
+    KivIsMemoryGiven = nullptr;
     EXPECT_EQ(made, 0);
     const HRESULT expected[] = {S_OK, E_FAIL, E_FAIL, S_OK, S_OK, S_OK};
     for (std::size_t i = 0; i < std::size(expected); ++i) EXPECT_EQ(results[i], expected[i]) << i;

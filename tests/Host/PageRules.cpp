@@ -285,14 +285,13 @@ TEST_F(PageRules, StyleFilesComeFromTheDisk)
                              "a \"b\" \\c.xml", "new\nline.xml", "not\xff\xfeUTF8.xml"})
         box.Write(box.root / "site" / "generativeparameters" / name, "");
     std::filesystem::create_directory(box.root / "site" / "generativeparameters" / "dir.xml");
-    for (int i = 0; i < 5000; ++i)
-        box.Write(box.root / "many" / "generativeparameters" / ("Style" + std::to_string(i) + ".xml"), "");
-    box.Write(box.root / "many" / "generativeparameters" / "Zeta.xml", "");
+    for (const char* name : {"Style9.xml", "Style10.xml", "Zeta.xml"})
+        box.Write(box.root / "default" / "generativeparameters" / name, "");
     box.SetVariable("KivCollectionStandard", missing + ":" + file1 + ":" + (box.root / "site").string());
-    box.SetVariable("KivDefaultCollectionStandard", (box.root / "many").string());
+    box.SetVariable("KivDefaultCollectionStandard", (box.root / "default").string());
     Open();
     KivDlgCombo& combo = Combo("chkGVSXml");
-    EXPECT_GE(combo.GetLineCount(), 5005);
+    EXPECT_GE(combo.GetLineCount(), 7);
     EXPECT_EQ(combo.GetSelect(), -1) << "names differ by their case";
     KivUnicodeString before, line;
     int zetas = 0;
@@ -307,7 +306,7 @@ TEST_F(PageRules, StyleFilesComeFromTheDisk)
     session->Refill();
     EXPECT_FALSE(Combo("chkGVSXml").IsEnabled());
     EXPECT_FALSE(Combo("chkGVSXml").WhyDisabled().IsEmpty());
-    EXPECT_GE(Combo("chkGVSXml").GetLineCount(), 5005);
+    EXPECT_GE(Combo("chkGVSXml").GetLineCount(), 7);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "PowerCut.h"
 #include "Scenario.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -101,18 +102,24 @@ private:
         }
         if (receipt == Receipt::Refused && _box.Said("were not saved") == 0) return "the refusal is not said";
         if (isOfSave && receipt == Receipt::Visible) return "a save is half safe";
-        const std::string bytes = _box.Bytes(_box.root / target);
-        for (const PowerCut::Disk& disk : cut.States(true))
-            if (receipt == Receipt::Durable && !Holds(disk, bytes))
-                return "durable was said, and a power cut takes it away";
+        const auto isSafe = [&] {
+            const std::string bytes = _box.Bytes(_box.root / target);
+            const auto holds = [&](const PowerCut::Disk& disk) { return Holds(disk, bytes); };
+            return std::ranges::all_of(cut.States(true), holds);
+        };
+        if (receipt == Receipt::Durable && !isSafe())
+            return "durable was said, and a power cut takes it away";
         if (receipt == Receipt::Visible) {
+            Faults::Arm({"no flush", Faults::Flush, Effect::Error, EIO, true}, 1, _box.root.string());
             repository.SaveRepository(nullptr);
-            for (const PowerCut::Disk& disk : cut.States(true))
-                if (!Holds(disk, bytes)) return "the flush that is owed is not made good";
+            Faults::Disarm();
+            if (repository.LastReceipt() != Receipt::Visible) return "a flush is owed, and nothing is said";
+            repository.SaveRepository(nullptr);
+            if (!isSafe()) return "the flush that is owed is not made good";
         }
         if (receipt != Receipt::Refused) return AfterRetry(repository);
-        return repository.SaveRepository(nullptr) == S_OK ? AfterRetry(repository)
-                                                          : "the next save is refused too";
+        if (repository.SaveRepository(nullptr) != S_OK) return "the next save is refused too";
+        return isSafe() ? AfterRetry(repository) : "a power cut takes the next save away";
     }
 
     bool Holds(const PowerCut::Disk& disk, const std::string& bytes) const

@@ -28,16 +28,17 @@ TEST(LineEnds, CostNoValue)
     KivSettingsSandbox box;
     std::vector<std::string> texts{"", "\xef\xbb\xbf"};
     for (const std::vector<std::string>& next : std::vector<std::vector<std::string>>{
-             {"", "# kivsettings 1\n", "# kivsettings 1\r\n", "# kivsettings 1\r", "# mine\n"},
-             {"int A = 1\n", "int A = 1\r\n", "int A = 1\r"},
-             {"int B = 1\n", "int B = 1\r\n", "int B = 1\r"},
-             {"string C = \"x\"", "string C = \"x\"\n", "string C = \"x\"\r\n", "string C = \"x\"\r",
-              "string C = \"x\"\n\r"}}) {
+             {"", "# kivsettings 1\n", "# kivsettings 1\r\n", "# mine\n"},
+             {"int A = 1\n", "int A = 1\r\n"},
+             {"int B = 1\n", "int B = 1\r\n"},
+             {"string C = \"x\"", "string C = \"x\"\n", "string C = \"x\"\r\n", "string C = \"x\"\r"}}) {
         std::vector<std::string> longer;
         for (const std::string& text : texts)
             for (const std::string& line : next) longer.push_back(text + line);
         texts = longer;
     }
+    for (const char* last : {"", "\r"})
+        texts.push_back("# kivsettings 1\rint A = 1\rint B = 1\rstring C = \"x\"" + std::string(last));
     for (const std::string& text : texts)
         for (const std::vector<const char*>& changes :
              {std::vector{"B", "New", "B", "Newer"}, std::vector{"A", "B", "A"}, std::vector{"New", "A"}})

@@ -76,6 +76,10 @@ TEST_F(Damage, AFileThatCannotBeReadIsProtected)
     EXPECT_EQ(box.Saved(file), "int Snap = 3\nint Ruler = 1\n");
     EXPECT_EQ(box.Read(repository, "Snap", 0), 3);
     EXPECT_FALSE(repository.IsProtected());
+
+    // Nor is one written over that others may have replaced since it was read.
+    std::filesystem::permissions(box.root / "user", std::filesystem::perms::all);
+    EXPECT_EQ(PutAndSave(repository, "Ruler", 2), Receipt::Refused);
 }
 
 } // namespace

@@ -1,4 +1,0 @@
-#pragma once
-
-// How often this program has allocated from the free store so far.
-long CountedAllocations();
