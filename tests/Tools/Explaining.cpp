@@ -1,3 +1,4 @@
+#include "KivDrwOptionsServices.h"
 #include "ToolFixture.h"
 
 #include <set>
@@ -71,6 +72,14 @@ TEST_F(Explained, HelpManualAndCompletionNameTheSameCommandsAndOptions)
     EXPECT_EQ(Completed("list --page Ge"), " General Generation Geometry \n");
     EXPECT_EQ(Run("kivsettings list --page trel").out, Run("kivsettings list --page Compatibility").out)
         << "its name before";
+}
+
+TEST_F(Explained, NothingIsWrongWithAFirstStart)
+{
+    if (geteuid() != 0) GTEST_SKIP() << "what a mere user owns binds nobody, and is told each time";
+    KivDrwOptionsServices::InitOptionsOnDisk();
+    EXPECT_EQ(Run("kivsettings check").err, "kivsettings: nothing is wrong in 1 file\n");
+    EXPECT_EQ(Run("kivsettings list --changed").out, "KivDrwQmtAnnotLay\tint\t4\t0\tinitial\t-\tView\n");
 }
 
 } // namespace
