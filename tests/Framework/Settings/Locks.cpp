@@ -101,4 +101,28 @@ TEST_F(Locks, ABatchStoresWhatItMayAndNamesTheRest)
     EXPECT_EQ(refused, "Ruler/site1 DimNew/site2 not a key/0 Angle/0 DimOld/site2 ");
 }
 
+// Of a value and of a lock, of a first start and of a user: each has changed the file since the other read
+// it.
+TEST_F(Locks, WhatTwoSayOfOneKeyIsMerged)
+{
+    box.Write(box.File("site"), "# kivsettings 1\nint A = 1\nint B = 1\n");
+    KivSettingRepository::SetEditedLayer(KivUnicodeString((box.root / "site").string()));
+    KivSettingRepository& site = box.Reopen();
+    Put("A", 2);
+    site.SetLock("B", true);
+    box.Write(box.File("site"), "# kivsettings 1\nlock int A = 1\nint B = 3\n");
+    EXPECT_EQ(site.SaveRepository(nullptr), S_OK);
+    EXPECT_EQ(box.Saved(box.File("site")), "lock int A = 2\nlock int B = 3\n");
+
+    KivSettingRepository::SetEditedLayer({});
+    KivSettingRepository& user = box.Reopen();
+    {
+        const KivSettingRepository::InitialScope scope(user);
+        Put("C", 1);
+    }
+    box.Write(box.File("user"), "int C = 5\n");
+    EXPECT_EQ(user.SaveRepository(nullptr), S_OK);
+    EXPECT_EQ(box.Read(user, "C", 0), 5);
+}
+
 } // namespace
