@@ -15,10 +15,11 @@ std::string Trouble(const Scenario& scenario, int at, bool& hasStruck)
     KivSettingRepository& repository = box.Reopen();
     const Tree before = TreeOf(box.root);
     const int value = 2;
-    HRESULT saved = S_OK;
+    HRESULT saved = S_OK, locked = E_FAIL;
     try {
         Faults::Arm({"no memory", Faults::Memory, Faults::Effect::Error, ENOMEM}, at, "");
         const bool isWritten = repository.WriteSetting("Changed", &value, 1, 0) == S_OK;
+        locked = repository.SetLock("Pre*", true);
         saved = repository.SaveRepository(nullptr);
         repository.Refresh();
         KivSettingInfo info;
@@ -35,6 +36,8 @@ std::string Trouble(const Scenario& scenario, int at, bool& hasStruck)
     if (!scenario.isFirst && !OpenLocks(repository).empty()) return "a lock is open while it runs";
     repository.WriteSetting("Changed", &value, 1, 0);
     if (repository.SaveRepository(nullptr) != S_OK) return "the next save is refused too";
+    const bool isStored = box.Bytes(box.root / target).find("lock Pre*") != std::string::npos;
+    if (isStored != (locked == S_OK)) return "a lock was refused and set, or set and lost";
     KivSettingRepository& next = box.Reopen();
     if (box.Read(next, "Changed", 0) != 2 || box.Read(next, "Kept", 1) != 1)
         return "the next start has lost a value";
