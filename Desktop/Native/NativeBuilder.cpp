@@ -6,6 +6,7 @@
 #include "Native/NativeDirectoryRow.h"
 #include "Native/NativeDrawnCombos.h"
 #include "Native/NativeEditor.h"
+#include "Native/NativeFlow.h"
 #include "Native/NativeFrames.h"
 #include "Native/NativeGrid.h"
 #include "Native/NativeLabel.h"
@@ -103,15 +104,21 @@ void KeepEmptyRows(QGridLayout& layout, const NativeGrid& grid, const QWidget& s
     }
 }
 
-void FillGrid(KivDialog& frame, QWidget* surface, NativeGroup* inGroup)
+bool IsGroup(const NativeCell& cell)
+{
+    return cell.node->IsAKindOf(KivDlgToolsOptionsFrame::Name);
+}
+
+// Answers its groups, which are still empty.
+std::vector<NativeGroup*> FillGrid(KivDialog& frame, QWidget* surface)
 {
     const NativeGrid grid(frame);
-    auto* layout = new QGridLayout(surface);
-    if (inGroup) layout->setContentsMargins(0, 0, 0, 0);
+    const bool hasGroupsAlone = std::all_of(grid.Cells().begin(), grid.Cells().end(), &IsGroup);
+    QGridLayout* layout = hasGroupsAlone ? new NativeFlow(surface) : new QGridLayout(surface);
     for (KivDialog* merged : grid.Merged()) new NativeMergedFrame(*merged, surface);
 
     // Groups share the width of the surface; controls stay together at its beginning.
-    bool hasGroups = false;
+    std::vector<NativeGroup*> groups;
     for (const NativeCell& cell : grid.Cells()) {
         NativePiece* piece = MakePiece(*cell.node, surface);
         if (!piece) continue;
@@ -120,14 +127,20 @@ void FillGrid(KivDialog& frame, QWidget* surface, NativeGroup* inGroup)
         layout->addWidget(StandsFor(*piece, surface), cell.row, cell.column, cell.rows, cell.columns,
                           Alignment(attachment));
         if (auto* group = dynamic_cast<NativeGroup*>(piece)) {
-            FillGrid(*cell.node, group->Content(), group);
             layout->setColumnStretch(cell.column + cell.columns - 1, 1);
-            hasGroups = true;
+            groups.push_back(group);
         }
     }
-    if (!hasGroups) layout->setColumnStretch(grid.Columns(), 1);
+    if (groups.empty()) layout->setColumnStretch(grid.Columns(), 1);
     layout->setRowStretch(grid.Rows(), 1);
     KeepEmptyRows(*layout, grid, *surface);
+    return groups;
+}
+
+void FillGroup(NativeGroup& group)
+{
+    for (NativeGroup* inner : FillGrid(*group.Node(), group.Content())) FillGroup(*inner);
+    group.Content()->layout()->setContentsMargins(0, 0, 0, 0);
 }
 
 // Only when all pieces stand do labels find the fields that they lead to. Frames come after what is in them:
@@ -140,16 +153,34 @@ void RefreshAll(const KivDialog& node)
 
 } // namespace
 
-QWidget* NativeBuilder::Build(KivEditorPage& page, QWidget* parent)
+NativeBuilder::NativeBuilder(KivEditorPage& page, QWidget* parent)
 {
-    auto* surface = new NativePage(page, parent);
-    Fill(page, *surface);
+    auto* const surface = new NativePage(page, parent);
+    _surface = surface;
+    for (const NativeGroup* group : FillGrid(page, surface)) _groups.emplace_back(group->Node());
+    std::reverse(_groups.begin(), _groups.end());
+    for (const KivDialog* child : page.Children()) {
+        if (NativePiece* piece = NativePiece::Of(child)) piece->Refresh();
+    }
     surface->Refresh();
-    return surface;
+}
+
+NativeBuilder::~NativeBuilder() = default;
+
+bool NativeBuilder::Step()
+{
+    if (!_surface || _groups.empty()) return false;
+    const KivWeakPtr<KivDialog> node = _groups.back();
+    _groups.pop_back();
+    if (auto* group = dynamic_cast<NativeGroup*>(NativePiece::Of(node.Get()))) {
+        FillGroup(*group);
+        RefreshAll(*node.Get());
+    }
+    return !_groups.empty();
 }
 
 void NativeBuilder::Fill(KivDialog& frame, QWidget& surface)
 {
-    FillGrid(frame, &surface, nullptr);
+    for (NativeGroup* group : FillGrid(frame, &surface)) FillGroup(*group);
     for (const KivDialog* child : frame.Children()) RefreshAll(*child);
 }

@@ -55,8 +55,14 @@ QString NativeDescription::Command() const
 void NativeDescription::ShowOn(QWidget& widget) const
 {
     const KivUnicodeString tip = Speaker(_node).GetTip(), facts = Speaker(_node).GetFacts();
-    widget.setToolTip(Wrapped(facts.IsEmpty() || tip.IsEmpty() ? tip : (tip + "\n").Append(facts)));
-    widget.setWhatsThis(LongHelp());
-    widget.setAccessibleName(Name());
-    widget.setAccessibleDescription(Tip());
+    // Each is told to whoever listens, even if it is the same.
+    const auto show = [&widget](QString (QWidget::*now)() const, void (QWidget::*set)(const QString&),
+                                const QString& text) {
+        if ((widget.*now)() != text) (widget.*set)(text);
+    };
+    show(&QWidget::toolTip, &QWidget::setToolTip,
+         Wrapped(facts.IsEmpty() || tip.IsEmpty() ? tip : (tip + "\n").Append(facts)));
+    show(&QWidget::whatsThis, &QWidget::setWhatsThis, LongHelp());
+    show(&QWidget::accessibleName, &QWidget::setAccessibleName, Name());
+    show(&QWidget::accessibleDescription, &QWidget::setAccessibleDescription, ToQt(tip));
 }

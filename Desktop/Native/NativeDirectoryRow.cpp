@@ -53,6 +53,7 @@ NativeDirectoryRow::NativeDirectoryRow(KivDialog& node, QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(_field, 1);
     layout->addWidget(button);
+    show(); // as the content of a group
     connect(button, &QToolButton::clicked, _field, &NativeEditor::OpenChooser);
     connect(_field, &QObject::destroyed, this, &QObject::deleteLater);
 }

@@ -15,6 +15,7 @@ NativeGroup::NativeGroup(KivDialog& node, QWidget* parent)
     auto* layout = new QHBoxLayout(this);
     layout->addWidget(_icon, 0, Qt::AlignTop);
     layout->addWidget(_content, 1);
+    _content->show(); // so that it is counted before its page is shown
 }
 
 void NativeGroup::ShowNode()

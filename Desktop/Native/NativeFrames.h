@@ -16,11 +16,7 @@ public:
     NativePage(KivDialog& node, QWidget* parent) : QWidget(parent), NativePieceFor(node, this) {}
 
 protected:
-    void ShowNode() override
-    {
-        setAccessibleName(QString());
-        setToolTip(QString());
-    }
+    void ShowTexts() override {}
     bool StaysReachable() const override { return true; }
 };
 

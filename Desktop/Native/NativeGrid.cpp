@@ -2,6 +2,8 @@
 
 #include "Dialog/KivDlgDialog.h"
 #include "Dialog/KivDlgFrame.h"
+#include "Dialog/KivDlgLabel.h"
+#include "Dialog/KivDlgLock.h"
 #include "Dialog/KivDlgSpinner.h"
 
 #include <algorithm>
@@ -70,6 +72,7 @@ std::vector<int> Tracks(const KivDialog& frame, Axis axis)
 NativeGrid::NativeGrid(const KivDialog& frame)
 {
     AddCells(frame, 0, 0);
+    PutPadlocksFirst();
     for (const NativeCell& cell : _cells) {
         _rows = std::max(_rows, cell.row + cell.rows);
         _columns = std::max(_columns, cell.column + cell.columns);
@@ -100,6 +103,32 @@ void NativeGrid::AddCells(const KivDialog& frame, int row, int column)
                               Sum(columns, across.first, across.count)});
         }
     }
+}
+
+const NativeCell* NativeGrid::At(int row, int column) const
+{
+    const auto found = std::find_if(_cells.begin(), _cells.end(), [row, column](const NativeCell& cell) {
+        return cell.row == row && cell.column == column;
+    });
+    return found == _cells.end() ? nullptr : &*found;
+}
+
+void NativeGrid::PutPadlocksFirst()
+{
+    std::vector<const KivDialog*> taken;
+    for (NativeCell& lock : _cells) {
+        if (!lock.node->IsAKindOf(KivDlgLock::Name)) continue;
+        const NativeCell* label = At(lock.row, lock.column - 1);
+        const NativeCell* kept = At(lock.row, lock.column - 2);
+        if (!label || !label->node->IsAKindOf(KivDlgLabel::Name) || !kept ||
+            kept->node->GetVisibility() != KivDlgReserved)
+            continue;
+        lock.column = kept->column;
+        taken.push_back(kept->node);
+    }
+    std::erase_if(_cells, [&](const NativeCell& cell) {
+        return std::find(taken.begin(), taken.end(), cell.node) != taken.end();
+    });
 }
 
 // What is attached to the left and followed by nothing may use the rest of its row: else one long title would

@@ -12,7 +12,9 @@ struct NativeCell {
 
 // The native grid of a frame. Plain frames inside it have no surface of their own: their cells become cells
 // of the same grid, in which every row and column of the outer frame gets as many native lines as the plain
-// frame that needs most there. So padlocks, labels and fields align down the whole group.
+// frame that needs most there. So padlocks, labels and fields align down the whole group. Every row begins
+// with its padlock: that of a labelled field, which pages declare after the label, takes the cell that they
+// keep before it.
 class NativeGrid {
 public:
     explicit NativeGrid(const KivDialog& frame);
@@ -28,6 +30,8 @@ public:
 
 private:
     void AddCells(const KivDialog& frame, int row, int column);
+    const NativeCell* At(int row, int column) const;
+    void PutPadlocksFirst();
     void WidenLastOfRow();
 
     std::vector<NativeCell> _cells;

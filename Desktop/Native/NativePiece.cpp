@@ -55,10 +55,15 @@ void NativePiece::Refresh()
     if (!_node) return;
     if (_widget) {
         _widget->setEnabled(_node->IsEnabled() || StaysReachable());
-        NativeDescription(*_node).ShowOn(*_widget);
+        ShowTexts();
     }
     ShowNode();
     if (_widget) ShowVisibility();
+}
+
+void NativePiece::ShowTexts()
+{
+    NativeDescription(*_node).ShowOn(*_widget);
 }
 
 void NativePiece::NodeChanged(KivDialog&)

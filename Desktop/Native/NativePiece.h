@@ -31,6 +31,8 @@ public:
 protected:
     NativePiece(KivDialog& node, QWidget* widget);
 
+    // Shows what the node says of itself.
+    virtual void ShowTexts();
     // Shows what is particular to the kind of node; its texts, visibility and sensitivity are shown already.
     virtual void ShowNode() {}
     // A frame and a padlock stay reachable while their node is disabled: what they hold has to be explained.

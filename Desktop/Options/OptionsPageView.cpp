@@ -7,11 +7,25 @@
 OptionsPageView::OptionsPageView(KivEditorPage* page, QWidget* parent) : NativeScrollArea(parent), _page(page)
 {}
 
+OptionsPageView::~OptionsPageView() = default;
+
 void OptionsPageView::Build()
 {
-    if (_built || !_page) return;
-    _built = true;
-    setWidget(NativeBuilder::Build(*_page, this));
+    while (BuildPart()) {
+    }
+}
+
+bool OptionsPageView::BuildPart()
+{
+    if (!_page) return false;
+    if (!_builder) {
+        _builder = std::make_unique<NativeBuilder>(*_page, this);
+    } else if (!_builder->Step()) {
+        setWidget(_builder->Surface());
+        _builder.reset();
+        _page = nullptr;
+    }
+    return true;
 }
 
 QList<QWidget*> OptionsPageView::Fields() const

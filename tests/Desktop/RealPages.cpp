@@ -90,8 +90,8 @@ TEST_F(RealPages, LineTheirFieldsUpInEitherDirection)
 {
     const auto left = [&](const char* name) { return PositionOf(Control(name)).x(); };
     for (const auto& [one, other] : {std::pair("checkGridLock", "checkSnapLock"),
-                                     {"checkGridLock", "checkAllowDistortionsLock"},
-
+                                     {"checkGridLock", "editorGridSpacingLock"},
+                                     {"checkRotSnapAutoLock", "spinnerRotSnapAngleLock"},
                                      {"editorGridSpacing", "editorGridGraduation"},
                                      {"editorGridSpacingLock", "editorGridGraduationLock"},
                                      {"editorGridSpacingV", "editorGridGraduationV"},
@@ -117,6 +117,21 @@ TEST_F(RealPages, LineTheirFieldsUpInEitherDirection)
     OpenAt("Generation");
     QTest::qWait(1);
     EXPECT_GT(gap(), narrow);
+}
+
+TEST_F(RealPages, PutGroupsBelowOneAnotherWhereTheyDoNotFitBesideEachOther)
+{
+    OpenAt("Geometry");
+    const auto& one = *WidgetOf(Node<KivDialog>("frameGeomCreation"));
+    const auto& other = *WidgetOf(Node<KivDialog>("frameConstraint"));
+    for (const auto& [width, isBeside] : {std::pair(1400, true), {640, false}, {1400, true}}) {
+        window->resize(width, 500);
+        QTest::qWait(1);
+        EXPECT_EQ(other.x() > one.geometry().right(), isBeside) << width;
+        EXPECT_EQ(other.y() > one.geometry().bottom(), !isBeside) << width;
+        EXPECT_FALSE(View().horizontalScrollBar()->isVisible()) << width;
+        EXPECT_TRUE(Button("OK")->isVisible());
+    }
 }
 
 TEST_F(RealPages, PadlocksFollowThePaletteAtOnceAndAMissingIconIsSaidOnce)
