@@ -1,8 +1,8 @@
 #include "Native/NativeBubble.h"
 
+#include "Common/Announcement.h"
+
 #include <QAbstractScrollArea>
-#include <QAccessible>
-#include <QAccessibleEvent>
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
@@ -74,8 +74,7 @@ void NativeBubble::Say(const QString& text)
     Place();
     raise();
     show();
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    Announcement::Say(_field, text);
 }
 
 // Below the field or above it: within what is seen of the surface, and not over what the user goes on to.

@@ -5,6 +5,7 @@
 #include "Dialog/KivUserHand.h"
 #include "Native/NativePadlock.h"
 
+#include <QButtonGroup>
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -48,7 +49,11 @@ QSize NativeCheckButton::sizeHint() const
 NativeRadioButton::NativeRadioButton(KivDialog& node, QWidget* parent)
     : QRadioButton(parent), NativePieceFor(node, this)
 {
-    setAutoExclusive(false);
+    // Alone in a group that excludes nothing, it is a radio button to screen readers and leaves its neighbors
+    // to the tree.
+    auto* const alone = new QButtonGroup(this);
+    alone->setExclusive(false);
+    alone->addButton(this);
 }
 
 void NativeRadioButton::ShowNode()

@@ -65,11 +65,9 @@ KivColor NativeColorCombo::Color() const
     return color;
 }
 
-void NativeColorCombo::ShowNode()
+QString NativeColorCombo::SpokenValue() const
 {
-    NativeCombo::ShowNode();
-    const QString name = NativeDescription(*TreeNode()).Name();
-    setAccessibleName(TreeNode()->GetSelect() < 0 ? name : name + ": " + ToQt(KivSpokenColorName(Color())));
+    return !TreeNode() || TreeNode()->GetSelect() < 0 ? QString() : ToQt(KivSpokenColorName(Color()));
 }
 
 QStringList NativeColorCombo::Lines() const

@@ -10,11 +10,12 @@ class NativeColorCombo : public NativeCombo {
 public:
     using NativeCombo::NativeCombo;
 
+    // Its name and its components.
+    QString SpokenValue() const override;
     // Non-modal for the tree: the color is entered when the dialog is accepted.
     QColorDialog* OpenMixer();
 
 protected:
-    void ShowNode() override;
     QIcon LineIcon(int line) const override;
     QStringList Lines() const override;
     void Choose(int line) override;

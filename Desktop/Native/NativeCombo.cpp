@@ -1,18 +1,23 @@
 #include "Native/NativeCombo.h"
 
+#include "Common/Announcement.h"
 #include "Common/NativeText.h"
 #include "Dialog/KivUserHand.h"
+#include "Native/NativeComboAccessible.h"
 
 #include <QPointer>
 #include <QWheelEvent>
 
 NativeCombo::NativeCombo(KivDialog& node, QWidget* parent) : QComboBox(parent), NativePieceFor(node, this)
 {
+    NativeComboAccessible::Install();
     setFocusPolicy(Qt::StrongFocus); // not by the wheel
     connect(this, &QComboBox::activated, this, [this](int line) {
         const QPointer<QWidget> self(this);
         if (TreeNode()) Choose(line);
-        if (self) Refresh(); // what was refused goes back
+        if (!self) return;
+        Refresh(); // what was refused goes back
+        Announcement::Say(*this, SpokenValue());
     });
 }
 

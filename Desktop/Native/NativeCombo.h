@@ -10,6 +10,9 @@ class NativeCombo : public QComboBox, public NativePieceFor<KivDlgCombo> {
 public:
     NativeCombo(KivDialog& node, QWidget* parent);
 
+    // The chosen line, as a screen reader says it.
+    virtual QString SpokenValue() const { return currentText(); }
+
 protected:
     void ShowNode() override;
     void wheelEvent(QWheelEvent* event) override;

@@ -1,11 +1,10 @@
 #include "Native/NativePanel.h"
 
+#include "Common/Announcement.h"
 #include "Common/NativeText.h"
 #include "Native/NativeDescription.h"
 #include "Native/NativePiece.h"
 
-#include <QAccessible>
-#include <QAccessibleEvent>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLabel>
@@ -28,8 +27,7 @@ NativePanel* NativePanel::Open(QWidget& beside, const QString& name, const QStri
     panel->Say(name, text, command);
     panel->PutBeside(beside);
     panel->show();
-    QAccessibleEvent alert(panel, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    Announcement::Say(beside, name + ". " + text);
     return panel;
 }
 

@@ -3,7 +3,6 @@
 #include "Common/NativeText.h"
 #include "Dialog/KivUserHand.h"
 #include "Native/NativeDescription.h"
-#include "Parameter/KivControlUnit.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -91,6 +90,28 @@ bool NativeSpinner::CommitText()
         Refuse(ToQt(answer.why));
     }
     return answer.done;
+}
+
+std::array<double, 3> NativeSpinner::Range() const
+{
+    std::array<double, 3> range{};
+    if (!TreeNode()) return range;
+    TreeNode()->GetMinMaxStep(range[0], range[1], range[2]);
+    for (double& number : range) number = Unit().ToShown(number);
+    return range;
+}
+
+const KivControlUnit& NativeSpinner::Unit() const
+{
+    return KivControlUnit::Of(TreeNode()->GetUnit());
+}
+
+void NativeSpinner::EnterValue(double value)
+{
+    if (!TreeNode()) return;
+    lineEdit()->setText(ToQt(TreeNode()->Print(Unit().ToStored(value))));
+    lineEdit()->setModified(true);
+    CommitText();
 }
 
 void NativeSpinner::stepBy(int steps)

@@ -1,9 +1,8 @@
 #include "Options/OptionsStrips.h"
 
+#include "Common/Announcement.h"
 #include "Common/NativeText.h"
 
-#include <QAccessible>
-#include <QAccessibleEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QStyle>
@@ -102,6 +101,5 @@ void OptionsMessageStrip::Show()
     _text->setToolTip(_messages.join(u'\n'));
     setAccessibleDescription(text);
     show();
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    Announcement::Say(*this, text);
 }

@@ -1,5 +1,6 @@
 #include "Sheet/SheetView.h"
 
+#include "Common/Announcement.h"
 #include "Common/NativeText.h"
 #include "Parameter/KivParmEngine.h"
 #include "Sheet/SheetGrid.h"
@@ -68,6 +69,8 @@ void SheetView::SetRotation(double degrees)
     emit RotationChanged(angle);
     QAccessibleValueChangeEvent changed(this, angle);
     QAccessible::updateAccessibility(&changed);
+    // Readers do not say what a dial has come to.
+    if (hasFocus()) Announcement::Say(*this, SheetUnit::PrintAngle(angle));
 }
 
 void SheetView::SelectView(bool selected)

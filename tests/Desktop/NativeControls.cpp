@@ -129,10 +129,6 @@ TEST_F(NativeControls, AnyColorCanBeMixedAndIsSpoken)
     OpenAt("Geometry");
     auto* const combo = WidgetOf<NativeColorCombo>("comboCstColor");
     const KivComboColor& color = Color("comboCstColor");
-    const auto name = [&](const char* spoken) {
-        return QString::fromUtf8(color.GetSpokenTitle().ConvertToChar()) + ": " + spoken;
-    };
-    EXPECT_TRUE(combo->accessibleName().startsWith(name("")));
     EXPECT_EQ(combo->count(), color.GetLineCount() + 1);
     QTest::keyClick(combo, Qt::Key_Down, Qt::AltModifier);
     QTest::keyClick(combo->view(), Qt::Key_End);
@@ -143,7 +139,7 @@ TEST_F(NativeControls, AnyColorCanBeMixedAndIsSpoken)
     ASSERT_TRUE(QTest::qWaitFor([mixer] { return mixer->isVisible(); }));
     mixer->setCurrentColor(QColor(1, 2, 3));
     mixer->accept();
-    EXPECT_EQ(combo->accessibleName(), name("Custom (1, 2, 3)"));
+    EXPECT_EQ(combo->SpokenValue(), "Custom (1, 2, 3)");
     EXPECT_EQ(combo->currentText(), "Custom (1, 2, 3)");
 
     // Arrows that come to the last entry do not open it.
