@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr const char* kSize = "Options/Size";
+constexpr const char* kPlace = "Options/Place";
 constexpr const char* kPage = "Options/Page";
 constexpr const char* kWindow = "Options/Window/";
 
@@ -16,9 +16,9 @@ QString OptionsMemory::UserFile()
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/kiv/desktop.ini";
 }
 
-QSize OptionsMemory::Size() const
+QRect OptionsMemory::Place() const
 {
-    return _file.isEmpty() ? QSize() : QSettings(_file, QSettings::IniFormat).value(kSize).toSize();
+    return _file.isEmpty() ? QRect() : QSettings(_file, QSettings::IniFormat).value(kPlace).toRect();
 }
 
 KivString OptionsMemory::Page() const
@@ -28,11 +28,11 @@ KivString OptionsMemory::Page() const
     return KivString(page.toStdString());
 }
 
-void OptionsMemory::Remember(const QSize& size, const KivString& page) const
+void OptionsMemory::Remember(const QRect& place, const KivString& page) const
 {
     if (_file.isEmpty()) return;
     QSettings file(_file, QSettings::IniFormat);
-    file.setValue(kSize, size);
+    file.setValue(kPlace, place);
     file.setValue(kPage, QString::fromUtf8(page.ConvertToChar()));
 }
 

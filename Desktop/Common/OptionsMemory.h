@@ -3,10 +3,9 @@
 #include "Base/KivString.h"
 
 #include <QRect>
-#include <QSize>
 #include <QString>
 
-// What the options window remembers from one opening to the next: its size, the last page by the name of
+// What the options window remembers from one opening to the next: its place, the last page by the name of
 // its editor, and where the windows of pages stood. A file that cannot be read or written is as good as none.
 class OptionsMemory {
 public:
@@ -16,9 +15,9 @@ public:
     // kiv/desktop.ini in the user's configuration directory.
     static QString UserFile();
 
-    QSize Size() const; // invalid when there is none
+    QRect Place() const; // invalid when there is none
     KivString Page() const;
-    void Remember(const QSize& size, const KivString& page) const;
+    void Remember(const QRect& place, const KivString& page) const;
 
     // The geometry of a page's window, by the name that it gives itself; invalid when there is none.
     QRect Window(const QString& name) const;

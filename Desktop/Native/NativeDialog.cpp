@@ -1,6 +1,7 @@
 #include "Native/NativeDialog.h"
 
 #include "Common/NativeText.h"
+#include "Common/WindowPlace.h"
 #include "Dialog/KivUserHand.h"
 #include "Native/NativeBuilder.h"
 #include "Native/NativePanel.h"
@@ -48,6 +49,7 @@ NativeDialog::NativeDialog(KivDialog& node, const OptionsMemory& memory, QWidget
     all->addWidget(_area, 1);
     all->addLayout(_foot);
     TakeGeometry();
+    WindowPlace::KeepOnScreen(*this);
 }
 
 void NativeDialog::ShowNode()

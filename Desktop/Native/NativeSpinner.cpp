@@ -110,7 +110,6 @@ void NativeSpinner::EnterValue(double value)
 {
     if (!TreeNode()) return;
     lineEdit()->setText(ToQt(TreeNode()->Print(Unit().ToStored(value))));
-    lineEdit()->setModified(true);
     CommitText();
 }
 

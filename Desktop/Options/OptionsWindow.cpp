@@ -1,7 +1,9 @@
 #include "Options/OptionsWindow.h"
 
+#include "Common/Announcement.h"
 #include "Common/IconStore.h"
 #include "Common/NativeText.h"
+#include "Common/WindowPlace.h"
 #include "Disk/KivDirectoryWatch.h"
 #include "Native/NativePanel.h"
 #include "Native/NativePiece.h"
@@ -18,7 +20,6 @@
 #include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
 
@@ -29,6 +30,7 @@ namespace {
 constexpr int kLettersWide = 148; // the pages in two columns
 constexpr int kLinesHigh = 34;
 constexpr int kLookAgain = 200;                 // milliseconds
+constexpr int kSeen = 100;                      // until a window that was shown has been painted
 constexpr std::chrono::milliseconds kFrame{15}; // nobody sees a window halt that long
 
 } // namespace
@@ -72,6 +74,8 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
     connect(events, &QAbstractEventDispatcher::awake, this, [this] { TidyUp(); });
     _awaited.setSingleShot(true);
     _awaited.setInterval(kLookAgain);
+    _ahead.setSingleShot(true);
+    connect(&_ahead, &QTimer::timeout, this, [this] { BuildAhead(); });
     _turnAwaited.setInterval(kFrame);
     connect(&_turnAwaited, &QTimer::timeout, this, [this] { LookForTurn(); });
 
@@ -82,8 +86,8 @@ OptionsWindow::OptionsWindow(std::unique_ptr<KivOptionsSession> session, Options
     if (!ShowPage(KivUnicodeString(_memory.Page()))) _list->setCurrentRow(0);
     BringForward(_list->currentRow()); // the session has just filled it
     connect(_list, &QListWidget::currentRowChanged, this, [this](int row) { PageChosen(row); });
-    const QSize remembered = _memory.Size();
-    resize((remembered.isValid() ? remembered : sizeHint()).boundedTo(FreeSize()));
+    TakePlace();
+    WindowPlace::KeepOnScreen(*this);
 }
 
 OptionsWindow::~OptionsWindow()
@@ -166,6 +170,8 @@ void OptionsWindow::PageChosen(int page)
     if (page < 0 || !_session) return;
     _session->Refill(_session->Pages()[static_cast<std::size_t>(page)]);
     BringForward(page);
+    // The list says itself where it is.
+    if (!_list->hasFocus()) Announcement::Say(*this, PageView(page).accessibleName());
 }
 
 void OptionsWindow::BringForward(int page)
@@ -177,28 +183,34 @@ void OptionsWindow::BringForward(int page)
     PageView(page).setAccessibleName(title);
     _reset->setToolTip(WindowText(_layer ? "RemoveFromLayerHelp" : "ResetHelp").arg(title));
     _reset->setAccessibleDescription(_reset->toolTip());
-    OrderTab();
+    ButtonsLast();
 }
 
 // Pages are built late: without this their fields would come after the buttons.
-void OptionsWindow::OrderTab()
+void OptionsWindow::ButtonsLast()
 {
-    QWidget* last = _list;
-    Qt::FocusPolicy lastPolicy = last->focusPolicy();
-    QList<QWidget*> order;
-    for (int page = 0; page < PageCount(); ++page) order << PageView(page).Fields();
-    order << _reset << _ok << _cancel;
-    for (QWidget* next : order) {
-        // An open padlock has a position as well, for when it closes; without a focus it would be passed
-        // over.
-        const Qt::FocusPolicy policy = next->focusPolicy();
-        next->setFocusPolicy(Qt::StrongFocus);
-        setTabOrder(last, next);
-        last->setFocusPolicy(lastPolicy);
-        lastPolicy = policy;
-        last = next;
+    QWidget* const last = previousInFocusChain();
+    if (last == _cancel) return;
+    const Qt::FocusPolicy policy = last->focusPolicy();
+    last->setFocusPolicy(Qt::StrongFocus); // what cannot have the focus would be passed over
+    setTabOrder(last, _reset);
+    last->setFocusPolicy(policy);
+    setTabOrder(_reset, _ok);
+    setTabOrder(_ok, _cancel);
+}
+
+// The other pages, once this one is seen: in pieces, so that nobody waits for them. Then the largest is
+// known.
+void OptionsWindow::BuildAhead()
+{
+    for (int page = 0; page < PageCount(); ++page) {
+        if (!PageView(page).BuildPart()) continue;
+        _ahead.start(0);
+        return;
     }
-    last->setFocusPolicy(lastPolicy);
+    ButtonsLast();
+    const bool isAsGiven = size() == WindowPlace::OnScreen(*this, QRect(pos(), _given)).size();
+    if (_given.isValid() && isAsGiven) TakePlace();
 }
 
 // Enters the texts that wait, here and in the windows of the pages; a refused one keeps all of them open, and
@@ -282,11 +294,12 @@ void OptionsWindow::reject()
 void OptionsWindow::done(int result)
 {
     if (!_session) return;
+    _ahead.stop();
     _turnAwaited.stop();
     _turn.reset();
-    _memory.Remember(size(), _session->Pages().empty()
-                                 ? KivString()
-                                 : _session->Pages()[static_cast<std::size_t>(CurrentPage())].editor);
+    _memory.Remember(geometry(), _session->Pages().empty()
+                                     ? KivString()
+                                     : _session->Pages()[static_cast<std::size_t>(CurrentPage())].editor);
     hide();
     // Hidden first: nobody has to watch how the pages are taken apart.
     _windows.reset();
@@ -312,9 +325,7 @@ void OptionsWindow::keyPressEvent(QKeyEvent* event)
 
 void OptionsWindow::showEvent(QShowEvent* event)
 {
-    // The frame around it is known only now.
-    const QSize frame = frameGeometry().size() - size();
-    resize(size().boundedTo(FreeSize() - frame));
+    _ahead.start(kSeen);
     QDialog::showEvent(event);
 }
 
@@ -329,22 +340,36 @@ void OptionsWindow::Mend()
     for (KivSettingRepository* repository : KivSettingRepository::Damaged()) repository->Mend();
 }
 
+void OptionsWindow::TakePlace()
+{
+    const QRect remembered = _memory.Place();
+    QRect place(pos(), sizeHint());
+    if (_sheet) place = WindowPlace::Beside(*this, place.size(), *_sheet);
+    place = WindowPlace::OnScreen(*this, remembered.isValid() ? remembered : place);
+    _given = remembered.isValid() ? QSize() : place.size();
+    // Without a position its desktop finds one when it is shown.
+    remembered.isValid() || _sheet || isVisible() ? setGeometry(place) : resize(place.size());
+}
+
+void OptionsWindow::StandBeside(const QWidget& sheet)
+{
+    _sheet = &sheet;
+    TakePlace();
+}
+
+// As large as the largest page needs, as far as they are built.
 QSize OptionsWindow::sizeHint() const
 {
-    // As large as the page that is shown needs.
     const QFontMetrics metrics(font());
-    const QSize usual(kLettersWide * metrics.averageCharWidth(), kLinesHigh * metrics.lineSpacing());
-    const QWidget* surface = CurrentPage() >= 0 ? PageView(CurrentPage()).widget() : nullptr;
-    if (!surface) return usual;
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     const QMargins margins = layout()->contentsMargins();
     const int beside = _list->width() + bar + 2 * (margins.left() + margins.right());
     const int above = _layer ? _layer->sizeHint().height() : 0;
     const int below = _ok->sizeHint().height() + 2 * (margins.top() + margins.bottom());
-    return usual.expandedTo(surface->sizeHint() + QSize(beside, above + below));
-}
-
-QSize OptionsWindow::FreeSize() const
-{
-    return screen()->availableGeometry().size();
+    QSize hint(kLettersWide * metrics.averageCharWidth(), kLinesHigh * metrics.lineSpacing());
+    for (int page = 0; page < PageCount(); ++page) {
+        if (const QWidget* surface = PageView(page).widget())
+            hint = hint.expandedTo(surface->sizeHint() + QSize(beside, above + below));
+    }
+    return hint;
 }

@@ -5,6 +5,7 @@
 #include "Options/KivOptionsSession.h"
 
 #include <QDialog>
+#include <QPointer>
 #include <QTimer>
 
 #include <memory>
@@ -43,6 +44,8 @@ public:
     // long as another program is saving: it says so, everything else goes on, and OK is done afterwards.
     void accept() override;
     void reject() override;
+    // It opens beside that, unless it remembers where it stood the last time.
+    void StandBeside(const QWidget& sheet);
     void done(int result) override;
     QSize sizeHint() const override;
 
@@ -57,17 +60,20 @@ private:
     void Go(int pages);
     void PageChosen(int page);
     void BringForward(int page);
-    void OrderTab();
+    void ButtonsLast();
+    void BuildAhead();
     bool CommitFields();
     void GoTo(QWidget& refused);
     void Reset();
     void Mend();
     void TidyUp();
     void LookForTurn();
-    QSize FreeSize() const;
+    void TakePlace();
 
     std::unique_ptr<KivOptionsSession> _session;
     OptionsMemory _memory;
+    QPointer<const QWidget> _sheet; // beside which it stands, or null
+    QSize _given;                   // the size that it chose for itself; invalid when it is remembered
     QListWidget* _list;
     QStackedWidget* _stack;
     OptionsLayerStrip* _layer = nullptr; // null for a user
@@ -79,5 +85,6 @@ private:
     std::unique_ptr<OptionsSubWindows> _windows; // null after the end
     std::unique_ptr<KivSettingTurn> _turn;       // while OK waits for it
     QTimer _turnAwaited;
+    QTimer _ahead;   // runs while pages are still to be built
     QTimer _awaited; // runs while a directory that a page shows has still to answer
 };

@@ -13,10 +13,11 @@ DraftingOptions::~DraftingOptions()
     Cancel();
 }
 
-OptionsWindow& DraftingOptions::Open(QWidget* parent, const KivUnicodeString& page)
+OptionsWindow& DraftingOptions::Open(QWidget& sheet, const KivUnicodeString& page)
 {
     if (!_window) {
-        _window = new OptionsWindow(NewSession(), OptionsMemory(), parent);
+        _window = new OptionsWindow(NewSession(), OptionsMemory(), sheet.window());
+        _window->StandBeside(sheet);
         // Its session is over by then; the widgets follow when their last event is done.
         QObject::connect(_window, &QDialog::finished, _window, [this] {
             _window->deleteLater();

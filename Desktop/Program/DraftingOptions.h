@@ -18,8 +18,9 @@ public:
     ~DraftingOptions();
 
     // Opens it, or brings the open one to the front, on the page of a name; an empty name stands for the page
-    // that was shown last. What is said while it opens goes to whoever listens.
-    OptionsWindow& Open(QWidget* parent, const KivUnicodeString& page = {});
+    // that was shown last. It opens beside the sheet and belongs to its window. What is said while it opens
+    // goes to whoever listens.
+    OptionsWindow& Open(QWidget& sheet, const KivUnicodeString& page = {});
     // Takes back what was changed in an open one, and closes it.
     void Cancel();
 

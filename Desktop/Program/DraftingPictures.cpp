@@ -69,6 +69,7 @@ bool DraftingPictures::Write(DraftingWindow& window, const KivUnicodeString& pag
         _err << "kivdrafting: " << DraftingText("PicturesNoDirectory").arg(_directory).toStdString() << '\n';
         return false;
     }
+    window.resize(window.sizeHint()); // no screen has to hold it
     window.show();
     if (!Save(window, "drafting")) return false;
 

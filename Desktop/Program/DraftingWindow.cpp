@@ -2,6 +2,7 @@
 
 #include "Common/NativeText.h"
 #include "Common/SettingsWatch.h"
+#include "Common/WindowPlace.h"
 #include "Options/OptionsWindow.h"
 #include "Program/DraftingCommands.h"
 #include "Program/DraftingMessages.h"
@@ -32,7 +33,8 @@ DraftingWindow::DraftingWindow(const SheetSettings& settings, const DraftingDiag
     BuildTree();
     BuildStatus();
     BuildMenus();
-    resize(1180, 760);
+    resize(WindowPlace::OnScreen(*this, QRect(pos(), sizeHint())).size());
+    WindowPlace::KeepOnScreen(*this);
     _sheet->setFocus();
 }
 
@@ -114,7 +116,9 @@ void DraftingWindow::BuildStatus()
 
 void DraftingWindow::OpenOptions(const KivUnicodeString& page)
 {
-    _options.Open(this, page);
+    // The sheet has what was chosen there so far: nothing is lost, and it would wait behind the options.
+    for (auto* const welcome : findChildren<DraftingWelcome*>()) welcome->close();
+    _options.Open(*_sheet, page);
 }
 
 void DraftingWindow::Follow(const SettingsWatch& watch, KivSketcherSettings& sketcher)

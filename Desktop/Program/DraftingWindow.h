@@ -23,6 +23,7 @@ public:
     DraftingWindow(const SheetSettings& settings, const DraftingDiagnostics& diagnostics,
                    const QString& administrator);
 
+    QSize sizeHint() const override { return {1180, 760}; }
     SheetView& Sheet() const { return *_sheet; }
     DraftingOptions& Options() { return _options; }
 

@@ -1,6 +1,7 @@
 #include "Base/KivTextCatalogue.h"
 #include "Common/NativeText.h"
 #include "Common/SettingsWatch.h"
+#include "Common/WindowPlace.h"
 #include "KivDrwSettingAccess.h"
 #include "KivDrwWorkbench.h"
 #include "Parameter/KivNumberFormat.h"
@@ -51,8 +52,12 @@ int ShowWindow(DraftingWindow& window, const KivUnicodeString& page)
         QApplication::quit();
     });
     window.show();
-    window.Welcome();
-    if (!page.IsEmpty()) window.OpenOptions(page);
+    // Who asks for a page is not asked for a new drawing first.
+    if (page.IsEmpty()) {
+        window.Welcome();
+    } else {
+        WindowPlace::WhenPlaced(window, [&window, page] { window.OpenOptions(page); });
+    }
     return QApplication::exec();
 }
 

@@ -1,3 +1,4 @@
+#include "Common/WindowPlace.h"
 #include "Disk/KivFileLock.h"
 #include "Options/OptionsStrips.h"
 #include "OptionsFixture.h"
@@ -20,7 +21,7 @@ TEST_F(OptionsWindows, PagesAreBuiltWhenFirstShownAndKeysWalkThem)
 {
     const int last = window->PageCount() - 1;
     EXPECT_FALSE(window->PageView(0).Fields().isEmpty());
-    EXPECT_TRUE(window->PageView(1).Fields().isEmpty());
+    EXPECT_TRUE(window->PageView(last).Fields().isEmpty());
     QTest::keyClick(Spacing(), Qt::Key_PageDown, Qt::ControlModifier);
     EXPECT_EQ(window->CurrentPage(), 1);
     EXPECT_FALSE(window->PageView(1).Fields().isEmpty());
@@ -30,6 +31,21 @@ TEST_F(OptionsWindows, PagesAreBuiltWhenFirstShownAndKeysWalkThem)
     EXPECT_EQ(window->CurrentPage(), last);
     QTest::keyClick(window.get(), Qt::Key_PageUp, Qt::ControlModifier);
     EXPECT_EQ(window->CurrentPage(), last - 1);
+
+    // The others come without being asked for; then the window has room for the largest.
+    const auto isBuilt = [this] {
+        for (int page = 0; page < window->PageCount(); ++page)
+            if (window->PageView(page).Fields().isEmpty()) return false;
+        return true;
+    };
+    EXPECT_TRUE(QTest::qWaitFor(isBuilt));
+    const QRect free = window->screen()->availableGeometry();
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return window->width() >= std::min(window->sizeHint().width(), free.width() - 20) &&
+               window->height() >= std::min(window->sizeHint().height(), free.height() - 20);
+    }));
+    EXPECT_TRUE(free.contains(window->frameGeometry()));
+
     QTest::keyClick(window.get(), Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_EQ(window->CurrentPage(), last);
     QTest::keyClick(window.get(), Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
@@ -233,23 +249,40 @@ TEST_F(OptionsWindows, ResetFillsTheShownPageAndF1ShowsTheLongHelp)
     EXPECT_TRUE(window->isVisible());
 }
 
-TEST_F(OptionsWindows, SizeAndPageAreRememberedAndNeverTooLarge)
+TEST_F(OptionsWindows, OpensBesideTheSheetWhereThereIsRoom)
+{
+    const QRect free = window->screen()->availableGeometry();
+    const QSize size(free.width() / 2, free.height() / 3);
+    for (const QRect& sheet : {QRect(free.x(), free.y(), free.width() / 4, free.height()),
+                               QRect(free.right() - free.width() / 4, free.y(), free.width() / 4, 300),
+                               QRect(free.x(), free.y() + 20, free.width(), free.height() / 4), free}) {
+        QWidget other;
+        other.setGeometry(sheet);
+        const QRect place = WindowPlace::Beside(*window, size, other);
+        EXPECT_TRUE(free.contains(place));
+        EXPECT_EQ(place.intersects(other.geometry()), sheet == free);
+    }
+}
+
+TEST_F(OptionsWindows, PlaceAndPageAreRememberedAndNeverTooLarge)
 {
     const QTemporaryDir directory;
     const OptionsMemory memory(directory.filePath("desktop.ini"));
     OpenAt("General", memory);
-    window->resize(window->screen()->availableGeometry().size() * 3 / 4);
-    const QSize chosen = window->size();
+    const QRect free = window->screen()->availableGeometry();
+    const QRect chosen(free.topLeft() + QPoint(40, 30), free.size() * 3 / 4);
+    window->setGeometry(chosen);
     window->ShowPage("Geometry");
     const int page = window->CurrentPage();
     window->reject();
     OpenAt(nullptr, memory);
-    EXPECT_EQ(window->size(), chosen);
+    EXPECT_EQ(window->geometry(), chosen);
     EXPECT_EQ(window->CurrentPage(), page);
     window->resize(100, 100000);
     window->reject();
     OpenAt(nullptr, memory);
-    EXPECT_LE(window->height(), window->screen()->availableGeometry().height());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return free.contains(window->frameGeometry()); }))
+        << "the frame is known when it is shown";
     OpenAt("General", OptionsMemory("/proc/nowhere/desktop.ini"));
     window->reject();
     EXPECT_FALSE(window->isVisible());
