@@ -144,30 +144,17 @@ HRESULT KivSettingRepository::Write(const char* key, const T* value, long count,
     return KivGuarded([&] { return Store().Write(key, *value, _isInitial) ? S_OK : E_FAIL; }, E_FAIL);
 }
 
-HRESULT KivSettingRepository::ReadSetting(const char* key, int* value, long count) const
-{
-    return Read(key, value, count);
-}
-HRESULT KivSettingRepository::ReadSetting(const char* key, unsigned int* value, long count) const
-{
-    return Read(key, value, count);
-}
-HRESULT KivSettingRepository::ReadSetting(const char* key, float* value, long count) const
-{
-    return Read(key, value, count);
-}
-HRESULT KivSettingRepository::ReadSetting(const char* key, double* value, long count) const
-{
-    return Read(key, value, count);
-}
-HRESULT KivSettingRepository::ReadSetting(const char* key, KivUnicodeString* value, long count) const
-{
-    return Read(key, value, count);
-}
-HRESULT KivSettingRepository::ReadSetting(const char* key, KivSettingValue* value, long count) const
-{
-    return Read(key, value, count);
-}
+template HRESULT KivSettingRepository::Read(const char*, int*, long) const;
+template HRESULT KivSettingRepository::Read(const char*, unsigned int*, long) const;
+template HRESULT KivSettingRepository::Read(const char*, float*, long) const;
+template HRESULT KivSettingRepository::Read(const char*, double*, long) const;
+template HRESULT KivSettingRepository::Read(const char*, KivUnicodeString*, long) const;
+template HRESULT KivSettingRepository::Read(const char*, KivSettingValue*, long) const;
+template HRESULT KivSettingRepository::Write(const char*, const int*, long, int);
+template HRESULT KivSettingRepository::Write(const char*, const unsigned int*, long, int);
+template HRESULT KivSettingRepository::Write(const char*, const float*, long, int);
+template HRESULT KivSettingRepository::Write(const char*, const double*, long, int);
+template HRESULT KivSettingRepository::Write(const char*, const KivUnicodeString*, long, int);
 
 void KivSettingRepository::BindKeys(std::span<const char* const> keys)
 {
@@ -176,28 +163,6 @@ void KivSettingRepository::BindKeys(std::span<const char* const> keys)
     _shown = {}; // until the first read: who opens a repository to ask for one key does not pay for all
 }
 
-HRESULT KivSettingRepository::WriteSetting(const char* key, const int* value, long count, int reserved)
-{
-    return Write(key, value, count, reserved);
-}
-HRESULT KivSettingRepository::WriteSetting(const char* key, const unsigned int* value, long count,
-                                           int reserved)
-{
-    return Write(key, value, count, reserved);
-}
-HRESULT KivSettingRepository::WriteSetting(const char* key, const float* value, long count, int reserved)
-{
-    return Write(key, value, count, reserved);
-}
-HRESULT KivSettingRepository::WriteSetting(const char* key, const double* value, long count, int reserved)
-{
-    return Write(key, value, count, reserved);
-}
-HRESULT KivSettingRepository::WriteSetting(const char* key, const KivUnicodeString* value, long count,
-                                           int reserved)
-{
-    return Write(key, value, count, reserved);
-}
 HRESULT KivSettingRepository::WriteSetting(const char* key, const KivSettingValue* value, long count,
                                            int reserved)
 {

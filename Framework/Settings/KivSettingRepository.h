@@ -45,22 +45,46 @@ public:
 
     // Reads one value into the caller's variable. E_FAIL, and the variable untouched, when the key is absent,
     // of another type, or count is not 1.
-    HRESULT ReadSetting(const char* key, int* value, long count) const;
-    HRESULT ReadSetting(const char* key, unsigned int* value, long count) const;
-    HRESULT ReadSetting(const char* key, float* value, long count) const;
-    HRESULT ReadSetting(const char* key, double* value, long count) const;
-    HRESULT ReadSetting(const char* key, KivUnicodeString* value, long count) const;
+    HRESULT ReadSetting(const char* key, int* value, long count) const { return Read(key, value, count); }
+    HRESULT ReadSetting(const char* key, unsigned int* value, long count) const
+    {
+        return Read(key, value, count);
+    }
+    HRESULT ReadSetting(const char* key, float* value, long count) const { return Read(key, value, count); }
+    HRESULT ReadSetting(const char* key, double* value, long count) const { return Read(key, value, count); }
+    HRESULT ReadSetting(const char* key, KivUnicodeString* value, long count) const
+    {
+        return Read(key, value, count);
+    }
     // The same for a value of the type that the variable holds, or of any type if it holds none.
-    HRESULT ReadSetting(const char* key, KivSettingValue* value, long count) const;
+    HRESULT ReadSetting(const char* key, KivSettingValue* value, long count) const
+    {
+        return Read(key, value, count);
+    }
 
     // Writes one value into the working state as the user's; a value of another type is replaced. E_FAIL, and
     // nothing changed, when the key is locked, is no plain identifier, the value is not finite, or count is
     // not 1. The last argument is the framework's and has to be 0.
-    HRESULT WriteSetting(const char* key, const int* value, long count, int reserved);
-    HRESULT WriteSetting(const char* key, const unsigned int* value, long count, int reserved);
-    HRESULT WriteSetting(const char* key, const float* value, long count, int reserved);
-    HRESULT WriteSetting(const char* key, const double* value, long count, int reserved);
-    HRESULT WriteSetting(const char* key, const KivUnicodeString* value, long count, int reserved);
+    HRESULT WriteSetting(const char* key, const int* value, long count, int reserved)
+    {
+        return Write(key, value, count, reserved);
+    }
+    HRESULT WriteSetting(const char* key, const unsigned int* value, long count, int reserved)
+    {
+        return Write(key, value, count, reserved);
+    }
+    HRESULT WriteSetting(const char* key, const float* value, long count, int reserved)
+    {
+        return Write(key, value, count, reserved);
+    }
+    HRESULT WriteSetting(const char* key, const double* value, long count, int reserved)
+    {
+        return Write(key, value, count, reserved);
+    }
+    HRESULT WriteSetting(const char* key, const KivUnicodeString* value, long count, int reserved)
+    {
+        return Write(key, value, count, reserved);
+    }
     // The same for a value of any type; no value fails.
     HRESULT WriteSetting(const char* key, const KivSettingValue* value, long count, int reserved);
 
