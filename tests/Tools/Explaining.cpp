@@ -1,4 +1,4 @@
-#include "KivDrwOptionsServices.h"
+#include "KivDrwWorkbench.h"
 #include "ToolFixture.h"
 
 #include <set>
