@@ -1,6 +1,7 @@
 #include "Native/NativeDirectoryRow.h"
 
 #include "Common/NativeText.h"
+#include "Native/NativeDescription.h"
 #include "Native/NativeEditor.h"
 
 #include <QBoxLayout>
@@ -42,7 +43,9 @@ void NativeDirectoryButton::Follow()
     setEnabled(_field.isEnabled());
     // A gray one has the reason of its field.
     setToolTip(isEnabled() ? accessibleName() : _field.toolTip());
-    setAccessibleDescription(isEnabled() ? QString() : _field.accessibleDescription());
+    const auto* piece = dynamic_cast<NativePiece*>(&_field);
+    const KivDialog* node = piece ? piece->Node() : nullptr;
+    setAccessibleDescription(isEnabled() || !node ? QString() : NativeDescription(*node).Tip());
 }
 
 NativeDirectoryRow::NativeDirectoryRow(KivDialog& node, QWidget* parent)
