@@ -1,5 +1,6 @@
 #include "Native/NativeColorCombo.h"
 
+#include "Common/DialogKeyboard.h"
 #include "Common/IconEngine.h"
 #include "Common/NativeText.h"
 #include "Dialog/KivUserHand.h"
@@ -104,7 +105,7 @@ QColorDialog* NativeColorCombo::OpenMixer()
             KivUserHand::ChooseColor(*Combo(), Part(chosen.red()), Part(chosen.green()), Part(chosen.blue()));
     });
     // The popup of the combo has the keyboard until the event is over that chose the entry.
-    QMetaObject::invokeMethod(mixer, &QDialog::open, Qt::QueuedConnection);
+    DialogKeyboard::OpenAfterEvent(*mixer);
     return mixer;
 }
 

@@ -1,5 +1,6 @@
 #include "Native/NativeDialog.h"
 
+#include "Common/DialogKeyboard.h"
 #include "Common/NativeText.h"
 #include "Common/WindowPlace.h"
 #include "Dialog/KivUserHand.h"
@@ -93,8 +94,10 @@ void NativeDialog::closeEvent(QCloseEvent* event)
 
 void NativeDialog::hideEvent(QHideEvent* event)
 {
-    if (!event->spontaneous()) _memory.RememberWindow(_memoryName, geometry());
     QDialog::hideEvent(event);
+    if (event->spontaneous()) return;
+    _memory.RememberWindow(_memoryName, geometry());
+    DialogKeyboard::GiveBack(*this);
 }
 
 void NativeDialog::keyPressEvent(QKeyEvent* event)

@@ -1,5 +1,6 @@
 #include "Native/NativeEditor.h"
 
+#include "Common/DialogKeyboard.h"
 #include "Common/NativeText.h"
 #include "Common/ReachablePath.h"
 #include "Dialog/KivUserHand.h"
@@ -63,7 +64,7 @@ QFileDialog* NativeEditor::OpenChooser()
     chooser->setFileMode(QFileDialog::Directory);
     chooser->setOption(QFileDialog::ShowDirsOnly);
     connect(chooser, &QFileDialog::fileSelected, this, &NativeEditor::Enter);
-    QMetaObject::invokeMethod(chooser, &QDialog::open, Qt::QueuedConnection); // as in NativeColorCombo
+    DialogKeyboard::OpenAfterEvent(*chooser); // as in NativeColorCombo
     return chooser;
 }
 

@@ -1,5 +1,6 @@
 #include "Program/DraftingWindow.h"
 
+#include "Common/DialogKeyboard.h"
 #include "Common/NativeText.h"
 #include "Common/SettingsWatch.h"
 #include "Common/WindowPlace.h"
@@ -21,11 +22,21 @@
 #include <QStatusBar>
 #include <cmath>
 
-DraftingWindow::DraftingWindow(const SheetSettings& settings, const DraftingDiagnostics& diagnostics,
-                               const QString& administrator)
-    : _settings(settings), _diagnostics(diagnostics), _sheet(new SheetView(settings))
+namespace {
+
+// Whoever asks a widget what it is keeps the answer, even that of its base class.
+SheetView* MakeSheet(const SheetSettings& settings)
 {
     SheetAccessible::Install();
+    return new SheetView(settings);
+}
+
+} // namespace
+
+DraftingWindow::DraftingWindow(const SheetSettings& settings, const DraftingDiagnostics& diagnostics,
+                               const QString& administrator)
+    : _settings(settings), _diagnostics(diagnostics), _sheet(MakeSheet(settings))
+{
     setObjectName("drafting");
     setWindowTitle(administrator.isEmpty() ? DraftingText("WindowTitle")
                                            : DraftingText("WindowTitleAdministrator").arg(administrator));
@@ -149,8 +160,7 @@ void DraftingWindow::OpenAbout()
     auto* const about = new QMessageBox(QMessageBox::NoIcon, DraftingText("AboutTitle"),
                                         DraftingText("AboutText").arg(KIV_VERSION), QMessageBox::Close, this);
     about->setAttribute(Qt::WA_DeleteOnClose);
-    QMetaObject::invokeMethod(about, &QDialog::open,
-                              Qt::QueuedConnection); // once the menu has let go of the keyboard
+    DialogKeyboard::OpenAfterEvent(*about); // the menu has the keyboard until then
 }
 
 void DraftingWindow::closeEvent(QCloseEvent* event)

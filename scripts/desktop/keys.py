@@ -25,6 +25,7 @@ def a_custom_color_is_mixed_by_keys_alone(desk):
             desk.window(MIXER)
             desk.key("Escape")
             wait(lambda: not titled(desk, MIXER), f"the mixer to close (opening {opening + 1})")
+            wait(lambda: desk.active().startswith("Options"), f"the keyboard to come back ({opening + 1})")
             desk.key("ctrl+Page_Down", "ctrl+Page_Up")
     wait(lambda: desk.active().startswith("Options"), "the options to be active again")
     desk.key("Escape")

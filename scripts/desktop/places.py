@@ -49,7 +49,9 @@ def the_options_stand_beside_the_sheet_and_come_back_there(desk):
     desk.activate("^Drafting")
     desk.key("ctrl+comma")
     first = settled(desk, OPTIONS)
-    expect(not overlap(first, settled(desk, "^Drafting")), "the options cover the sheet though there is room")
+    sheet = desk.find("dial", "^Sheet").get_extents(desk.atspi.CoordType.SCREEN)
+    expect(not overlap(first, (sheet.x, sheet.y, sheet.width, sheet.height)),
+           "the options cover the sheet though there is room")
     window = desk.window(OPTIONS)
     desk.ask("xdotool", "windowmove", "--sync", window, str(first[0] - 40), str(first[1] + 60))
     moved = settled(desk, OPTIONS)
