@@ -3,9 +3,13 @@
 #include <QAccessible>
 #include <QAccessibleInterface>
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
 namespace {
+
+// What gets the focus is said first, and silences what was said before.
+constexpr int kAfterFocus = 150; // milliseconds
 
 // Nothing that is seen: a notification of the window, which screen readers say when it appears.
 class Notification : public QAccessibleInterface {
@@ -44,9 +48,12 @@ void Announcement::Say(const QWidget& widget, const QString& text)
     if (text.isEmpty() || !QAccessible::isActive()) return;
     // It is asked for its text later; the one before has been said by now.
     static QAccessible::Id last = 0;
-    if (last) QAccessible::deleteAccessibleInterface(last);
-    QAccessibleInterface* const notification = new Notification(*widget.window(), text); // Qt owns it
-    last = QAccessible::registerAccessibleInterface(notification);
-    QAccessibleEvent appears(notification, QAccessible::ObjectShow);
-    QAccessible::updateAccessibility(&appears);
+    QWidget* const window = widget.window();
+    QTimer::singleShot(kAfterFocus, window, [window, text] {
+        if (last) QAccessible::deleteAccessibleInterface(last);
+        QAccessibleInterface* const notification = new Notification(*window, text); // Qt owns it
+        last = QAccessible::registerAccessibleInterface(notification);
+        QAccessibleEvent appears(notification, QAccessible::ObjectShow);
+        QAccessible::updateAccessibility(&appears);
+    });
 }

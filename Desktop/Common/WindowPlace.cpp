@@ -34,7 +34,7 @@ int Covered(const QRect& one, const QRect& other)
     return common.width() * common.height();
 }
 
-// Waits for the frame after each showing, and as long as the window stands for what its desktop does to it.
+// Looks for a while after each showing: the desktop puts a frame around the window then, and may move it.
 class Keeper : public QObject {
 public:
     explicit Keeper(QWidget& window) : QObject(&window), _window(window)
@@ -47,7 +47,6 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (event->type() == QEvent::Show && watched == &_window) {
-            _known = QMargins();
             _looks = kLooks;
             _timer.start();
             // An exposure tells of the frame earlier than the timer would.
@@ -61,11 +60,9 @@ public:
 private:
     void Look()
     {
+        if (!_timer.isActive()) return; // from now on it stands where a person puts it
         if (--_looks <= 0) _timer.stop();
-        const QWindow* handle = _window.windowHandle();
-        if (!_window.isVisible() || !handle || handle->frameMargins() == _known) return;
-        _known = handle->frameMargins();
-        _timer.stop();
+        if (!_window.isVisible()) return;
         // What does not fit even without a frame was made so.
         const QSize free = _window.screen()->availableGeometry().size();
         if (_window.size().boundedTo(free) != _window.size()) return;
@@ -74,7 +71,6 @@ private:
     }
 
     QWidget& _window;
-    QMargins _known;
     QTimer _timer;
     int _looks = 0;
 };

@@ -35,8 +35,14 @@ class Reader:
         """Does it, and waits until all of that was said."""
         self.hush()
         action()
+        def heard(pattern):
+            if re.search(pattern, self.said()):
+                return True
+            time.sleep(0.5)
+            self.desk.key("Shift_L")  # what it has said comes out with what it says next
+            return False
         for pattern in wanted:
-            wait(lambda: re.search(pattern, self.said()), lambda: f'"{pattern}" to be said, heard: {self.said()!r}')
+            wait(lambda: heard(pattern), lambda: f'"{pattern}" to be said, heard: {self.said()!r}')
 
 
 def a_page_is_read(desk):
