@@ -137,48 +137,57 @@ QPalette PaletteOf(const Tones& tones)
     return palette;
 }
 
+constexpr QColor kWhite(255, 255, 255), kBlack(0, 0, 0);
+
+// In the order of DraftingScheme, behind the system's: how edges stand out, and the tones. Fusion draws edges
+// darker than the window: a dark one must not be too dark itself, or they are not seen.
+const struct {
+    double edges;
+    Tones tones;
+} kSchemes[] = {
+    {0.0,
+     {{240, 241, 243},
+      kWhite,
+      {246, 247, 249},
+      {233, 235, 238},
+      {28, 30, 33},
+      {128, 132, 138},
+      {38, 110, 190},
+      kWhite,
+      {20, 90, 170}}},
+    {kDisabled,
+     {{60, 63, 68},
+      {34, 36, 40},
+      {42, 44, 49},
+      {74, 77, 83},
+      {234, 235, 237},
+      {150, 154, 160},
+      {49, 115, 194},
+      kWhite,
+      {110, 170, 240}}},
+    {kStrong,
+     {kBlack,
+      kBlack,
+      {24, 24, 24},
+      {32, 32, 32},
+      kWhite,
+      {170, 170, 170},
+      {255, 214, 0},
+      kBlack,
+      {120, 210, 255}}},
+};
+
 } // namespace
 
 void ApplyScheme(DraftingScheme scheme)
 {
-    static constexpr QColor kWhite(255, 255, 255), kBlack(0, 0, 0);
-    switch (scheme) {
-    case DraftingScheme::System:
+    if (scheme == DraftingScheme::System) {
         // A desktop's own style knows what its colors need.
         if (QApplication::style()->name() == u"fusion") QApplication::setStyle(new IndicatorStyle);
-        return QApplication::setPalette(Readable(QApplication::palette()));
-    case DraftingScheme::Light:
-        QApplication::setStyle(new IndicatorStyle);
-        return QApplication::setPalette(Readable(PaletteOf({{240, 241, 243},
-                                                            kWhite,
-                                                            {246, 247, 249},
-                                                            {233, 235, 238},
-                                                            {28, 30, 33},
-                                                            {128, 132, 138},
-                                                            {38, 110, 190},
-                                                            kWhite,
-                                                            {20, 90, 170}})));
-    case DraftingScheme::Dark:
-        QApplication::setStyle(new IndicatorStyle(kDisabled));
-        return QApplication::setPalette(Readable(PaletteOf({{60, 63, 68},
-                                                            {34, 36, 40},
-                                                            {42, 44, 49},
-                                                            {74, 77, 83},
-                                                            {234, 235, 237},
-                                                            {150, 154, 160},
-                                                            {49, 115, 194},
-                                                            kWhite,
-                                                            {110, 170, 240}})));
-    case DraftingScheme::Contrast:
-        QApplication::setStyle(new IndicatorStyle(kStrong));
-        return QApplication::setPalette(PaletteOf({kBlack,
-                                                   kBlack,
-                                                   {24, 24, 24},
-                                                   {32, 32, 32},
-                                                   kWhite,
-                                                   {170, 170, 170},
-                                                   {255, 214, 0},
-                                                   kBlack,
-                                                   {120, 210, 255}}));
+        QApplication::setPalette(Readable(QApplication::palette()));
+        return;
     }
+    const auto& [edges, tones] = kSchemes[static_cast<int>(scheme) - 1];
+    QApplication::setStyle(new IndicatorStyle(edges));
+    QApplication::setPalette(Readable(PaletteOf(tones)));
 }
